@@ -1,0 +1,94 @@
+#include "forms/desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace halvenmoor::forms {
+
+Desktop::Desktop(Toolkit& toolkit, SortKey sortKey) : toolkit_(toolkit), sortKey_(std::move(sortKey)) {
+}
+
+void Desktop::Show(Form& form) {
+    Open(form);
+    Deliver(form, [&form] { form.Activate(); });
+}
+
+void Desktop::ShowModal(Form& form) {
+    if (ended_) return;
+    Open(form);
+    toolkit_.RunModal(form, [this, &form] { Deliver(form, [&form] { form.Activate(); }); });
+    form.view_.reset();
+    if (open_.size() == 1) Deliver(*open_.front(), [this] { open_.front()->Activate(); });
+}
+
+void Desktop::Open(Form& form) {
+    form.view_ = toolkit_.CreateView(form);
+    open_.push_back(&form);
+    form.open_ = true;
+    Raise([&form] { form.Load(); });
+    if (!Accepts(form)) return;
+    if (form.active_ == nullptr) form.PassFocusOn();
+    form.view_->Update();
+    form.view_->Show();
+}
+
+bool Desktop::Close(Form& form, CloseReason reason) {
+    if (!form.IsOpen()) return true;
+    bool allowed = true;
+    Raise([&] { allowed = form.QueryClose(reason); });
+    if (!allowed) return false;
+    if (!form.IsOpen()) return true;
+    const bool isMain = open_.front() == &form;
+    Forget(form);
+    form.view_->Hide();
+    if (isMain) End();
+    return true;
+}
+
+bool Desktop::CloseAll() {
+    const std::vector<Form*> forms(open_.rbegin(), open_.rend());
+    return std::all_of(forms.begin(), forms.end(),
+                       [this](Form* form) { return Close(*form, CloseReason::System); });
+}
+
+void Desktop::End() {
+    ended_ = true;
+    for (Form* form : std::exchange(open_, {})) {
+        form->open_ = false;
+        form->view_->Hide();
+    }
+}
+
+void Desktop::Yield(double waitSeconds) {
+    Refresh();
+    toolkit_.HandleEvents(waitSeconds);
+}
+
+bool Desktop::Deliver(Form& form, const std::function<void()>& event) {
+    if (!Accepts(form)) return false;
+    Raise(event);
+    Refresh();
+    return true;
+}
+
+void Desktop::Raise(const std::function<void()>& handler) noexcept {
+    try {
+        if (handler) handler();
+    } catch (...) {
+        // What a handler does not catch ends its event, and nothing else.
+    }
+}
+
+bool Desktop::Accepts(const Form& form) const {
+    return !open_.empty() && open_.back() == &form;
+}
+
+void Desktop::Forget(Form& form) {
+    open_.erase(std::remove(open_.begin(), open_.end(), &form), open_.end());
+}
+
+void Desktop::Refresh() {
+    for (Form* form : open_) form->view_->Update();
+}
+
+}  // namespace halvenmoor::forms

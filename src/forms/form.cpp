@@ -1,0 +1,102 @@
+#include "forms/form.h"
+
+#include "forms/desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace halvenmoor::forms {
+
+Form::Form(Desktop& desktop, FormDesign design)
+    : desktop_(desktop), design_(std::move(design)), caption_(design_.title) {
+}
+
+Form::~Form() {
+    desktop_.Forget(*this);
+}
+
+void Form::SetCaption(std::string caption) {
+    caption_ = std::move(caption);
+}
+
+Point Form::Position() const {
+    return view_ && !moved_ ? view_->Position() : position_;
+}
+
+void Form::MoveTo(Point position) {
+    position_ = position;
+    moved_ = true;
+}
+
+std::optional<Point> Form::TakeMove() {
+    if (!moved_) return std::nullopt;
+    moved_ = false;
+    return position_;
+}
+
+void Form::Unload() {
+    desktop_.Close(*this, CloseReason::Program);
+}
+
+bool Form::UserClose() {
+    if (!design_.closeBox) return false;
+    return desktop_.Deliver(*this, [this] { desktop_.Close(*this, CloseReason::User); });
+}
+
+bool Form::UserEscape() {
+    return cancelButton_ != nullptr && cancelButton_->UserPress();
+}
+
+bool Form::UserKeyPress(char32_t key) {
+    if (!design_.keyPreview) return false;
+    bool consumed = false;
+    desktop_.Deliver(*this, [&] { consumed = KeyPress(key); });
+    return consumed;
+}
+
+void Form::Painted() {
+    Desktop::Raise([this] { Paint(); });
+    if (view_ && HasChanges()) view_->Update();
+}
+
+std::vector<Control*> Form::TakeChanges() {
+    return std::exchange(changed_, {});
+}
+
+bool Form::KeyPress(char32_t) {
+    return false;
+}
+
+bool Form::QueryClose(CloseReason) {
+    return true;
+}
+
+void Form::Mark(Control& control) {
+    if (std::find(changed_.begin(), changed_.end(), &control) == changed_.end()) changed_.push_back(&control);
+}
+
+void Form::FocusOn(Control* control) {
+    if (control == active_) return;
+    Control* const before = std::exchange(active_, control);
+    if (before != nullptr) Desktop::Raise(before->OnLostFocus);
+    if (active_ == control && control != nullptr) Desktop::Raise(control->OnGotFocus);
+}
+
+std::vector<Control*> Form::InTabOrder() const {
+    std::vector<Control*> ordered = controls_;
+    std::stable_sort(ordered.begin(), ordered.end(), [](const Control* a, const Control* b) {
+        return a->AtDesign().tab < b->AtDesign().tab;
+    });
+    return ordered;
+}
+
+void Form::PassFocusOn() {
+    std::vector<Control*> ordered = InTabOrder();
+    const auto present = std::find(ordered.begin(), ordered.end(), active_);
+    if (present != ordered.end()) std::rotate(ordered.begin(), present, ordered.end());
+    const auto next = std::find_if(ordered.begin(), ordered.end(),
+                                   [](const Control* control) { return control->CanTakeFocus(); });
+    FocusOn(next != ordered.end() ? *next : nullptr);
+}
+
+}  // namespace halvenmoor::forms

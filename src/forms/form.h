@@ -1,0 +1,112 @@
+#pragma once
+
+#include "forms/controls.h"
+#include "forms/geometry.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace halvenmoor::forms {
+
+class Desktop;
+class View;
+
+/// Who asks a window to close: its close control, the program, or the system that shuts down.
+enum class CloseReason { User, Program, System };
+
+/// A window as its table gives it. All windows are fixed in size.
+struct FormDesign {
+    std::string name;
+    std::string title;
+    Twips width = 0;
+    Twips height = 0;
+    bool icon = true;
+    bool closeBox = true;
+    bool toolWindow = false;
+    /// The window receives key presses before its controls do.
+    bool keyPreview = false;
+};
+
+/// A window made of controls. A window's own class derives from it and overrides the events it needs.
+class Form {
+public:
+    Form(Desktop& desktop, FormDesign design);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const FormDesign& AtDesign() const { return design_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+    /// Where the window's corner really is, also after the user has moved it.
+    Point Position() const;
+    void MoveTo(Point position);
+    /// Where the program moved the window since the last call.
+    std::optional<Point> TakeMove();
+    /// From its loading until it closes.
+    bool IsOpen() const { return open_; }
+
+    /// In the order of the window's table.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    /// The control that has the focus; none before the window opens or when no control can take it.
+    Control* ActiveControl() const { return active_; }
+    /// The button that the Escape key presses.
+    CommandButton* CancelButton() const { return cancelButton_; }
+    void SetCancelButton(CommandButton* button) { cancelButton_ = button; }
+
+    Desktop& Owner() const { return desktop_; }
+    /// None before the window is built and after it is gone.
+    forms::View* View() const { return view_.get(); }
+    /// The program closes the window; QueryClose may refuse.
+    void Unload();
+
+    bool UserClose();
+    bool UserEscape();
+    /// A character that the user typed; true when the window consumed it.
+    bool UserKeyPress(char32_t key);
+    /// The window is being painted.
+    void Painted();
+
+    /// The controls changed since the last call, each once.
+    std::vector<Control*> TakeChanges();
+    bool HasChanges() const { return !changed_.empty(); }
+
+protected:
+    /// Before the window is shown.
+    virtual void Load() {}
+    /// Once for a dialog, inside its modal loop. For the main window at its first showing and each time one
+    /// of the program's modal windows has closed.
+    virtual void Activate() {}
+    virtual void Paint() {}
+    /// A true result consumes the key. Only with FormDesign::keyPreview.
+    virtual bool KeyPress(char32_t key);
+    /// A false result keeps the window open.
+    virtual bool QueryClose(CloseReason reason);
+
+private:
+    friend class Control;
+    friend class Desktop;
+
+    void Add(Control& control) { controls_.push_back(&control); }
+    void Mark(Control& control);
+    void FocusOn(Control* control);
+    /// Moves the focus to the next control in the tab order that can take it.
+    void PassFocusOn();
+    std::vector<Control*> InTabOrder() const;
+
+    Desktop& desktop_;
+    const FormDesign design_;
+    std::string caption_;
+    Point position_;
+    bool moved_ = false;
+    bool open_ = false;
+    std::vector<Control*> controls_;
+    std::vector<Control*> changed_;
+    Control* active_ = nullptr;
+    CommandButton* cancelButton_ = nullptr;
+    std::unique_ptr<forms::View> view_;
+};
+
+}  // namespace halvenmoor::forms

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvenmoor::forms {
+
+/// Gives the key by which lists order their items: texts with equal keys are ordered by their bytes.
+using SortKey = std::function<std::string(std::string_view)>;
+
+/// Texts in ascending order, each with a selection flag.
+class SortedItems {
+public:
+    struct Item {
+        std::string text;
+        std::string key;
+        bool selected = false;
+    };
+
+    /// Positions are 16-bit numbers.
+    static constexpr int kMaxCount = 32767;
+
+    explicit SortedItems(SortKey sortKey) : sortKey_(std::move(sortKey)) {}
+
+    int Count() const { return static_cast<int>(items_.size()); }
+    const Item& At(int index) const { return items_.at(static_cast<std::size_t>(index)); }
+    Item& At(int index) { return items_.at(static_cast<std::size_t>(index)); }
+
+    /// Adds the text and returns its position. Throws std::length_error when the list is full.
+    int Add(std::string text);
+    /// Adds all texts with one sort. Throws std::length_error when the list is full; what fitted stays.
+    void Add(std::vector<std::string> texts);
+    void Remove(int index);
+    /// Removes the items at these ascending positions in one pass and returns them.
+    std::vector<Item> Take(const std::vector<int>& positions);
+    void Clear() { items_.clear(); }
+
+private:
+    SortKey sortKey_;
+    std::vector<Item> items_;
+};
+
+}  // namespace halvenmoor::forms

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "forms/geometry.h"
+
+#include <functional>
+#include <memory>
+
+namespace halvenmoor::forms {
+
+class Canvas;
+class Form;
+class ListBox;
+class PictureBox;
+
+/// A form on the screen. It copies state out of the form, forwards what the user does to the User… members
+/// of form and controls, and decides nothing.
+class View {
+public:
+    virtual ~View() = default;
+
+    virtual void Show() = 0;
+    virtual void Hide() = 0;
+    /// Copies out the form's caption, its move, the changed controls and the focus, in this order. Nothing
+    /// that it sets may come back as an action of the user.
+    virtual void Update() = 0;
+    virtual Point Position() const = 0;
+    virtual int TopIndex(const ListBox& list) const = 0;
+    /// The canvas lives as long as the view.
+    virtual forms::Canvas& Canvas(PictureBox& box) = 0;
+};
+
+/// What a window system does for the forms layer.
+class Toolkit {
+public:
+    virtual ~Toolkit() = default;
+
+    /// Builds the form's window from its design, hidden.
+    virtual std::unique_ptr<View> CreateView(Form& form) = 0;
+    /// Calls first as the first event, then runs events until the form is closed.
+    virtual void RunModal(Form& form, const std::function<void()>& first) = 0;
+    /// Handles the events that are waiting; then waits for more, but not longer than the given seconds (0:
+    /// not at all).
+    virtual void HandleEvents(double waitSeconds) = 0;
+};
+
+}  // namespace halvenmoor::forms
