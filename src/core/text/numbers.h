@@ -18,8 +18,8 @@ double LeadingNumber(std::string_view text) noexcept;
 /// ".5" and "5."), and an optional exponent with E or D. Blanks are not accepted.
 bool IsNumericText(std::string_view text, std::string_view decimalSeparator) noexcept;
 
-/// A number as text: up to 15 significant digits, no separator in a whole number, and an exponent as in 1E+20
-/// where more than 15 places would be needed. Throws Failure(Overflow) unless the number is finite.
+/// A number as text: up to 15 significant digits, no separator in a whole number, and an exponent, as in
+/// 1E+20 or 1E-05, from 1E+15 on and below 0.0001. Throws Failure(Overflow) unless the number is finite.
 std::string GeneralNumber(double number, std::string_view decimalSeparator);
 
 [[noreturn]] void ThrowOverflow();

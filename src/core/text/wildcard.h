@@ -43,7 +43,7 @@ private:
 
     void Parse(std::u32string_view pattern);
     void AddList(std::u32string_view content);
-    void AddElement(char32_t element);
+    void AddSingle(char32_t element);
     bool Accepts(char32_t element, char32_t character) const noexcept;
 
     const CodePage* page_;
