@@ -9,6 +9,7 @@ namespace halvenmoor {
 namespace failure {
 inline constexpr int Overflow = 6;
 inline constexpr int OutOfMemory = 7;
+inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
 inline constexpr int FileAccess = 57;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <limits>
@@ -31,6 +32,20 @@ inline std::int16_t CheckedInt16(long long value) {
         ThrowOverflow();
     }
     return static_cast<std::int16_t>(value);
+}
+
+/// The value as a 32-bit number; throws Failure(Overflow) if it does not fit.
+inline std::int32_t CheckedInt32(long long value) {
+    if (value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
+        ThrowOverflow();
+    }
+    return static_cast<std::int32_t>(value);
+}
+
+/// The nearest whole number; a half goes to the even neighbour.
+inline long long RoundHalfEven(double number) {
+    return std::llrint(number);
 }
 
 /// The sum in the type of the first addend (16 or 32 bits); throws Failure(Overflow) if it does not fit.

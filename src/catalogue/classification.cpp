@@ -1,0 +1,64 @@
+#include "catalogue/classification.h"
+
+#include "catalogue/frmMain.h"
+#include "core/text/compare.h"
+#include "core/text/wildcard.h"
+
+#include <exception>
+
+namespace halvenmoor {
+
+namespace {
+
+/// The file names of the entries, folded once for all patterns.
+std::vector<std::u32string> FoldedFileNames(const forms::ListBox& list, const text::CodePage& codePage) {
+    std::vector<std::u32string> names;
+    names.reserve(static_cast<std::size_t>(list.ListCount()));
+    for (int i = 0; i < list.ListCount(); ++i) {
+        names.push_back(text::FoldedCharacters(list.List(i), codePage) + U".asc");
+    }
+    return names;
+}
+
+/// Which of the names match a pattern. A failure leaves out the pattern that failed and those behind it.
+std::vector<bool> MatchAny(const std::vector<std::u32string>& names, const PatternList& patterns,
+                           const text::CodePage& codePage) {
+    std::vector<bool> matched(names.size(), false);
+    try {
+        for (const std::string& pattern : Elements(patterns)) {
+            const text::WildcardPattern wildcard(pattern, codePage);
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                if (!matched[i] && wildcard.MatchesFolded(names[i])) matched[i] = true;
+            }
+        }
+    } catch (const std::exception&) {
+        // Classification says nothing of a malformed pattern or of settings that could not be read.
+    }
+    return matched;
+}
+
+}  // namespace
+
+bool ClassifyFiles(frmMain& window) {
+    bool anyMoved = false;
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        const TypeTable<PatternList> patterns = window.Core().ClassificationSettings->TypeFileNamePatterns();
+        anyMoved |= ClassifyFilesOfType(window, patterns[static_cast<std::size_t>(type)],
+                                        static_cast<std::int16_t>(type));
+    }
+    return anyMoved;
+}
+
+bool ClassifyFilesOfType(frmMain& window, const PatternList& patterns, std::int16_t typeNumber) {
+    if (!window.CheckAuto[typeNumber].Value()) return false;
+    forms::ListBox& source = window.MainList;
+    const text::CodePage& codePage = window.Core().Services().locale.CodePage();
+    const std::vector<bool> matched = MatchAny(FoldedFileNames(source, codePage), patterns, codePage);
+    std::vector<std::string> entries =
+        source.TakeItemsIf([&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
+    if (entries.empty()) return false;
+    window.TypeList[typeNumber].AddItems(std::move(entries));
+    return true;
+}
+
+}  // namespace halvenmoor

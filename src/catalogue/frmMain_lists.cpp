@@ -1,0 +1,128 @@
+// The lists of the main window: moves, drags, selections, and the buttons that depend on them.
+
+#include "catalogue/frmMain.h"
+
+namespace halvenmoor {
+
+void frmMain::ConnectLists() {
+    ConnectList(MainList, 0);
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        ConnectList(TypeList[type], type);
+        ButtonAdd[type].OnClick = [this, type] { MoveSelectedItems(MainList, TypeList[type]); };
+        // Each of these buttons sends back whatever is selected in any type list.
+        ButtonRemove[type].OnClick = [this] {
+            for (forms::ListBox& list : TypeList) MoveSelectedItems(list, MainList);
+        };
+    }
+}
+
+void frmMain::ConnectList(forms::ListBox& list, int number) {
+    list.OnClick = [this, number] {
+        if (!suppressSelectionEvent_) ClearOtherSelections(number);
+        suppressSelectionEvent_ = false;
+        UpdateRenameButton();
+    };
+    list.OnStartDrag = [this, &list] {
+        dragSource_ = &list;
+        SetDropMode(true);
+    };
+    list.OnDragDrop = [this, &list] {
+        if (&list != dragSource_) MoveSelectedItems(*dragSource_, list);
+    };
+    list.OnCompleteDrag = [this] { SetDropMode(false); };
+}
+
+void frmMain::ClearListBoxes() {
+    for (forms::ListBox& list : TypeList) list.Clear();
+    MainList.Clear();
+}
+
+void frmMain::MoveSelectedItems(forms::ListBox& source, forms::ListBox& target) {
+    if (source.SelCount() >= 1) {
+        target.AddItems(source.TakeItemsIf([&source](int i) { return source.Selected(i); }));
+    }
+    UpdateButtons(true);
+}
+
+void frmMain::SetDropMode(bool active) {
+    const auto mode = active ? forms::ListBox::DropMode::Manual : forms::ListBox::DropMode::None;
+    MainList.SetOLEDropMode(mode);
+    for (forms::ListBox& list : TypeList) list.SetOLEDropMode(mode);
+}
+
+void frmMain::ClearOtherSelections(int clicked) {
+    if (clicked != 0) ClearSelection(MainList);
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        if (type != clicked) ClearSelection(TypeList[type]);
+    }
+}
+
+void frmMain::ClearSelection(forms::ListBox& list) {
+    for (int i = 0; list.SelCount() > 0 && i < list.ListCount(); ++i) {
+        if (!list.Selected(i)) continue;
+        // The click that this raises comes from code and must not clear selections in turn.
+        suppressSelectionEvent_ = true;
+        list.SetSelected(i, false);
+    }
+}
+
+void frmMain::EnableLists() {
+    for (forms::ListBox& list : TypeList) list.SetEnabled(true);
+    MainList.SetEnabled(true);
+}
+
+void frmMain::DisableLists() {
+    for (forms::ListBox& list : TypeList) list.SetEnabled(false);
+    MainList.SetEnabled(false);
+}
+
+bool frmMain::AnyTypeListHasItems() const {
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        if (TypeList[type].ListCount() > 0) return true;
+    }
+    return false;
+}
+
+void frmMain::UpdateButtons(bool resetResults) {
+    if (resetResults) ResultsValid = false;
+    UpdateClassifyButton();
+    UpdateReloadButton();
+    UpdateRenameButton();
+    UpdateImportButton();
+    UpdateExportButton();
+    UpdateResultsButton();
+}
+
+// The focus ends on the button of the most advanced step, since each rule that takes it comes after the ones
+// for the steps before.
+
+void frmMain::UpdateClassifyButton() {
+    ButtonClassifyFiles.SetEnabled(MainList.ListCount() > 0);
+    if (ButtonClassifyFiles.Enabled() && formLoaded_) ButtonClassifyFiles.SetFocus();
+}
+
+void frmMain::UpdateReloadButton() {
+    ButtonReloadFiles.SetEnabled(AnyTypeListHasItems());
+}
+
+void frmMain::UpdateRenameButton() {
+    ButtonRenameFile.SetEnabled(MainList.SelCount() == 1);
+}
+
+void frmMain::UpdateImportButton() {
+    ButtonImportFiles.SetEnabled(core_.ReadSetting("DemoMode", "1") != "1");
+    const bool nothingBefore = !ButtonClassifyFiles.Enabled() && !ButtonReloadFiles.Enabled();
+    if (ButtonImportFiles.Enabled() && formLoaded_ && nothingBefore) ButtonImportFiles.SetFocus();
+}
+
+void frmMain::UpdateExportButton() {
+    ButtonExportCameras.SetEnabled(AnyTypeListHasItems());
+    if (ButtonExportCameras.Enabled() && formLoaded_) ButtonExportCameras.SetFocus();
+}
+
+void frmMain::UpdateResultsButton() {
+    ButtonShowResults.SetEnabled(ResultsValid);
+    if (ButtonShowResults.Enabled() && formLoaded_) ButtonShowResults.SetFocus();
+}
+
+}  // namespace halvenmoor

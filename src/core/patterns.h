@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace halvenmoor {
+
+/// The camera types: 1 Fixed, 2 Red Speed, 3 Red Light, 4 Section, 5 Mobile. Index 0 of every table by type
+/// holds nothing.
+inline constexpr int kFirstType = 1;
+inline constexpr int kLastType = 5;
+
+template <class Value>
+using TypeTable = std::array<Value, kLastType + 1>;
+
+/// Patterns in their order, possibly none; without a value when the settings file could not be read.
+using PatternList = std::optional<std::vector<std::string>>;
+
+/// Whether the list holds nothing at all, not even a list of no elements.
+inline bool IsArrayEmpty(const PatternList& list) {
+    return !list.has_value();
+}
+
+/// The patterns for a walk from the first to the last. Throws Failure(TypeMismatch) when there is no list,
+/// and Failure(Overflow) for more than 32767 patterns.
+const std::vector<std::string>& Elements(const PatternList& list);
+
+}  // namespace halvenmoor

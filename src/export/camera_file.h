@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/patterns.h"
+#include "core/platform/services.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace halvenmoor {
+
+// The text operations that take a camera file apart. A line of the file is a camera's record, empty or a
+// comment:
+//
+//     record  = X "," Y "," name [ "," extension "," extension ]
+//     comment = one of \ / : " < > | ; ! #  then any text
+//
+// X and Y are decimal degrees with a point, the name normally stands in double quotes, blanks around a field
+// do not count.
+
+/// The fields of a line, as parts of the line.
+struct FieldList {
+    static constexpr std::size_t kMaxCount = 10;
+
+    std::array<std::string_view, kMaxCount> fields;
+    std::size_t count = 0;
+
+    std::string_view operator[](std::size_t index) const { return fields[index]; }
+    void Append(std::string_view field) { fields[count++] = field; }
+};
+
+/// Splits a line at its commas; a field that begins with a double quote ends at the next one, and what stands
+/// between that and the comma is lost. False when the quoting is not sound; the fields before are in the list
+/// then. There is always at least one field and never more than ten. The line is consumed. Throws
+/// Failure(Overflow) for a comma or quote beyond character 32767 of what is left of the line.
+bool SplitCameraLine(FieldList& fields, std::string_view& line);
+
+/// Whether the texts are a position: numbers with a point, X from -180 to 180, Y from -90 to 90 and not 0.
+bool IsValidPosition(std::string_view x, std::string_view y, std::string_view decimalSeparator);
+
+/// Whether "0.0" stands somewhere in both texts.
+bool IsZeroPosition(std::string_view x, std::string_view y);
+
+/// The name without the first unit of the list that it ends in, ignoring case.
+std::string_view StripUnitSuffix(std::string_view name, const PatternList& units,
+                                 const text::CodePage& codePage);
+
+/// The speed at the end of a camera file's name (without extension), behind which a unit may stand; "0" when
+/// there is none.
+std::string SpeedFromFileName(std::string_view name, const PatternList& units,
+                              const platform::Locale& locale);
+
+}  // namespace halvenmoor

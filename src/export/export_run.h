@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/platform/files.h"
+#include "export/camera_file.h"
+#include "export/modExport.h"
+#include "export/name_patterns.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace halvenmoor {
+
+/// One run that turns camera files into a target file. A line of the target is
+///
+///     X "," Y "," TYPE "," SPEED "," DirType "," Direction CR LF
+///
+/// with X and Y character for character as in the camera file. Every failure leaves as an exception; what was
+/// written until then stays in the target.
+class ExportRun {
+public:
+    /// Opens the target: for appending, or as a new file with the header line.
+    ExportRun(modExport& exports, std::string_view targetFile);
+
+    void ExportFile(const halvenmoor::ExportFile& file);
+    void Finish() { target_->Close(); }
+
+private:
+    void ExportLine(std::string_view line, const halvenmoor::ExportFile& file);
+    int TypeOf(std::string_view cameraName, int typeOfList);
+    void WriteCamera(const FieldList& fields, int type, const std::string& speed);
+
+    modExport& exports_;
+    const cSettingsClass& settings_;
+    const std::string decimalSeparator_;
+    const std::unique_ptr<platform::FileSystemObject> files_;
+    std::unique_ptr<platform::TextWriter> target_;
+    std::optional<NamePatterns> namePatterns_;
+    std::string targetLine_;
+};
+
+}  // namespace halvenmoor

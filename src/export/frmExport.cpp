@@ -1,0 +1,130 @@
+#include "export/frmExport.h"
+
+#include "core/text/numbers.h"
+#include "export/export_run.h"
+#include "export/results_file.h"
+#include "ui/cNamesClass.h"
+
+#include <exception>
+
+namespace halvenmoor {
+
+namespace {
+
+constexpr forms::Point kPlaceInMainForm{1780, 3300};
+constexpr std::int32_t kFullBar = 200;
+constexpr double kWholeRunMilliseconds = 200;
+constexpr double kHoldMilliseconds = 500;
+constexpr double kSecondsOfDay = 86400;
+
+/// Closes the window on the way out, whatever has happened.
+class Closing {
+public:
+    explicit Closing(forms::Form& window) : window_(window) {}
+    ~Closing() { window_.Unload(); }
+    Closing(const Closing&) = delete;
+    Closing& operator=(const Closing&) = delete;
+
+private:
+    forms::Form& window_;
+};
+
+}  // namespace
+
+frmExport::frmExport(modExport& exports)
+    : frmExportLayout(exports.Core().Desktop()), exports_(exports), core_(exports.Core()) {
+}
+
+void frmExport::Load() {
+    const forms::Point main = core_.MainForm->Position();
+    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    SetExportCaptions();
+    cProgressBar& bar = progressBar_.emplace(core_.Services().theme);
+    bar.SetPicBox(&picProgress);
+    bar.SetMin(0);
+    bar.SetMax(kFullBar);
+    bar.SetShowText(true);
+    bar.SetFont(picProgress.Font());
+    bar.SetBackColor(forms::kButtonFace);
+    bar.SetBarColor(forms::kHighlight);
+}
+
+void frmExport::SetExportCaptions() {
+    const cNamesClass& names = *core_.Names;
+    const bool appending = core_.ExportMode == kAppendToFile;
+    SetCaption(appending ? names.TitleAppendSpeedCameras() : names.TitleExportSpeedCameras());
+    LabelProgress.SetCaption(
+        (appending ? names.LabelAppendingSpeedCameras() : names.LabelExportingSpeedCameras()) + "...");
+}
+
+void frmExport::Activate() {
+    const Closing closing(*this);
+    PaceTimer(true, kWholeRunMilliseconds / static_cast<double>(exports_.ExportFileTable.size()));
+    if (RunExport(exportFileName_)) {
+        exportResultsValid_ = true;
+        if (core_.ReadSetting("SaveResults", "1") == "1") WriteResultsFile();
+    }
+    PaceTimer(true, kHoldMilliseconds);
+    WaitForPace();
+    progressBar_.reset();
+}
+
+bool frmExport::RunExport(std::string_view targetFile) {
+    exports_.FilesProcessed = {};
+    exports_.CamerasExported = {};
+    exports_.CamerasSkipped = {};
+    try {
+        ExportRun run(exports_, targetFile);
+        const std::int16_t count =
+            text::CheckedInt16(static_cast<long long>(exports_.ExportFileTable.size()));
+        for (std::int16_t i = 0; i < count; ++i) {
+            core_.Desktop().Yield();
+            ShowFileProgress(static_cast<std::int16_t>(i + 1), count);
+            run.ExportFile(exports_.ExportFileTable[static_cast<std::size_t>(i)]);
+        }
+        run.Finish();
+        return true;
+    } catch (const std::exception&) {
+        // The target keeps what was written; the counters describe the part of the run that was done.
+        return false;
+    }
+}
+
+void frmExport::ShowFileProgress(std::int16_t done, std::int16_t total) {
+    WaitForPace();
+    const std::int32_t product = text::CheckedInt32(static_cast<long long>(done) * progressBar_->Max());
+    const double value = static_cast<double>(product) / static_cast<double>(total);
+    progressBar_->SetValue(static_cast<std::int32_t>(text::RoundHalfEven(value)));
+    PaceTimer(true, 0);
+}
+
+void frmExport::WaitForPace() {
+    while (!PaceTimer(false, 0)) core_.Desktop().Yield(PaceLeft());
+}
+
+bool frmExport::PaceTimer(bool start, double milliseconds) {
+    if (!start) return PaceLeft() < 0;
+    paceStart_ = core_.Services().clock.TimeOfDay();
+    if (milliseconds > 0) paceDuration_ = milliseconds / 1000;
+    return false;
+}
+
+double frmExport::PaceLeft() const {
+    const double now = core_.Services().clock.TimeOfDay();
+    const bool midnightHasPassed = now < paceStart_;
+    return paceStart_ + paceDuration_ - (midnightHasPassed ? now + kSecondsOfDay : now);
+}
+
+void frmExport::WriteResultsFile() const {
+    const platform::Platform& services = core_.Services();
+    try {
+        const auto file = services.fileSystem.CreateFileSystemObject()->CreateTextFile(core_.ResultsFile());
+        WriteResults(exports_,
+                     [&](const std::string& line) { file->WriteLine(services.locale.ToFileText(line)); });
+        file->Close();
+    } catch (const std::exception&) {
+        // The export stays valid without its results file.
+    }
+}
+
+}  // namespace halvenmoor

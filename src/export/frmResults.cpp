@@ -1,0 +1,73 @@
+#include "export/frmResults.h"
+
+#include "core/text/numbers.h"
+#include "ui/cNamesClass.h"
+#include "ui/group_text_color.h"
+
+namespace halvenmoor {
+
+namespace {
+
+constexpr forms::Point kPlaceInMainForm{150, 665};
+
+/// Shows a counter of each type and their sum.
+void ShowCounter(forms::ControlArray<forms::Label, 0, 5>& labels, const TypeTable<std::int32_t>& counter) {
+    std::int32_t total = 0;
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        const std::int32_t count = counter[static_cast<std::size_t>(type)];
+        labels[type].SetCaption(std::to_string(count));
+        total = text::CheckedAdd(total, count);
+    }
+    labels[0].SetCaption(std::to_string(total));
+}
+
+}  // namespace
+
+frmResults::frmResults(const modExport& exports)
+    : frmResultsLayout(exports.Core().Desktop()), exports_(exports), core_(exports.Core()) {
+    CheckShowResults.OnClick = [this] {
+        core_.WriteSetting("ShowResults", CheckShowResults.Value() ? "1" : "0");
+    };
+    ButtonCloseResults.OnClick = [this] { Unload(); };
+}
+
+void frmResults::Load() {
+    const forms::Point main = core_.MainForm->Position();
+    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    LoadShowResultsOption();
+    SetResultsCaptions();
+    ShowCounter(LabelFilesResult, exports_.FilesProcessed);
+    ShowCounter(LabelExportedResult, exports_.CamerasExported);
+    ShowCounter(LabelSkippedResult, exports_.CamerasSkipped);
+}
+
+void frmResults::LoadShowResultsOption() {
+    CheckShowResults.SetValue(core_.ReadSetting("ShowResults", "1") == "1");
+}
+
+void frmResults::SetResultsCaptions() {
+    const cNamesClass& names = *core_.Names;
+    const bool appended = core_.ExportMode == kAppendToFile;
+    SetCaption(appended ? names.TitleAppendSpeedCameras() : names.TitleExportSpeedCameras());
+    FrameMain.SetCaption(appended ? names.FrameMainAppended() : names.FrameMainExported());
+    LabelTitleProcessed.SetCaption(names.LabelFilesProcessed());
+    LabelTitleExported.SetCaption(appended ? names.LabelAppendedCameras() : names.LabelExportedCameras());
+    LabelTitleSkipped.SetCaption(names.LabelSkippedCameras());
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        FrameType[type].SetCaption(names.LabelSpeedCameraType() + " " + std::to_string(type));
+        LabelType[type].SetCaption(names.LabelTypeDescription(type));
+    }
+    FrameAllTypes.SetCaption(names.FrameAllTypes());
+    LabelTotals.SetCaption(names.LabelTotalFilesAndCameras());
+    ButtonCloseResults.SetCaption(names.ButtonCloseResults());
+    CheckShowResults.SetCaption(names.CheckShowResults());
+}
+
+void frmResults::Paint() {
+    const forms::Color color = HeadingColor(core_.Services().theme);
+    for (forms::Label* heading : {&LabelTitleProcessed, &LabelTitleExported, &LabelTitleSkipped}) {
+        heading->SetForeColor(color);
+    }
+}
+
+}  // namespace halvenmoor

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "export/modExport.h"
+#include "ui/frmResultsLayout.h"
+
+namespace halvenmoor {
+
+/// The window that shows the counters of the last run.
+class frmResults : public frmResultsLayout {
+public:
+    explicit frmResults(const modExport& exports);
+
+protected:
+    void Load() override;
+    void Paint() override;
+
+private:
+    void LoadShowResultsOption();
+    void SetResultsCaptions();
+    void ShowCounters();
+
+    const modExport& exports_;
+    const modMain& core_;
+};
+
+}  // namespace halvenmoor

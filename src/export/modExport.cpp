@@ -1,0 +1,95 @@
+#include "export/modExport.h"
+
+#include "core/text/compare.h"
+#include "core/text/trim.h"
+#include "export/camera_file.h"
+#include "export/frmExport.h"
+#include "export/frmResults.h"
+#include "export/modSaveOpen.h"
+
+#include <exception>
+
+namespace halvenmoor {
+
+namespace {
+
+constexpr std::int16_t kReplaceFile = 1;
+constexpr std::int16_t kSaveFileAs = 2;
+
+}  // namespace
+
+void modExport::AttachButtons() {
+    mainForm_.ButtonExportCameras.OnClick = [this] { ExportCamerasClicked(); };
+    mainForm_.ButtonShowResults.OnClick = [this] { ShowResults(); };
+}
+
+void modExport::ExportCamerasClicked() {
+    const bool ran = ExportSpeedCameras(mainForm_.ResultsValid);
+    if (ran && mainForm_.ResultsValid && core_.ReadSetting("ShowResults", "1") == "1") ShowResults();
+    mainForm_.UpdateButtons(false);
+}
+
+void modExport::ShowResults() {
+    frmResults window(*this);
+    core_.Desktop().ShowModal(window);
+}
+
+bool modExport::ExportSpeedCameras(bool& resultsValid) {
+    if (!BuildExportFileList()) return false;
+    std::string target;
+    if (!ChooseTarget(target)) return false;
+    frmExport window(*this);
+    window.SetExportFileName(std::move(target));
+    core_.Desktop().ShowModal(window);
+    resultsValid = window.ExportResultsValid();
+    return true;
+}
+
+bool modExport::ChooseTarget(std::string& path) const {
+    if (core_.ExportMode == kReplaceFile) {
+        path = core_.TargetFolder() + std::string(kTargetBaseName) + ".txt";
+        return true;
+    }
+    if (core_.ExportMode == kSaveFileAs) return ShowSaveAsDialogue(core_, path);
+    if (!ShowAppendDialogue(core_, path)) return false;
+    if (IsSpeedCameraTextFile(path)) return true;
+    core_.Services().messages.Show(
+        "Selected file is not a valid 'iGO 2006SE Plus' speed camera file.          ",
+        "Append To Existing Speed Camera File");
+    return false;
+}
+
+bool modExport::BuildExportFileList() {
+    ExportFileTable.clear();
+    try {
+        for (int type = kFirstType; type <= kLastType; ++type) AddFilesOfType(type);
+    } catch (const std::exception&) {
+        return false;
+    }
+    return !ExportFileTable.empty();
+}
+
+void modExport::AddFilesOfType(int type) {
+    const platform::Platform& services = core_.Services();
+    const forms::ListBox& list = mainForm_.TypeList[type];
+    for (int i = 0; i < list.ListCount(); ++i) {
+        std::string path = core_.CameraFile(list.List(i));
+        if (!services.hostFiles.IsListed(path)) continue;
+        std::string speed = SpeedFromFileName(
+            list.List(i), core_.ClassificationSettings->UnitSearchPatterns(), services.locale);
+        ExportFileTable.push_back({std::move(path), type, std::move(speed)});
+    }
+}
+
+bool modExport::IsSpeedCameraTextFile(std::string_view path) const {
+    try {
+        const auto file = core_.Services().fileSystem.CreateFileSystemObject()->OpenTextFile(path);
+        const bool isHeader = text::EqualIgnoringAsciiCase(text::Trim(file->ReadLine()), kTargetHeader);
+        file->Close();
+        return isHeader;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+}  // namespace halvenmoor

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "core/platform/services.h"
+#include "forms/color.h"
+
+namespace halvenmoor {
+
+/// True if the desktop is themed; color then holds the text colour of a group box, or what it held before if
+/// the theme does not tell.
+bool GetGroupTextColor(const platform::Theme& theme, forms::Color& color);
+
+/// The colour of the heading labels of a window: that of a themed group box, else of button text.
+forms::Color HeadingColor(const platform::Theme& theme);
+
+}  // namespace halvenmoor
