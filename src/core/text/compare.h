@@ -15,7 +15,7 @@ namespace halvenmoor::text {
 /// sort by bytes as the folded characters sort, and a key found within a key is a text found within a text.
 std::string FoldedKey(std::string_view bytes, const CodePage& page);
 
-/// Appends the folded key to `out`, without any other allocation.
+/// Appends the folded key to `out`, without any other allocation. The text must not lie in `out` itself.
 void AppendFoldedKey(std::string& out, std::string_view bytes, const CodePage& page);
 
 /// The case-folded characters of a text.

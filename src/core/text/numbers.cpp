@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 
 namespace halvenmoor::text {
 namespace {
@@ -80,41 +81,22 @@ public:
 
     double Value() {
         if (count_ == 0) return 0;
-        return count_ <= exactDigits && std::abs(exponent_) <= exactPower ? ExactValue() : RoundedValue();
-    }
-
-private:
-    // Whole numbers up to 15 digits and powers of ten up to 22 are exact in a double, so that one
-    // multiplication or division gives the correctly rounded result.
-    static constexpr std::size_t exactDigits = 15;
-    static constexpr int exactPower = 22;
-    static constexpr double powersOfTen[exactPower + 1] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                           1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                                           1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-
-    // What decides how a number is rounded: at most 767 digits, and whether anything but zeros follows.
-    static constexpr std::size_t mostDigits = 770;
-    static constexpr std::size_t spaceForExponent = 8;
-
-    double ExactValue() const {
-        long long whole = 0;
-        for (std::size_t i = 0; i < count_; ++i) whole = whole * 10 + (digits_[i] - '0');
-        const auto number = static_cast<double>(whole);
-        return exponent_ < 0 ? number / powersOfTen[-exponent_] : number * powersOfTen[exponent_];
-    }
-
-    double RoundedValue() {
-        const long long magnitude = exponent_ + static_cast<long long>(count_);
         if (hasMore_ && digits_[count_ - 1] == '0') digits_[count_ - 1] = '1';
+        const long long magnitude = exponent_ + static_cast<long long>(count_);
+        const long long exponent = std::clamp(exponent_, -99999LL, 99999LL);
         char* const end = digits_.data() + count_;
         *end = 'e';
-        const long long exponent = std::clamp(exponent_, -99999LL, 99999LL);
         const char* const last = std::to_chars(end + 1, digits_.data() + digits_.size(), exponent).ptr;
         double number = 0;
         // A number out of range leaves `number` as it is, whether too large or too small.
         const std::errc error = std::from_chars(digits_.data(), last, number).ec;
         return error == std::errc{} ? number : magnitude > 0 ? HUGE_VAL : 0;
     }
+
+private:
+    // What decides how a number is rounded: at most 767 digits, and whether anything but zeros follows.
+    static constexpr std::size_t mostDigits = 770;
+    static constexpr std::size_t spaceForExponent = 8;
 
     std::array<char, mostDigits + spaceForExponent> digits_;  // only the first count_ are set
     std::size_t count_ = 0;
@@ -162,9 +144,36 @@ double ReadDecimal(Cursor& cursor) {
     return isNegative ? -decimal.Value() : decimal.Value();
 }
 
+/// The value of a short decimal without exponent and white space, which is what nearly all positions are;
+/// nothing for any other text.
+std::optional<double> PlainDecimal(std::string_view text) {
+    // Up to 15 digits and these powers of ten are exact in a double, so one division rounds correctly.
+    constexpr std::size_t mostCharacters = 16;
+    constexpr double powersOfTen[mostCharacters] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool isNegative = text.starts_with('-');
+    if (isNegative) text.remove_prefix(1);
+    if (text.size() > mostCharacters) return std::nullopt;
+
+    long long digits = 0;
+    const char* point = nullptr;
+    for (const char& character : text) {
+        if (IsDigit(character)) {
+            digits = digits * 10 + (character - '0');
+        } else if (character == '.' && point == nullptr) {
+            point = &character;
+        } else {
+            return std::nullopt;
+        }
+    }
+    const auto places = point == nullptr ? 0 : text.data() + text.size() - point - 1;
+    const double number = static_cast<double>(digits) / powersOfTen[places];
+    return isNegative ? -number : number;
+}
+
 std::size_t SkipDigits(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), IsDigit);
-    const auto count = static_cast<std::size_t>(end - text.begin());
+    std::size_t count = 0;
+    while (count < text.size() && IsDigit(text[count])) ++count;
     text.remove_prefix(count);
     return count;
 }
@@ -176,6 +185,7 @@ void SkipSign(std::string_view& text) {
 }  // namespace
 
 double LeadingNumber(std::string_view text) noexcept {
+    if (const auto plain = PlainDecimal(text)) return *plain;
     Cursor cursor(text);
     if (!cursor.Accept('&')) return ReadDecimal(cursor);
     if (cursor.Accept('H') || cursor.Accept('h')) return ReadBased(cursor, 16);

@@ -8,14 +8,14 @@ namespace {
 
 // Elements that are no plain character; anything from firstList on is a list.
 constexpr char32_t anyCharacter = 0x110000;
-constexpr char32_t anyRun = 0x110001;
-constexpr char32_t anyDigit = 0x110002;
-constexpr char32_t firstList = 0x110003;
+constexpr char32_t anyDigit = 0x110001;
+constexpr char32_t firstList = 0x110002;
 
 }  // namespace
 
 WildcardPattern::WildcardPattern(std::string_view pattern, const CodePage& page) : page_(&page) {
     Parse(FoldedCharacters(pattern, page));
+    for (const Piece& piece : pieces_) minimumLength_ += piece.size();
 }
 
 void WildcardPattern::Parse(std::u32string_view pattern) {
@@ -29,9 +29,10 @@ void WildcardPattern::Parse(std::u32string_view pattern) {
             AddList(pattern.substr(0, end));
             pattern.remove_prefix(end + 1);
         } else if (character == U'*') {
-            if (!elements_.ends_with(anyRun)) elements_.push_back(anyRun);
+            const bool isDoubled = pieces_.size() > 1 && pieces_.back().empty();
+            if (!isDoubled) pieces_.emplace_back();
         } else {
-            AddSingle(character == U'?' ? anyCharacter : character == U'#' ? anyDigit : character);
+            pieces_.back() += character == U'?' ? anyCharacter : character == U'#' ? anyDigit : character;
         }
     }
 }
@@ -46,13 +47,8 @@ void WildcardPattern::AddList(std::u32string_view content) {
         list.ranges.emplace_back(content[0], content[isRange ? 2 : 0]);
         content.remove_prefix(isRange ? 3 : 1);
     }
-    AddSingle(firstList + static_cast<char32_t>(lists_.size()));
+    pieces_.back() += firstList + static_cast<char32_t>(lists_.size());
     lists_.push_back(std::move(list));
-}
-
-void WildcardPattern::AddSingle(char32_t element) {
-    elements_.push_back(element);
-    ++minimumLength_;
 }
 
 bool WildcardPattern::Matches(std::string_view name) const {
@@ -62,34 +58,34 @@ bool WildcardPattern::Matches(std::string_view name) const {
 bool WildcardPattern::MatchesFolded(std::u32string_view foldedName) const {
     if (isMalformed_) throw Failure(failure::BadPattern, "a [ in the pattern is not closed");
     if (foldedName.size() < minimumLength_) return false;
+    const std::size_t lastStart = foldedName.size() - pieces_.back().size();
+    if (pieces_.size() == 1 && lastStart != 0) return false;
+    if (!AcceptsAt(0, pieces_.front(), foldedName)) return false;
+    if (!AcceptsAt(lastStart, pieces_.back(), foldedName)) return false;
 
-    // A mismatch lengthens the run of the last star by one character. Earlier stars need no second look:
-    // what stands between two stars matches best where it is first found.
-    std::size_t element = 0;
-    std::size_t position = 0;
-    std::size_t behindStar = 0;  // 0 while there was no star
-    std::size_t runEnd = 0;
-    while (position < foldedName.size()) {
-        if (element < elements_.size() && elements_[element] == anyRun) {
-            behindStar = ++element;
-            runEnd = position;
-            if (behindStar == elements_.size()) return true;
-        } else if (element < elements_.size() && Accepts(elements_[element], foldedName[position])) {
-            ++element;
-            ++position;
-        } else if (behindStar != 0) {
-            element = behindStar;
-            position = ++runEnd;
-        } else {
-            return false;
-        }
+    // Between both ends each piece takes the first place that fits. A later one would leave less room for the
+    // pieces behind it, so there is never a reason to come back.
+    std::size_t position = pieces_.front().size();
+    for (std::size_t i = 1; i + 1 < pieces_.size(); ++i) {
+        const std::size_t length = pieces_[i].size();
+        while (position + length <= lastStart && !AcceptsAt(position, pieces_[i], foldedName)) ++position;
+        position += length;
+        if (position > lastStart) return false;
     }
-    // The name is used up, and runs are never doubled: one star may be left, and nothing else.
-    return element == elements_.size() || (element + 1 == elements_.size() && elements_[element] == anyRun);
+    return true;
 }
 
-bool WildcardPattern::Accepts(char32_t element, char32_t character) const noexcept {
-    if (element < anyCharacter) return element == character;
+bool WildcardPattern::AcceptsAt(std::size_t position, const Piece& piece,
+                                std::u32string_view name) const noexcept {
+    for (const char32_t element : piece) {
+        const char32_t character = name[position++];
+        if (element != character && (element < anyCharacter || !AcceptsSpecial(element, character)))
+            return false;
+    }
+    return true;
+}
+
+bool WildcardPattern::AcceptsSpecial(char32_t element, char32_t character) const noexcept {
     if (element == anyCharacter) return true;
     if (element == anyDigit) return character >= U'0' && character <= U'9';
     return lists_[element - firstList].Accepts(character);

@@ -41,13 +41,15 @@ private:
         bool Accepts(char32_t character) const noexcept;
     };
 
+    using Piece = std::u32string;  // folded characters, and codes beyond Unicode for all other elements
+
     void Parse(std::u32string_view pattern);
     void AddList(std::u32string_view content);
-    void AddSingle(char32_t element);
-    bool Accepts(char32_t element, char32_t character) const noexcept;
+    bool AcceptsAt(std::size_t position, const Piece& piece, std::u32string_view name) const noexcept;
+    bool AcceptsSpecial(char32_t element, char32_t character) const noexcept;
 
     const CodePage* page_;
-    std::u32string elements_;  // folded characters, and codes beyond Unicode for all else
+    std::vector<Piece> pieces_{1};  // what stands between the stars
     std::vector<List> lists_;
     std::size_t minimumLength_ = 0;
     bool isMalformed_ = false;

@@ -1,0 +1,200 @@
+#include "core/text/codepage.h"
+#include "core/text/compare.h"
+#include "core/text/decode.h"
+#include "core/text/lettercase.h"
+#include "core/text/trim.h"
+
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvenmoor::text {
+namespace {
+
+using namespace std::string_literals;
+
+const CodePage& western = WindowsCodePage(1252);
+
+TEST(CodePages, GiveEveryByteACharacterOfItsOwn) {
+    for (int number = 1250; number <= 1258; ++number) {
+        const CodePage& page = WindowsCodePage(number);
+        EXPECT_EQ(page.number, number);
+        EXPECT_EQ(std::set<char32_t>(page.characters.begin(), page.characters.end()).size(), 256U) << number;
+        for (char32_t byte = 0; byte < 128; ++byte) EXPECT_EQ(page.characters[byte], byte) << number;
+    }
+    EXPECT_EQ(WindowsCodePage(437).number, 1252);
+}
+
+TEST(CodePages, HoldTheLettersOfTheirLanguages) {
+    EXPECT_EQ(ToUtf8("\x8A\x9C\xA5\xB3\xD8\xFB", WindowsCodePage(1250)), "ŠśĄłŘű");
+    EXPECT_EQ(ToUtf8("\xC6\xF3\xEA\xA8\xB9\xFF", WindowsCodePage(1251)), "ЖукЁ№я");
+    EXPECT_EQ(ToUtf8("\x80\x8C\xC4\xDF\xFC\xFF", western), "€ŒÄßüÿ");
+    EXPECT_EQ(ToUtf8("\xC1\xE8\xDE\xED\xA2\xFE", WindowsCodePage(1253)), "ΑθήνΆώ");
+    EXPECT_EQ(ToUtf8("\xDD\xFD\xF0\xFE", WindowsCodePage(1254)), "İığş");
+    EXPECT_EQ(ToUtf8("\xF9\xEC\xE5\xED", WindowsCodePage(1255)), "שלום");
+    EXPECT_EQ(ToUtf8("\xD3\xE1\xC7\xE3", WindowsCodePage(1256)), "سلام");
+    EXPECT_EQ(ToUtf8("\xC0\xE8\xE6\xEB\xF8", WindowsCodePage(1257)), "Ąčęėų");
+    EXPECT_EQ(ToUtf8("\xD0\xF4\xF5\xFE", WindowsCodePage(1258)), "Đôơ₫");
+    EXPECT_EQ(western.characters[0x81], 0x81U);                  // undefined: the control character
+    EXPECT_EQ(WindowsCodePage(1253).characters[0xD2], 0xF7D2U);  // undefined: private use
+}
+
+TEST(CodePages, FollowTheLanguage) {
+    const struct {
+        std::string_view tag;
+        int page;
+    } cases[] = {
+        {"pl", 1250},          {"pl_PL.UTF-8", 1250},
+        {"CS-cz", 1250},       {"ru_RU", 1251},
+        {"bg.CP1251", 1251},   {"de-DE", 1252},
+        {"C", 1252},           {"", 1252},
+        {"xx_YY", 1252},       {"el_GR@euro", 1253},
+        {"tr", 1254},          {"he", 1255},
+        {"ar_EG", 1256},       {"lt", 1257},
+        {"et-EE", 1257},       {"vi_VN", 1258},
+        {"sr", 1251},          {"sr-Latn-RS", 1250},
+        {"sr_RS@latin", 1250}, {"sr_Cyrl", 1251},
+        {"bs-Cyrl", 1251},     {"uz_UZ@cyrillic", 1251},
+        {"az_Latn_AZ", 1254},
+    };
+    for (const auto& [tag, page] : cases) EXPECT_EQ(WindowsCodePageForLanguage(tag), page) << tag;
+}
+
+TEST(Decoding, AcceptsOnlyWellFormedUtf8) {
+    for (const auto& valid : {""s, "plain ASCII text, longer than a word"s, "Köln – Ελλάδα €"s, "\0x"s,
+                              "\xEF\xBF\xBF"s, "\xF0\x9F\x9A\x97"s, "\xF4\x8F\xBF\xBF"s, "\xED\x9F\xBF"s}) {
+        EXPECT_TRUE(IsValidUtf8(valid)) << valid;
+    }
+    for (const auto& invalid :
+         {"K\xF6ln"s, "\x80"s, "\xC0\xAF"s, "\xC1\xBF"s, "\xE0\x9F\xBF"s, "\xF0\x8F\xBF\xBF"s,
+          "\xED\xA0\x80"s, "\xF4\x90\x80\x80"s, "\xF5\x80\x80\x80"s, "\xFF"s, "abcdefgh\xC3"s, "\xE2\x82"s,
+          "\xF0\x9F\x9A"s, "\xE2\x82x"s, "\xF0\x9F\x9Ax"s}) {
+        EXPECT_FALSE(IsValidUtf8(invalid)) << invalid;
+    }
+}
+
+TEST(Decoding, ReadsEachTextByItsOwnEncoding) {
+    EXPECT_EQ(Decode("K\xC3\xB6ln \xF0\x9F\x9A\x97", western), U"Köln \U0001F697");
+    EXPECT_EQ(Decode("K\xF6ln \x80", western), U"Köln €");
+    EXPECT_EQ(Decode("\xC3\xB6\xF6", western), U"Ã¶ö");  // one bad byte makes the whole text single-byte
+    EXPECT_EQ(EncodeUtf8(U"z߿ࠀ\uFFFD\U00010000\U0010FFFF"),
+              "z\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(ToUtf8("K\xF6ln", western), "K\xC3\xB6ln");
+    EXPECT_EQ(ToUtf8("K\xC3\xB6ln", western), "K\xC3\xB6ln");
+    EXPECT_EQ(CharacterCount("K\xC3\xB6ln\xF0\x9F\x9A\x97"), 5U);
+    EXPECT_EQ(CharacterCount("K\xF6ln"), 4U);
+    EXPECT_TRUE(IsAscii("0123456789~"));
+    EXPECT_FALSE(IsAscii("0123456789\x80"));
+    EXPECT_FALSE(
+        IsAscii("\x80"
+                "0123456789"));
+}
+
+TEST(LetterCase, KnowsLatinGreekAndCyrillicPairs) {
+    const std::u32string_view capitals = U"AZÀÞĀĹŊŸŽƏƠǺȘȚẀẼỲΆΏΑΡΣΫЀЏАЯҐӀӁӘ";
+    const std::u32string_view small = U"azàþāĺŋÿžəơǻșțẁẽỳάώαρσϋѐџаяґӏӂә";
+    ASSERT_EQ(capitals.size(), small.size());
+    for (std::size_t i = 0; i < capitals.size(); ++i) {
+        EXPECT_EQ(LowerCase(capitals[i]), small[i]) << i;
+        EXPECT_EQ(UpperCase(small[i]), capitals[i]) << i;
+        EXPECT_EQ(FoldCase(capitals[i]), small[i]) << i;
+    }
+    for (const char32_t alone : U"@[`{0×÷ßİıĸŉſǅµΐΰẞẖ€\U0001F697") {
+        EXPECT_EQ(LowerCase(alone), alone);
+        EXPECT_EQ(UpperCase(alone), alone);
+    }
+    EXPECT_EQ(FoldCase(U'ς'), U'σ');
+    EXPECT_EQ(LowerCase(U'ς'), U'ς');
+}
+
+TEST(LetterCase, IsOneToOne) {
+    for (char32_t c = 0; c < 0x2200; ++c) {
+        EXPECT_TRUE(LowerCase(c) == c || UpperCase(LowerCase(c)) == c) << static_cast<unsigned>(c);
+        EXPECT_TRUE(UpperCase(c) == c || LowerCase(UpperCase(c)) == c) << static_cast<unsigned>(c);
+    }
+}
+
+TEST(Comparing, IgnoresCaseAndEncoding) {
+    const std::vector<std::pair<std::string, std::string>> equals = {
+        {"", ""}, {"M25 North", "m25 nORTH"}, {"KÖLN", "k\xF6ln"}, {"\xC9t\xE9", "éTÉ"}, {"ΟΔΟΣ", "οδος"}};
+    for (const auto& [a, b] : equals) {
+        EXPECT_TRUE(EqualIgnoringCase(a, b, western)) << a;
+        EXPECT_EQ(FoldedKey(a, western), FoldedKey(b, western)) << a;
+    }
+    const std::vector<std::pair<std::string, std::string>> different = {
+        {"a", ""},    {"", "a"}, {"ab", "a"}, {"@", "`"}, {"[", "{"}, {"straße", "STRASSE"},
+        {"Kı", "KI"}, {"ö", "o"}};
+    for (const auto& [a, b] : different) {
+        EXPECT_FALSE(EqualIgnoringCase(a, b, western)) << a;
+        EXPECT_NE(FoldedKey(a, western), FoldedKey(b, western)) << a;
+    }
+    EXPECT_TRUE(EqualIgnoringCase("\xC6\xD3\xCA", "жук", WindowsCodePage(1251)));
+}
+
+TEST(Comparing, KeysSortByTheFoldedCharacters) {
+    EXPECT_EQ(FoldedKey("M25_N\xD6RD", western), "m25_nörd");
+    EXPECT_EQ(FoldedCharacters("M25_N\xD6RD", western), U"m25_nörd");
+    std::string keys = "kept ";
+    AppendFoldedKey(keys, "ABC", western);
+    AppendFoldedKey(keys, "Ä", western);
+    EXPECT_EQ(keys, "kept abcä");
+    const std::string_view ascending[] = {"_A", "a", "B", "b1", "Z", "\xC4", "é", "Ж", "€", "\U0001F697"};
+    for (std::size_t i = 1; i < std::size(ascending); ++i) {
+        EXPECT_LT(FoldedKey(ascending[i - 1], western), FoldedKey(ascending[i], western)) << ascending[i];
+    }
+}
+
+TEST(Comparing, FindsEndings) {
+    EXPECT_EQ(WithoutEnding("M1_70MPH", "mph", western), "M1_70");
+    EXPECT_EQ(WithoutEnding("mph", "MPH", western), "");
+    EXPECT_EQ(WithoutEnding("x", "", western), "x");
+    EXPECT_EQ(WithoutEnding("Ж60КМ/Ч", "\xEA\xEC/\xF7", WindowsCodePage(1251)), "Ж60");
+    EXPECT_EQ(WithoutEnding("\xC6"
+                            "60\xCA\xCC/\xD7",
+                            "км/ч", WindowsCodePage(1251)),
+              "\xC6"
+              "60");
+    EXPECT_EQ(WithoutEnding("ph", "mph", western), std::nullopt);
+    EXPECT_EQ(WithoutEnding("70mp", "mph", western), std::nullopt);
+    EXPECT_TRUE(EndsWithIgnoringCase("X.ASC", ".asc", western));
+    EXPECT_FALSE(EndsWithIgnoringCase("X.ASC1", ".asc", western));
+}
+
+TEST(Comparing, OfFixedWordsFoldsAsciiOnly) {
+    EXPECT_TRUE(EqualIgnoringAsciiCase("[TYPE1]", "[Type1]"));
+    EXPECT_FALSE(EqualIgnoringAsciiCase("[TYPE1] ", "[Type1]"));
+    EXPECT_FALSE(EqualIgnoringAsciiCase("{type1}", "[Type1]"));
+    EXPECT_TRUE(StartsWithIgnoringAsciiCase("[units] and more", "[Units]"));
+    EXPECT_FALSE(StartsWithIgnoringAsciiCase("[unit", "[Units]"));
+    EXPECT_FALSE(EqualIgnoringAsciiCase("\xC4", "\xE4"));
+}
+
+TEST(ProperCase, RaisesTheLetterBehindASeparator) {
+    EXPECT_EQ(ProperCase("eXPORT aLL  files"), "Export All  Files");
+    EXPECT_EQ(ProperCase("a\tb\nc\vd\fe\rf\0g"s), "A\tB\nC\vD\fE\rF\0G"s);
+    EXPECT_EQ(ProperCase("jean-luc o'NEILL &file 1st (old)"), "Jean-luc O'neill &file 1st (old)");
+    EXPECT_EQ(ProperCase("ÖSTLICHE straße žluťoučký ПУТЬ"), "Östliche Straße Žluťoučký Путь");
+    EXPECT_EQ(ProperCase("\xF6STLICH"), "Östlich");
+    EXPECT_EQ(ProperCase("a\u00A0b"), "A\u00A0b");
+    EXPECT_EQ(ProperCase(""), "");
+}
+
+TEST(Trimming, TakesBlanksOnly) {
+    EXPECT_EQ(Trim("  a b  "), "a b");
+    EXPECT_EQ(Trim(" \ta\t "), "\ta\t");
+    EXPECT_EQ(Trim("   "), "");
+    EXPECT_EQ(TrimLeft("  a "), "a ");
+}
+
+TEST(Comments, BeginWithOneOfTenCharacters) {
+    for (const char first : "\\/:\"<>|;!#"s)
+        EXPECT_EQ(StripComment(std::string(1, first) + "1.5, 2.5"), "") << first;
+    for (const auto& line : {""s, "1.5, 2.5"s, " ; blank first"s, "a;b"s, "'"s, "[Type1]"s, "\0;"s}) {
+        EXPECT_EQ(StripComment(line), line);
+    }
+}
+
+}  // namespace
+}  // namespace halvenmoor::text
