@@ -140,7 +140,7 @@ void ListBox::SetSelected(int index, bool selected) {
     item.selected = selected;
     selCount_ += selected ? 1 : -1;
     if (selected) listIndex_ = index;
-    ItemsChanged();
+    Changed();
     RaiseClick();
 }
 
@@ -187,7 +187,7 @@ bool ListBox::UserSelect(const std::vector<int>& rows, int current) {
         for (const int row : rows) items_.At(row).selected = true;
         selCount_ = static_cast<int>(rows.size());
         listIndex_ = current;
-        ItemsChanged();
+        Changed();
         RaiseClick();
     });
 }
@@ -206,7 +206,7 @@ bool ListBox::UserCompleteDrag() {
 }
 
 void ListBox::ItemsChanged() {
-    ++version_;
+    ++itemsVersion_;
     Changed();
 }
 
@@ -220,7 +220,6 @@ void ComboBox::SetListIndex(int index) {
     if (index == listIndex_) return;
     text_ = index >= 0 ? List(index) : std::string();
     listIndex_ = index;
-    ++version_;
     Changed();
     RaiseClick();
 }
@@ -228,7 +227,7 @@ void ComboBox::SetListIndex(int index) {
 void ComboBox::AddItem(std::string text) {
     const int place = items_.Add(std::move(text));
     if (place <= listIndex_) ++listIndex_;
-    ++version_;
+    ++itemsVersion_;
     Changed();
 }
 
@@ -236,7 +235,7 @@ void ComboBox::Clear() {
     items_.Clear();
     listIndex_ = -1;
     text_.clear();
-    ++version_;
+    ++itemsVersion_;
     Changed();
 }
 
@@ -253,7 +252,6 @@ bool ComboBox::UserTyped(std::string text) {
     return Deliver([&] {
         text_ = std::move(text);
         listIndex_ = -1;
-        ++version_;
         Changed();
         Desktop::Raise(OnChange);
     });

@@ -198,8 +198,8 @@ public:
     bool UserDrop();
     bool UserCompleteDrag();
 
-    /// Grows with every change of the items or of the selection.
-    std::uint64_t Version() const { return version_; }
+    /// Grows with every change of the items; the selection does not count.
+    std::uint64_t ItemsVersion() const { return itemsVersion_; }
 
 private:
     void ItemsChanged();
@@ -208,7 +208,7 @@ private:
     int selCount_ = 0;
     int listIndex_ = -1;
     DropMode dropMode_ = DropMode::None;
-    std::uint64_t version_ = 0;
+    std::uint64_t itemsVersion_ = 0;
 };
 
 /// A sorted choice with a text field.
@@ -233,13 +233,14 @@ public:
     /// The user edited the text field: no item is chosen any more.
     bool UserTyped(std::string text);
 
-    std::uint64_t Version() const { return version_; }
+    /// Grows with every change of the items; the choice does not count.
+    std::uint64_t ItemsVersion() const { return itemsVersion_; }
 
 private:
     SortedItems items_;
     int listIndex_ = -1;
     std::string text_;
-    std::uint64_t version_ = 0;
+    std::uint64_t itemsVersion_ = 0;
 };
 
 /// A picture or a drawing surface.

@@ -50,6 +50,7 @@ public:
 
     /// In the order of the window's table.
     const std::vector<Control*>& Controls() const { return controls_; }
+    std::vector<Control*> InTabOrder() const;
     /// The control that has the focus; none before the window opens or when no control can take it.
     Control* ActiveControl() const { return active_; }
     /// The button that the Escape key presses.
@@ -94,7 +95,6 @@ private:
     void FocusOn(Control* control);
     /// Moves the focus to the next control in the tab order that can take it.
     void PassFocusOn();
-    std::vector<Control*> InTabOrder() const;
 
     Desktop& desktop_;
     const FormDesign design_;
