@@ -49,7 +49,7 @@ private:
     bool AcceptsSpecial(char32_t element, char32_t character) const noexcept;
 
     const CodePage* page_;
-    std::vector<Piece> pieces_{1};  // what stands between the stars
+    std::vector<Piece> pieces_ = std::vector<Piece>(1);  // what stands between the stars
     std::vector<List> lists_;
     std::size_t minimumLength_ = 0;
     bool isMalformed_ = false;
