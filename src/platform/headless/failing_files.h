@@ -20,6 +20,13 @@ public:
         if (failure_ && calls_ >= first_ && calls_ <= last_) throw *failure_;
     }
 
+    /// The object that takes the call, once it is counted.
+    template <class Target>
+    Target& Counted(Target& target) {
+        Count();
+        return target;
+    }
+
     void Fail(int first, int last, const Failure& failure) {
         calls_ = 0;
         first_ = first;

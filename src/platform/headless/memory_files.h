@@ -53,8 +53,8 @@ private:
     std::string Find(std::string_view path) const;
     bool IsFile(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
-    const Bytes& FileAt(std::string_view path) const;
-    void RequireFolder(std::string_view path) const;
+    Bytes RequireFile(std::string_view path) const;
+    std::string RequireFolder(std::string_view path) const;
     void Delete(const std::string& path);
     std::vector<std::string> NamesIn(std::string_view folder) const;
 

@@ -1,0 +1,209 @@
+// What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
+
+#include "files_test_helpers.h"
+#include "platform/disk/clock.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/disk/locale.h"
+#include "temporary_folder.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace halvenmoor {
+namespace {
+
+constexpr std::size_t bufferSize = 64 * 1024;
+
+class DiskTest : public testing::Test {
+protected:
+    Strings LinesOf(const std::string& name) { return ReadLines(fileSystem, folder / name); }
+
+    void Link(const std::string& target, const std::string& name) {
+        std::filesystem::create_symlink(target, folder / name);
+    }
+
+    /// Makes a folder look as if it was last changed at that time.
+    void SetAge(const std::string& name, std::chrono::seconds age) {
+        const auto now = std::filesystem::file_time_type::clock::now();
+        std::filesystem::last_write_time(folder / name, now - age);
+    }
+
+    TemporaryFolder folder;
+    disk::PathFinder finder{text::WindowsCodePage(1252)};
+    disk::DiskFileSystem fileSystem{finder};
+    disk::DiskHostFiles host{finder};
+    std::unique_ptr<platform::FileSystemObject> object = fileSystem.CreateFileSystemObject();
+};
+
+TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
+    for (std::size_t length = bufferSize - 3; length <= bufferSize + 1; ++length) {
+        const std::string line(length, 'x');
+        for (const std::string lineEnd : {"\n", "\r\n"}) {
+            folder.Put("a", line + lineEnd + "next" + lineEnd + line + "\r|" + lineEnd + "last\r");
+            EXPECT_TRUE(LinesOf("a") == (Strings{line, "next", line + "\r|", "last\r"})) << length;
+        }
+    }
+    for (std::size_t count = bufferSize / 8 - 1; count <= bufferSize / 8 + 1; ++count) {
+        std::string bytes = "1";  // each line end crosses a multiple of eight
+        for (std::size_t i = 0; i < count; ++i) bytes += "23456\r\n1";
+        EXPECT_EQ((folder.Put("a", bytes), LinesOf("a").size()), count + 1);
+    }
+}
+
+TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
+    const std::string longLine(5 * bufferSize + 7, 'x');
+    folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
+    EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
+
+    const auto writer = object->CreateTextFile(folder / "b");
+    writer->WriteLine("short");
+    writer->WriteLine(longLine);
+    writer->WriteLine(std::string(bufferSize, 'y'));
+    writer->Close();
+    EXPECT_TRUE(folder.Text("b") == "short\r\n" + longLine + "\r\n" + std::string(bufferSize, 'y') + "\r\n");
+}
+
+TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {
+    std::string bytes(2 * bufferSize + 10, '\0');
+    for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i % 251);
+    folder.Put("a", bytes);
+    const auto reader = host.OpenBytes(folder / "a");
+    std::string read(bytes.size() + 1, '\0');
+    EXPECT_EQ(reader->Read(std::span(read).first(7)), 7u);
+    EXPECT_EQ(reader->Remaining(), bytes.size() - 7);
+    EXPECT_EQ(reader->Read(std::span(read).subspan(7)), bytes.size() - 7);
+    EXPECT_TRUE(read == bytes + '\0');
+}
+
+TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
+    const auto closed = object->CreateTextFile("/dev/full");
+    closed->WriteLine("few bytes");
+    EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
+    EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
+
+    const auto written = object->OpenForAppending("/dev/full");
+    const std::string line(bufferSize, 'x');
+    EXPECT_EQ(FailureNumber([&] { written->WriteLine(line); }), failure::DiskFull);
+    EXPECT_EQ(FailureNumber([&] { written->WriteLine("more"); }), failure::DiskFull);
+    EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
+}
+
+TEST_F(DiskTest, FoldersPipesAndDevicesAreNoFilesToRead) {
+    ASSERT_EQ(::mkfifo((folder / "pipe.asc").c_str(), 0600), 0);
+    for (const std::string& path : {folder / "pipe.asc", std::string("/dev/zero")}) {
+        EXPECT_EQ(FailureNumber([&] { object->OpenTextFile(path); }), failure::FileAccess) << path;
+        EXPECT_EQ(FailureNumber([&] { host.OpenBytes(path); }), failure::FileAccess) << path;
+    }
+    EXPECT_EQ(FailureNumber([&] { object->CreateTextFile(folder / "pipe.asc"); }), failure::FileAccess);
+    EXPECT_EQ(FailureNumber([&] { object->OpenForAppending(folder / "pipe.asc"); }), failure::FileAccess);
+    EXPECT_EQ(FailureNumber([&] { object->GetFolder(folder / "pipe.asc"); }), failure::PathNotFound);
+}
+
+TEST_F(DiskTest, LinksToFilesAreFilesAndLinksToFoldersAreFolders) {
+    folder.Put("elsewhere/kept.asc", "kept\n");
+    folder.AddFolder("asc");
+    Link("../elsewhere/kept.asc", "asc/File.ASC");
+    Link("../elsewhere", "asc/folder.asc");
+    Link("nowhere", "asc/dangling.asc");
+    Link("circle.asc", "asc/circle.asc");
+    Link("asc", "link");
+
+    EXPECT_EQ(Search(host, folder / "LINK"), (Strings{"File.ASC", "circle.asc", "dangling.asc"}));
+    EXPECT_TRUE(host.IsListed(folder / "asc/file.asc"));
+    for (const char* name : {"asc/folder.asc", "asc/dangling.asc", "asc/circle.asc"}) {
+        EXPECT_FALSE(host.IsListed(folder / name)) << name;
+        EXPECT_FALSE(object->FileExists(folder / name)) << name;
+    }
+    EXPECT_EQ(LinesOf("link/FILE.asc"), Strings{"kept"});
+    EXPECT_EQ(FailureNumber([&] { LinesOf("asc/dangling.asc"); }), failure::FileNotFound);
+    EXPECT_EQ(FailureNumber([&] { LinesOf("asc/circle.asc"); }), failure::PathNotFound);
+
+    const auto files = object->GetFolder(folder / "link");
+    EXPECT_EQ(files->Files(), (Strings{"File.ASC", "circle.asc", "dangling.asc"}));
+    for (const std::string& name : files->Files()) files->Delete(name);
+    EXPECT_EQ(files->Files(), Strings{});
+    EXPECT_EQ(folder.Text("asc/folder.asc/kept.asc"), "kept\n");
+}
+
+TEST_F(DiskTest, RenameSeesALinkThatLeadsNowhere) {
+    folder.Put("a.asc", "a");
+    Link("nowhere", "b.asc");
+    EXPECT_EQ(FailureNumber([&] { host.Rename(folder / "a.asc", folder / "b.asc"); }), failure::FileExists);
+    EXPECT_EQ(folder.Text("a.asc"), "a");
+}
+
+TEST_F(DiskTest, AFolderStaysTheSameWhenItsPathChanges) {
+    folder.Put("asc/a.asc", "");
+    const auto files = object->GetFolder(folder / "asc");
+    std::filesystem::rename(folder / "asc", folder / "old");
+    folder.Put("asc/new.asc", "");
+    files->Delete("a.asc");
+    EXPECT_EQ(files->Files(), Strings{});
+    EXPECT_TRUE(object->FileExists(folder / "asc/new.asc"));
+}
+
+TEST_F(DiskTest, FindsWhatWasAddedAfterItsIndexWasMade) {
+    folder.Put("asc/Y.ASC", "");
+    EXPECT_TRUE(object->FileExists(folder / "asc/y.asc"));
+    EXPECT_FALSE(object->FileExists(folder / "asc/x.asc"));
+    folder.Put("asc/X.ASC", "");
+    EXPECT_TRUE(object->FileExists(folder / "asc/x.asc")) << "in a folder that has just changed";
+
+    SetAge("asc", std::chrono::hours(1));
+    EXPECT_FALSE(object->FileExists(folder / "asc/z.asc"));
+    folder.Put("asc/Z.ASC", "");
+    EXPECT_TRUE(object->FileExists(folder / "asc/z.asc")) << "in a folder that had not changed for long";
+
+    std::filesystem::rename(folder / "asc/Z.ASC", folder / "asc/Z.Asc");
+    EXPECT_EQ(finder.Find(folder / "asc/z.asc"), folder / "asc/Z.Asc");
+    std::filesystem::remove(folder / "asc/Z.Asc");
+    EXPECT_FALSE(object->FileExists(folder / "asc/z.asc"));
+}
+
+TEST_F(DiskTest, ScansAFolderOnceForManyNames) {
+    folder.Put("asc/Y.ASC", "");
+    SetAge("asc", std::chrono::hours(1));
+    const auto changed = std::filesystem::last_write_time(folder / "asc");
+    EXPECT_FALSE(object->FileExists(folder / "asc/x.asc"));
+
+    // With its old time the folder looks unchanged: a second scan would give itself away.
+    folder.Put("asc/X.ASC", "");
+    std::filesystem::last_write_time(folder / "asc", changed);
+    EXPECT_FALSE(object->FileExists(folder / "asc/x.asc"));
+    EXPECT_TRUE(object->FileExists(folder / "asc/y.asc"));
+}
+
+TEST_F(DiskTest, RelativePathsStartAtTheCurrentFolder) {
+    const auto before = std::filesystem::current_path();
+    folder.Put("Asc/A.asc", "");
+    std::filesystem::current_path(folder.Path());
+    const Strings found = {finder.Find("asc/a.ASC"), finder.Find("asc"), finder.Find(""), finder.Find("/")};
+    std::filesystem::current_path(before);
+    EXPECT_EQ(found, (Strings{"./Asc/A.asc", "./Asc", "", "/"}));
+}
+
+TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
+    const disk::DiskLocale polish("pl_PL.UTF-8", ",");
+    EXPECT_EQ(polish.CodePage().number, 1250);
+    EXPECT_EQ(polish.DecimalSeparator(), ",");
+    EXPECT_EQ(polish.ToFileText("\xC5\x82"), "\xC5\x82");
+
+    ASSERT_EQ(::setenv("LC_ALL", "ru_RU.NotInstalled", 1), 0);
+    const auto russian = disk::DiskLocale::FromEnvironment();
+    ASSERT_EQ(::unsetenv("LC_ALL"), 0);
+    EXPECT_EQ(russian.CodePage().number, 1251);
+    EXPECT_EQ(russian.DecimalSeparator(), ".");
+}
+
+TEST(DiskClockTest, TellsTheLocalTime) {
+    const std::time_t before = std::time(nullptr);
+    const double time = disk::DiskClock().TimeOfDay();
+    const std::tm local = *std::localtime(&before);
+    const double elapsed = time - ((local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec);
+    EXPECT_TRUE((elapsed >= 0 && elapsed < 60) || elapsed < -86000) << elapsed;  // or across midnight
+}
+
+}  // namespace
+}  // namespace halvenmoor

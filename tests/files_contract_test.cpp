@@ -1,0 +1,219 @@
+// What files must do, on the disk and in its twin in memory alike.
+
+#include "files_test_helpers.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/headless/memory_files.h"
+#include "temporary_folder.h"
+
+#include <array>
+#include <gtest/gtest.h>
+
+namespace halvenmoor {
+namespace {
+
+struct Disk {
+    TemporaryFolder folder;
+    disk::PathFinder finder{text::WindowsCodePage(1252)};
+    disk::DiskFileSystem fileSystem{finder};
+    disk::DiskHostFiles hostFiles{finder};
+
+    std::string Root() const { return folder.Path(); }
+    void AddFolder(const std::string& name) { folder.AddFolder(name); }
+    void Put(const std::string& name, const std::string& bytes) { folder.Put(name, bytes); }
+    std::string Text(const std::string& name) const { return folder.Text(name); }
+};
+
+struct Memory {
+    headless::MemoryFiles files;
+    platform::FileSystem& fileSystem = files;
+    platform::HostFiles& hostFiles = files;
+
+    std::string Root() const { return "/program"; }
+    void AddFolder(const std::string& name) { files.AddFolder(Root() + '/' + name); }
+    void Put(const std::string& name, const std::string& bytes) { files.Put(Root() + '/' + name, bytes); }
+    std::string Text(const std::string& name) const { return files.Text(Root() + '/' + name); }
+};
+
+template <class World>
+class FilesContract : public testing::Test {
+protected:
+    std::string At(const std::string& name) const { return world.Root() + '/' + name; }
+    Strings LinesOf(const std::string& name) { return ReadLines(world.fileSystem, At(name)); }
+
+    World world;
+    std::unique_ptr<platform::FileSystemObject> object = world.fileSystem.CreateFileSystemObject();
+    platform::HostFiles& host = world.hostFiles;
+};
+
+using Worlds = testing::Types<Disk, Memory>;
+TYPED_TEST_SUITE(FilesContract, Worlds);
+
+TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
+    const struct {
+        std::string bytes;
+        Strings lines;
+    } cases[] = {
+        {"", {}},
+        {"\n", {""}},
+        {"one", {"one"}},
+        {"one\r\ntwo\nthree", {"one", "two", "three"}},
+        {"one\n\n\r\n", {"one", "", ""}},
+        {"a\rb\r\n", {"a\rb"}},
+        {"a\r\r\n", {"a\r"}},
+        {"a\r", {"a\r"}},
+        {std::string("a\0b\x1A\nc", 6), {std::string("a\0b\x1A", 4), "c"}},
+        {"\xEF\xBB\xBFX\xE4\n", {"X\xE4"}},
+        {"\xEF\xBB\xBF", {}},
+        {"\xEF\xBB\n\xEF\xBB\xBF", {"\xEF\xBB", "\xEF\xBB\xBF"}},
+    };
+    for (const auto& [bytes, lines] : cases) {
+        this->world.Put("a.txt", bytes);
+        EXPECT_EQ(this->LinesOf("a.txt"), lines) << testing::PrintToString(bytes);
+    }
+}
+
+TYPED_TEST(FilesContract, ReadingPastTheEndOrAfterCloseFails) {
+    this->world.Put("a.txt", "one");
+    const auto reader = this->object->OpenTextFile(this->At("a.txt"));
+    EXPECT_EQ(reader->ReadLine(), "one");
+    EXPECT_TRUE(reader->AtEndOfStream());
+    EXPECT_EQ(FailureNumber([&] { reader->ReadLine(); }), failure::InputPastEnd);
+
+    const auto closed = this->object->OpenTextFile(this->At("a.txt"));
+    closed->Close();
+    closed->Close();
+    EXPECT_EQ(FailureNumber([&] { closed->ReadLine(); }), failure::FileAccess);
+}
+
+TYPED_TEST(FilesContract, OnlyFilesThatExistOpen) {
+    this->world.AddFolder("folder");
+    auto& files = *this->object;
+    EXPECT_EQ(FailureNumber([&] { files.OpenTextFile(this->At("none")); }), failure::FileNotFound);
+    EXPECT_EQ(FailureNumber([&] { files.OpenForAppending(this->At("none")); }), failure::FileNotFound);
+    EXPECT_EQ(FailureNumber([&] { this->host.OpenBytes(this->At("none")); }), failure::FileNotFound);
+    EXPECT_EQ(FailureNumber([&] { files.OpenTextFile(this->At("folder")); }), failure::PermissionDenied);
+    EXPECT_EQ(FailureNumber([&] { files.CreateTextFile(this->At("folder")); }), failure::PermissionDenied);
+    EXPECT_EQ(FailureNumber([&] { files.CreateTextFile(this->At("none/a")); }), failure::PathNotFound);
+    EXPECT_EQ(FailureNumber([&] { files.GetFolder(this->At("none")); }), failure::PathNotFound);
+    EXPECT_EQ(FailureNumber([&] { Search(this->host, this->At("none")); }), failure::PathNotFound);
+    EXPECT_FALSE(files.FileExists(this->At("none")));
+}
+
+TYPED_TEST(FilesContract, WritersEndLinesWithCrLf) {
+    this->world.Put("Target.txt", "what was there before\n");
+    const auto writer = this->object->CreateTextFile(this->At("Target.txt"));
+    writer->WriteLine("one");
+    writer->WriteLine("");
+    writer->Close();
+    writer->Close();
+    EXPECT_EQ(FailureNumber([&] { writer->WriteLine("late"); }), failure::FileAccess);
+    EXPECT_EQ(this->world.Text("Target.txt"), "one\r\n\r\n");
+
+    this->world.Put("Target.txt", "no line end");
+    this->object->OpenForAppending(this->At("target.TXT"))->WriteLine(" now");
+    EXPECT_EQ(this->world.Text("Target.txt"), "no line end now\r\n") << "without Close";
+}
+
+TYPED_TEST(FilesContract, CreatingTakesTheNameAsItIs) {
+    this->world.Put("A.asc", "capital");
+    this->object->CreateTextFile(this->At("a.asc"))->WriteLine("small");
+    EXPECT_EQ(this->world.Text("A.asc"), "capital");
+    EXPECT_EQ(this->world.Text("a.asc"), "small\r\n");
+}
+
+TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
+    this->world.Put("Asc/M\xC3\xBCnchen 50.ASC", "utf-8");
+    this->world.Put("Asc/K\xF6ln.asc", "code page");
+    this->world.Put("Asc/b.asc", "b");
+    this->world.Put("Asc/B.ASC", "B");
+    this->world.Put("Asc/B.asc", "B.");
+    const std::array<std::array<std::string, 2>, 8> found = {{{"Asc/b.asc", "b"},
+                                                              {"Asc/B.asc", "B."},
+                                                              {"asc/b.asc", "b"},
+                                                              {"ASC//b.Asc", "B"},
+                                                              {"Asc/b.ASC/", "B"},
+                                                              {"asc/M\xC3\x9CNCHEN 50.asc", "utf-8"},
+                                                              {"asc/m\xFCnchen 50.asc", "utf-8"},
+                                                              {"asc/K\xC3\x96LN.asc", "code page"}}};
+    for (const auto& [name, line] : found) EXPECT_EQ(this->LinesOf(name), Strings{line}) << name;
+    EXPECT_FALSE(this->object->FileExists(this->At("ASC/KOLN.asc")));
+
+    EXPECT_TRUE(this->object->FolderExists(this->At("aSC")));
+    EXPECT_TRUE(this->object->FolderExists(this->At("asc/")));
+    EXPECT_FALSE(this->object->FileExists(this->At("asc")));
+    EXPECT_FALSE(this->object->FolderExists(this->At("asc/b.asc")));
+    EXPECT_FALSE(this->object->FileExists(this->At("asc/b.asc/c")));
+    EXPECT_FALSE(this->object->FileExists(this->At(std::string("asc/b.asc\0x", 11))));
+}
+
+TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
+    this->world.AddFolder("asc/folder.asc");
+    for (const char* name : {"asc/b.asc", "asc/C.txt", "asc/.hidden", "asc/\xE4", "asc/folder.asc/below"}) {
+        this->world.Put(name, "");
+    }
+    const auto folder = this->object->GetFolder(this->At("ASC"));
+    EXPECT_EQ(folder->Files(), (Strings{".hidden", "C.txt", "b.asc", "\xE4"}));
+    folder->Delete("b.asc");
+    folder->Delete(".hidden");
+    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "\xE4"}));
+    for (const char* name : {"b.asc", "folder.asc", "folder.asc/below", "..", ""}) {
+        EXPECT_NE(FailureNumber([&] { folder->Delete(name); }), 0) << name;
+    }
+    EXPECT_EQ(this->world.Text("asc/folder.asc/below"), "");
+}
+
+TYPED_TEST(FilesContract, DeletesAFile) {
+    this->world.Put("asc/B.asc", "");
+    this->object->DeleteFile(this->At("asc/b.asc"));
+    EXPECT_FALSE(this->object->FileExists(this->At("asc/B.asc")));
+    EXPECT_EQ(FailureNumber([&] { this->object->DeleteFile(this->At("asc/b.asc")); }), failure::FileNotFound);
+    EXPECT_EQ(FailureNumber([&] { this->object->DeleteFile(this->At("asc")); }), failure::PermissionDenied);
+}
+
+TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {
+    this->world.AddFolder("asc/folder.asc");
+    for (const char* name : {"asc/.asc", "asc/.hidden.asc", "asc/X.ASC", "asc/x.asc", "asc/y.txt",
+                             "asc/z.asc.old", "asc/asc", "asc/\xE4.Asc", "asc/folder.asc/below.asc"}) {
+        this->world.Put(name, "");
+    }
+    EXPECT_EQ(Search(this->host, this->At("Asc/")), (Strings{"X.ASC", "x.asc", "\xE4.Asc"}));
+    EXPECT_TRUE(this->host.IsListed(this->At("ASC/\xC3\xA4.asc")));
+    for (const char* name : {"asc/.hidden.asc", "asc/folder.asc", "asc/none.asc", "none/X.asc"}) {
+        EXPECT_FALSE(this->host.IsListed(this->At(name))) << name;
+    }
+}
+
+TYPED_TEST(FilesContract, ReadsBytesInOrder) {
+    this->world.Put("a.OV2", std::string("\xEF\xBB\xBF\0\r\n", 6));
+    const auto reader = this->host.OpenBytes(this->At("a.ov2"));
+    std::array<char, 4> buffer{};
+    EXPECT_EQ(reader->Remaining(), 6u);
+    EXPECT_EQ(reader->Read(buffer), 4u);
+    EXPECT_EQ(std::string(buffer.data(), 4), std::string("\xEF\xBB\xBF\0", 4));
+    EXPECT_EQ(reader->Remaining(), 2u);
+    EXPECT_EQ(reader->Read(buffer), 2u);
+    EXPECT_EQ(std::string(buffer.data(), 2), "\r\n");
+    EXPECT_EQ(reader->Remaining(), 0u);
+    EXPECT_EQ(reader->Read(buffer), 0u);
+}
+
+TYPED_TEST(FilesContract, RenameNeverReplaces) {
+    this->world.Put("asc/Old.ASC", "old");
+    this->world.Put("asc/taken.asc", "taken");
+    const auto rename = [&](const std::string& from, const std::string& to) {
+        return FailureNumber([&] { this->host.Rename(this->At(from), this->At(to)); });
+    };
+    EXPECT_EQ(rename("asc/old.asc", "asc/taken.asc"), failure::FileExists);
+    EXPECT_NE(rename("asc/old.asc", "none/new.asc"), 0);
+    EXPECT_EQ(rename("asc/none.asc", "asc/new.asc"), failure::FileNotFound);
+    EXPECT_EQ(this->world.Text("asc/Old.ASC"), "old");
+
+    EXPECT_EQ(rename("asc/old.asc", "asc/new.asc"), 0);
+    EXPECT_EQ(this->world.Text("asc/new.asc"), "old");
+    EXPECT_EQ(this->world.Text("asc/taken.asc"), "taken");
+    EXPECT_FALSE(this->object->FileExists(this->At("asc/Old.ASC")));
+}
+
+}  // namespace
+}  // namespace halvenmoor

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <stdlib.h>
+#include <string>
+
+namespace halvenmoor {
+
+/// A fresh folder on the disk, deleted with all that is in it at the end.
+class TemporaryFolder {
+public:
+    TemporaryFolder() : path_((std::filesystem::temp_directory_path() / "halvenmoor-test-XXXXXX").string()) {
+        if (::mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder: " + path_);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    /// Without a separator at its end.
+    const std::string& Path() const { return path_; }
+
+    /// The full path of something in the folder.
+    std::string operator/(const std::string& name) const { return path_ + '/' + name; }
+
+    void AddFolder(const std::string& name) const { std::filesystem::create_directories(*this / name); }
+
+    /// Makes or replaces a file, and makes the folders above it.
+    void Put(const std::string& name, const std::string& bytes) const {
+        const std::filesystem::path path = *this / name;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream file(path, std::ios::binary);
+        if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
+            throw std::runtime_error("cannot write " + path.string());
+        }
+    }
+
+    std::string Text(const std::string& name) const {
+        std::ifstream file(*this / name, std::ios::binary);
+        if (!file) throw std::runtime_error("cannot read " + name);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+private:
+    std::string path_;
+};
+
+}  // namespace halvenmoor
