@@ -8,7 +8,10 @@
 #include "temporary_folder.h"
 
 #include <chrono>
+#include <csignal>
+#include <ctime>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace halvenmoor {
@@ -90,6 +93,26 @@ TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
     EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
 }
 
+TEST_F(DiskTest, AFailedWriteKeepsWhatFitsAndIsNotRepeated) {
+    constexpr rlim_t largest = bufferSize + 10;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto setLimit = [&](rlim_t limit) {
+        const rlimit limits{limit, before.rlim_max};
+        return ::setrlimit(RLIMIT_FSIZE, &limits);
+    };
+    const auto writer = object->CreateTextFile(folder / "a");
+    const std::string line(2 * bufferSize, 'x');
+    ASSERT_EQ(setLimit(largest), 0);
+    EXPECT_EQ(FailureNumber([&] { writer->WriteLine(line); }), failure::DiskFull);
+    ASSERT_EQ(setLimit(before.rlim_cur), 0);
+    std::signal(SIGXFSZ, handler);
+
+    EXPECT_EQ(FailureNumber([&] { writer->Close(); }), failure::DiskFull);
+    EXPECT_TRUE(folder.Text("a") == line.substr(0, largest));
+}
+
 TEST_F(DiskTest, FoldersPipesAndDevicesAreNoFilesToRead) {
     ASSERT_EQ(::mkfifo((folder / "pipe.asc").c_str(), 0600), 0);
     for (const std::string& path : {folder / "pipe.asc", std::string("/dev/zero")}) {
@@ -148,8 +171,10 @@ TEST_F(DiskTest, FindsWhatWasAddedAfterItsIndexWasMade) {
     folder.Put("asc/Y.ASC", "");
     EXPECT_TRUE(object->FileExists(folder / "asc/y.asc"));
     EXPECT_FALSE(object->FileExists(folder / "asc/x.asc"));
+    const auto changed = std::filesystem::last_write_time(folder / "asc");
     folder.Put("asc/X.ASC", "");
-    EXPECT_TRUE(object->FileExists(folder / "asc/x.asc")) << "in a folder that has just changed";
+    std::filesystem::last_write_time(folder / "asc", changed);
+    EXPECT_TRUE(object->FileExists(folder / "asc/x.asc")) << "changed twice within a step of its time";
 
     SetAge("asc", std::chrono::hours(1));
     EXPECT_FALSE(object->FileExists(folder / "asc/z.asc"));
@@ -190,9 +215,11 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
     EXPECT_EQ(polish.DecimalSeparator(), ",");
     EXPECT_EQ(polish.ToFileText("\xC5\x82"), "\xC5\x82");
 
+    const char* value = std::getenv("LC_ALL");
+    const std::string before = value == nullptr ? "" : value;  // an empty one counts as none
     ASSERT_EQ(::setenv("LC_ALL", "ru_RU.NotInstalled", 1), 0);
     const auto russian = disk::DiskLocale::FromEnvironment();
-    ASSERT_EQ(::unsetenv("LC_ALL"), 0);
+    ASSERT_EQ(::setenv("LC_ALL", before.c_str(), 1), 0);
     EXPECT_EQ(russian.CodePage().number, 1251);
     EXPECT_EQ(russian.DecimalSeparator(), ".");
 }

@@ -128,9 +128,13 @@ TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
     this->world.Put("Asc/b.asc", "b");
     this->world.Put("Asc/B.ASC", "B");
     this->world.Put("Asc/B.asc", "B.");
-    const std::array<std::array<std::string, 2>, 8> found = {{{"Asc/b.asc", "b"},
+    for (const std::string name : {"ccc", "Ccc", "cCc", "CCC", "ccC", "CcC"}) {
+        this->world.Put("Asc/" + name, name);
+    }
+    const std::array<std::array<std::string, 2>, 9> found = {{{"Asc/b.asc", "b"},
                                                               {"Asc/B.asc", "B."},
                                                               {"asc/b.asc", "b"},
+                                                              {"asc/cCC", "CCC"},
                                                               {"ASC//b.Asc", "B"},
                                                               {"Asc/b.ASC/", "B"},
                                                               {"asc/M\xC3\x9CNCHEN 50.asc", "utf-8"},
