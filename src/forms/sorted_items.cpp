@@ -24,7 +24,8 @@ int SortedItems::Add(std::string text) {
     std::string key = sortKey_(text);
     Item item{std::move(text), std::move(key)};
     const auto place = std::upper_bound(items_.begin(), items_.end(), item, StandsBefore);
-    return static_cast<int>(items_.insert(place, std::move(item)) - items_.begin());
+    const auto added = items_.insert(place, std::move(item));  // may move all items, so begin comes after
+    return static_cast<int>(added - items_.begin());
 }
 
 void SortedItems::Add(std::vector<std::string> texts) {
