@@ -1,0 +1,72 @@
+#include "platform/qt/control_view.h"
+
+#include "platform/qt/button_views.h"
+#include "platform/qt/combo_view.h"
+#include "platform/qt/conversions.h"
+#include "platform/qt/list_view.h"
+#include "platform/qt/picture_view.h"
+#include "platform/qt/text_views.h"
+
+namespace halvenmoor::qt {
+
+namespace {
+
+template <class View>
+std::unique_ptr<ControlView> Make(forms::Control& control, QWidget& parent, const text::CodePage& page) {
+    return std::make_unique<View>(static_cast<typename View::ControlType&>(control), parent, page);
+}
+
+std::unique_ptr<ControlView> MakeByKind(forms::Control& control, QWidget& parent,
+                                        const text::CodePage& page) {
+    switch (control.Kind()) {
+        case forms::Kind::Label:
+            return Make<LabelView>(control, parent, page);
+        case forms::Kind::Frame:
+            return Make<FrameView>(control, parent, page);
+        case forms::Kind::CommandButton:
+            return Make<CommandButtonView>(control, parent, page);
+        case forms::Kind::CheckBox:
+            return Make<CheckBoxView>(control, parent, page);
+        case forms::Kind::OptionButton:
+            return Make<OptionButtonView>(control, parent, page);
+        case forms::Kind::ListBox:
+            return Make<ListView>(control, parent, page);
+        case forms::Kind::ComboBox:
+            return Make<ComboView>(control, parent, page);
+        case forms::Kind::PictureBox:
+            return Make<PictureView>(control, parent, page);
+        case forms::Kind::TextBox:
+            return Make<TextBoxView>(control, parent, page);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void ControlView::Update() {
+    widget_.setEnabled(control_.Enabled());
+    widget_.setVisible(control_.Visible());
+    if (const auto color = control_.ForeColor()) {
+        QPalette colors;
+        colors.setColor(widget_.foregroundRole(), ToQColor(*color));
+        widget_.setPalette(colors);
+    }
+    ShowState();
+}
+
+std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& parent,
+                                             const text::CodePage& page) {
+    std::unique_ptr<ControlView> view = MakeByKind(control, parent, page);
+    QWidget& widget = view->Widget();
+    const QString name = QString::fromStdString(control.Name());
+    widget.setObjectName(name);
+    if (control.AtDesign().text.empty() || control.AtDesign().glyph != forms::Glyph::None) {
+        widget.setAccessibleName(name);  // a screen reader finds no words on it
+    }
+    widget.setFont(ToFont({}));
+    widget.setGeometry(ToRect(control.AtDesign().place));
+    view->Update();
+    return view;
+}
+
+}  // namespace halvenmoor::qt

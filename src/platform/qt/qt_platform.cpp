@@ -1,0 +1,21 @@
+#include "platform/qt/qt_platform.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace halvenmoor::qt {
+
+QtPlatform::Arguments::Arguments(char* programName) : values{programName, nullptr} {
+    PreferX11();
+}
+
+QtPlatform::QtPlatform(char* programName, const platform::Locale& locale)
+    : arguments(programName), qtApplication(arguments.count, arguments.values.data()), toolkit(locale) {
+    // Qt's own words, as in the file dialogs, in the language of the user's desktop.
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
+        QCoreApplication::installTranslator(&translator);
+    }
+}
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/qt/application.h"
+#include "platform/qt/file_dialogs.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/settings.h"
+#include "platform/qt/theme.h"
+#include "platform/qt/toolkit.h"
+
+#include <QTranslator>
+#include <array>
+
+namespace halvenmoor::qt {
+
+/// All of the Qt side, in the order in which it has to be made. The program's forms end before it does.
+struct QtPlatform {
+    /// The program's name as main gets it, the first of its arguments; it and the locale outlive the
+    /// platform.
+    QtPlatform(char* programName, const platform::Locale& locale);
+
+    struct Arguments {
+        explicit Arguments(char* programName);
+
+        int count = 1;
+        std::array<char*, 2> values;
+    };
+
+    Arguments arguments;
+    SafeApplication qtApplication;
+    QTranslator translator;
+    QtToolkit toolkit;
+    QtApplication application;
+    QtSettings settings;
+    QtMessageBox messages;
+    QtFileDialogs fileDialogs;
+    QtTheme theme;
+};
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/qt/control_view.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace halvenmoor::qt {
+
+/// Plain text that breaks into lines within its place.
+class LabelView : public ViewOf<forms::Label, QLabel> {
+public:
+    LabelView(forms::Label& label, QWidget& parent, const text::CodePage& page);
+
+private:
+    void ShowState() override;
+};
+
+/// A border with a title.
+class FrameView : public ViewOf<forms::Frame, QGroupBox> {
+public:
+    using ViewOf::ViewOf;
+
+private:
+    void ShowState() override;
+};
+
+class TextBoxView : public ViewOf<forms::TextBox, QLineEdit> {
+public:
+    TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page);
+
+private:
+    void ShowState() override;
+};
+
+}  // namespace halvenmoor::qt
