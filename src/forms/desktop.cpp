@@ -84,6 +84,7 @@ bool Desktop::Accepts(const Form& form) const {
 }
 
 void Desktop::Forget(Form& form) {
+    form.open_ = false;
     open_.erase(std::remove(open_.begin(), open_.end(), &form), open_.end());
 }
 

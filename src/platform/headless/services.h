@@ -1,0 +1,99 @@
+#pragma once
+
+#include "core/platform/services.h"
+#include "core/version.h"
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace halvenmoor::headless {
+
+class FixedApplication : public platform::Application {
+public:
+    explicit FixedApplication(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+
+    bool HasPreviousInstance = false;
+    int RaisedPreviousInstance = 0;
+
+    bool PreviousInstance() override { return HasPreviousInstance; }
+    void RaisePreviousInstance() override { ++RaisedPreviousInstance; }
+    std::string ProgramFolder() const override { return programFolder_; }
+    char Separator() const override { return '/'; }
+    platform::Version Version() const override { return kVersion; }
+    platform::ScreenSize Screen() const override { return {1280, 1024}; }
+
+private:
+    std::string programFolder_;
+};
+
+/// Keeps the messages that would have been shown.
+class MessageLog : public platform::MessageBox {
+public:
+    struct Message {
+        std::string text;
+        std::string title;
+    };
+
+    std::vector<Message> Messages;
+
+    void Show(const std::string& text, const std::string& title) override {
+        Messages.push_back({text, title});
+    }
+};
+
+/// Answers file dialogs with paths given before, and cancels when there is none left.
+class ScriptedFileDialogs : public platform::FileDialogs {
+public:
+    std::deque<std::string> Answers;
+    std::vector<platform::FileDialog> Asked;
+
+    std::optional<std::string> AskSavePath(const platform::FileDialog& dialog) override {
+        return Answer(dialog);
+    }
+    std::optional<std::string> AskOpenPath(const platform::FileDialog& dialog) override {
+        return Answer(dialog);
+    }
+
+private:
+    std::optional<std::string> Answer(const platform::FileDialog& dialog) {
+        Asked.push_back(dialog);
+        if (Answers.empty()) return std::nullopt;
+        std::string answer = std::move(Answers.front());
+        Answers.pop_front();
+        return answer;
+    }
+};
+
+class FixedTheme : public platform::Theme {
+public:
+    std::map<int, forms::Color> Colors{{forms::kHighlightNumber, forms::Rgb(0, 0, 128)},
+                                       {forms::kButtonFaceNumber, forms::Rgb(192, 192, 192)},
+                                       {forms::kButtonShadowNumber, forms::Rgb(128, 128, 128)},
+                                       {forms::kButtonTextNumber, forms::Rgb(0, 0, 0)},
+                                       {forms::kButtonHighlightNumber, forms::Rgb(254, 254, 254)}};
+    bool Themed = false;
+    std::optional<forms::Color> GroupBoxText;
+
+    std::optional<forms::Color> SystemColor(int number) const override {
+        const auto found = Colors.find(number);
+        return found == Colors.end() ? std::nullopt : std::optional(found->second);
+    }
+    bool IsThemed() const override { return Themed; }
+    std::optional<forms::Color> GroupBoxTextColor() const override { return GroupBoxText; }
+};
+
+class FixedLocale : public platform::Locale {
+public:
+    int CodePageNumber = 1252;
+    std::string Separator = ".";
+
+    const text::CodePage& CodePage() const override { return text::WindowsCodePage(CodePageNumber); }
+    std::string DecimalSeparator() const override { return Separator; }
+    std::string ToFileText(std::string_view utf8) const override { return std::string(utf8); }
+};
+
+}  // namespace halvenmoor::headless

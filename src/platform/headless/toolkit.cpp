@@ -1,0 +1,58 @@
+#include "platform/headless/toolkit.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace halvenmoor::headless {
+
+namespace {
+
+/// A turn takes at least this, in seconds, so that every wait ends.
+constexpr double kShortestTurn = 1e-6;
+
+}  // namespace
+
+void HeadlessView::Update() {
+    if (const auto move = form_.TakeMove()) position_ = *move;
+    form_.TakeChanges();
+}
+
+forms::Canvas& HeadlessView::Canvas(forms::PictureBox& box) {
+    return canvases_.try_emplace(&box, box.AtDesign().place).first->second;
+}
+
+std::unique_ptr<forms::View> HeadlessToolkit::CreateView(forms::Form& form) {
+    return std::make_unique<HeadlessView>(form);
+}
+
+void HeadlessToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {
+    first();
+    while (form.IsOpen()) {
+        if (script_.empty()) {
+            ReportStuck(form);
+            form.Owner().End();
+            return;
+        }
+        const Step step = std::move(script_.front());
+        script_.pop_front();
+        step(form);
+    }
+}
+
+void HeadlessToolkit::HandleEvents(double waitSeconds) {
+    ++turns_;
+    clock_.Advance(std::max(waitSeconds, kShortestTurn));
+    if (OnTurn) OnTurn();
+}
+
+void HeadlessToolkit::ReportStuck(forms::Form& form) const {
+    if (OnStuck) {
+        OnStuck(form);
+        return;
+    }
+    std::fprintf(stderr, "%s is open and nothing in the script closes it\n", form.AtDesign().name.c_str());
+    std::abort();
+}
+
+}  // namespace halvenmoor::headless

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "forms/desktop.h"
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_canvas.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace halvenmoor::headless {
+
+/// A view without a window. Its form stands where the program put it, at its first rows.
+class HeadlessView : public forms::View {
+public:
+    explicit HeadlessView(forms::Form& form) : form_(form) {}
+
+    void Show() override { isShown_ = true; }
+    void Hide() override { isShown_ = false; }
+    void Update() override;
+    forms::Point Position() const override { return position_; }
+    int TopIndex(const forms::ListBox&) const override { return 0; }
+    forms::Canvas& Canvas(forms::PictureBox& box) override;
+
+    bool IsShown() const { return isShown_; }
+
+private:
+    forms::Form& form_;
+    forms::Point position_;
+    bool isShown_ = false;
+    std::map<const forms::PictureBox*, MemoryCanvas> canvases_;
+};
+
+/// A window system without windows, for tests and journeys. What the user does in modal windows comes from a
+/// script, and the waiting of the program moves the clock.
+class HeadlessToolkit : public forms::Toolkit {
+public:
+    using Step = std::function<void(forms::Form&)>;
+
+    explicit HeadlessToolkit(ManualClock& clock) : clock_(clock) {}
+
+    /// Adds something that the user does in a modal window, given the open one. Steps run in their order,
+    /// each when its window has nothing else to do.
+    void Script(Step step) { script_.push_back(std::move(step)); }
+    void ForgetScript() { script_.clear(); }
+    /// Something that happens at every turn of the interface.
+    std::function<void()> OnTurn;
+    /// A modal window is open and the script is at its end: nothing would ever close it. Unless set, the
+    /// process is aborted with a message.
+    std::function<void(const forms::Form&)> OnStuck;
+
+    int Turns() const { return turns_; }
+
+    std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
+    void RunModal(forms::Form& form, const std::function<void()>& first) override;
+    void HandleEvents(double waitSeconds) override;
+
+private:
+    void ReportStuck(forms::Form& form) const;
+
+    ManualClock& clock_;
+    std::deque<Step> script_;
+    int turns_ = 0;
+};
+
+}  // namespace halvenmoor::headless

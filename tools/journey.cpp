@@ -1,0 +1,192 @@
+// Plays a journey over the real files of a program folder, with the real windows' logic and no window:
+//
+//     journey PROGRAM_FOLDER < steps
+//
+// One step a line (see Journey::Play). For each it prints the step's payload, if it has one, then "ok" or
+// "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
+
+#include "catalogue/frmMain.h"
+#include "core/text/compare.h"
+#include "export/modExport.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/disk/locale.h"
+#include "platform/disk/path_finder.h"
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "platform/headless/toolkit.h"
+#include "platform/headless/user.h"
+
+#include <cstdio>
+#include <iostream>
+#include <optional>
+#include <string>
+
+using namespace halvenmoor;
+
+namespace {
+
+enum class Outcome { Ok, Refused, NotUnderstood };
+
+Outcome OkIf(bool done) {
+    return done ? Outcome::Ok : Outcome::Refused;
+}
+
+/// The program on the real disk, with everything else in memory.
+struct Program {
+    explicit Program(const std::string& programFolder) : application(programFolder) {
+        core.Main([this] { return std::make_unique<frmMain>(core); });
+        exports.emplace(Window());
+        exports->AttachButtons();
+    }
+
+    frmMain& Window() { return static_cast<frmMain&>(*core.MainForm); }
+
+    disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
+    disk::PathFinder finder{locale.CodePage()};
+    disk::DiskFileSystem fileSystem{finder};
+    disk::DiskHostFiles hostFiles{finder};
+    headless::FixedApplication application;
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    headless::HeadlessToolkit toolkit{clock};
+    forms::Desktop desktop{
+        toolkit, [this](std::string_view text) { return text::FoldedKey(text, locale.CodePage()); }};
+    modMain core{{fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale},
+                 desktop};
+    std::optional<modExport> exports;
+};
+
+class Journey {
+public:
+    explicit Journey(const std::string& programFolder)
+        : programFolder_(programFolder), program_(programFolder) {}
+
+    Outcome Play(const std::string& step) {
+        const auto [word, rest] = FirstWord(step);
+        if (word == "demo") return Set(Window().CheckDemoMode, rest);
+        if (word == "language") return ChooseLanguage(rest);
+        if (word == "auto") return SetAuto(rest);
+        if (word == "classify") return OkIf(Window().ButtonClassifyFiles.UserPress());
+        if (word == "move") return Move(rest);
+        if (word == "reload") return OkIf(Window().ButtonReloadFiles.UserPress());
+        if (word == "save-results") return Set(Window().CheckSaveResults, rest);
+        if (word == "export") return Export(rest);
+        if (word == "lists") return PrintLists();
+        if (word == "results") return PrintResults();
+        return Outcome::NotUnderstood;
+    }
+
+private:
+    struct Words {
+        std::string first;
+        std::string rest;
+    };
+
+    static Words FirstWord(const std::string& text) {
+        const std::size_t blank = text.find(' ');
+        if (blank == std::string::npos) return {text, ""};
+        return {text.substr(0, blank), text.substr(blank + 1)};
+    }
+
+    frmMain& Window() { return program_.Window(); }
+    forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
+
+    static Outcome Set(forms::CheckBox& box, const std::string& wanted) {
+        if (wanted != "on" && wanted != "off") return Outcome::NotUnderstood;
+        return OkIf(box.Value() == (wanted == "on") || box.UserPress());
+    }
+
+    static std::optional<int> Number(const std::string& digit, int lowest) {
+        const bool isType = digit.size() == 1 && digit[0] >= '0' + lowest && digit[0] <= '0' + kLastType;
+        return isType ? std::optional(digit[0] - '0') : std::nullopt;
+    }
+
+    Outcome ChooseLanguage(const std::string& name) {
+        for (int i = 0; i < Window().LanguageList.ListCount(); ++i) {
+            if (Window().LanguageList.List(i) == name) return OkIf(Window().LanguageList.UserChoose(i));
+        }
+        return Outcome::Refused;
+    }
+
+    Outcome SetAuto(const std::string& words) {
+        const auto [digit, wanted] = FirstWord(words);
+        const auto type = Number(digit, kFirstType);
+        return type ? Set(Window().CheckAuto[*type], wanted) : Outcome::NotUnderstood;
+    }
+
+    Outcome Move(const std::string& words) {
+        const auto [digit, name] = FirstWord(words);
+        const auto target = Number(digit, 0);
+        if (!target) return Outcome::NotUnderstood;
+        for (int number = 0; number <= kLastType; ++number) {
+            if (headless::IndexOf(List(number), name) < 0) continue;
+            return OkIf(headless::Select(List(number), {name}) &&
+                        headless::Drag(List(number), List(*target)));
+        }
+        return Outcome::Refused;
+    }
+
+    Outcome Export(const std::string& words) {
+        const auto [mode, path] = FirstWord(words);
+        if (mode == "replace" && path.empty()) return ExportWithMode(1);
+        if (path.empty() || (mode != "save-as" && mode != "append")) return Outcome::NotUnderstood;
+        program_.fileDialogs.Answers = {path.front() == '/' ? path : programFolder_ + "/" + path};
+        return ExportWithMode(mode == "save-as" ? 2 : 3);
+    }
+
+    /// An export that reached its end shows its results.
+    Outcome ExportWithMode(int mode) {
+        bool resultsShown = false;
+        program_.toolkit.Script(
+            [&resultsShown](forms::Form& results) { resultsShown = results.UserEscape(); });
+        Window().OptionExportMode[mode].UserPress();
+        Window().ButtonExportCameras.UserPress();
+        program_.toolkit.ForgetScript();
+        program_.fileDialogs.Answers.clear();
+        return OkIf(resultsShown);
+    }
+
+    Outcome PrintLists() {
+        for (int number = 0; number <= kLastType; ++number) {
+            for (const std::string& name : headless::ItemsOf(List(number)))
+                std::cout << number << '\t' << name << '\n';
+        }
+        return Outcome::Ok;
+    }
+
+    Outcome PrintResults() {
+        const modExport& exports = *program_.exports;
+        for (std::size_t type = kFirstType; type <= kLastType; ++type) {
+            std::cout << exports.FilesProcessed[type] << '\t' << exports.CamerasExported[type] << '\t'
+                      << exports.CamerasSkipped[type] << '\n';
+        }
+        return Outcome::Ok;
+    }
+
+    std::string programFolder_;
+    Program program_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
+        return 2;
+    }
+    Journey journey(argv[1]);
+    for (std::string step; std::getline(std::cin, step);) {
+        const Outcome outcome = journey.Play(step);
+        if (outcome == Outcome::NotUnderstood) {
+            std::cerr << "journey: not understood: " << step << '\n';
+            return 2;
+        }
+        std::cout << (outcome == Outcome::Ok ? "ok" : "refused") << std::endl;
+    }
+    return 0;
+}
