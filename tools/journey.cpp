@@ -6,8 +6,6 @@
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
 #include "catalogue/frmMain.h"
-#include "core/text/compare.h"
-#include "export/modExport.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
@@ -17,6 +15,7 @@
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
 #include "platform/headless/user.h"
+#include "program.h"
 
 #include <cstdio>
 #include <iostream>
@@ -33,15 +32,13 @@ Outcome OkIf(bool done) {
     return done ? Outcome::Ok : Outcome::Refused;
 }
 
-/// The program on the real disk, with everything else in memory.
-struct Program {
-    explicit Program(const std::string& programFolder) : application(programFolder) {
-        core.Main([this] { return std::make_unique<frmMain>(core); });
-        exports.emplace(Window());
-        exports->AttachButtons();
-    }
+/// The real disk, with everything else in memory.
+struct JourneyPlatform {
+    explicit JourneyPlatform(const std::string& programFolder) : application(programFolder) {}
 
-    frmMain& Window() { return static_cast<frmMain&>(*core.MainForm); }
+    platform::Platform Services() {
+        return {fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale};
+    }
 
     disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
     disk::PathFinder finder{locale.CodePage()};
@@ -54,11 +51,6 @@ struct Program {
     headless::ScriptedFileDialogs fileDialogs;
     headless::FixedTheme theme;
     headless::HeadlessToolkit toolkit{clock};
-    forms::Desktop desktop{
-        toolkit, [this](std::string_view text) { return text::FoldedKey(text, locale.CodePage()); }};
-    modMain core{{fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale},
-                 desktop};
-    std::optional<modExport> exports;
 };
 
 class Journey {
@@ -93,7 +85,7 @@ private:
         return {text.substr(0, blank), text.substr(blank + 1)};
     }
 
-    frmMain& Window() { return program_.Window(); }
+    frmMain& Window() { return program_.MainForm(); }
     forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
 
     static Outcome Set(forms::CheckBox& box, const std::string& wanted) {
@@ -135,19 +127,19 @@ private:
         const auto [mode, path] = FirstWord(words);
         if (mode == "replace" && path.empty()) return ExportWithMode(1);
         if (path.empty() || (mode != "save-as" && mode != "append")) return Outcome::NotUnderstood;
-        program_.fileDialogs.Answers = {path.front() == '/' ? path : programFolder_ + "/" + path};
+        platform_.fileDialogs.Answers = {path.front() == '/' ? path : programFolder_ + "/" + path};
         return ExportWithMode(mode == "save-as" ? 2 : 3);
     }
 
     /// An export that reached its end shows its results.
     Outcome ExportWithMode(int mode) {
         bool resultsShown = false;
-        program_.toolkit.Script(
+        platform_.toolkit.Script(
             [&resultsShown](forms::Form& results) { resultsShown = results.UserEscape(); });
         Window().OptionExportMode[mode].UserPress();
         Window().ButtonExportCameras.UserPress();
-        program_.toolkit.ForgetScript();
-        program_.fileDialogs.Answers.clear();
+        platform_.toolkit.ForgetScript();
+        platform_.fileDialogs.Answers.clear();
         return OkIf(resultsShown);
     }
 
@@ -160,7 +152,7 @@ private:
     }
 
     Outcome PrintResults() {
-        const modExport& exports = *program_.exports;
+        const modExport& exports = program_.Exports();
         for (std::size_t type = kFirstType; type <= kLastType; ++type) {
             std::cout << exports.FilesProcessed[type] << '\t' << exports.CamerasExported[type] << '\t'
                       << exports.CamerasSkipped[type] << '\n';
@@ -169,6 +161,7 @@ private:
     }
 
     std::string programFolder_;
+    JourneyPlatform platform_;
     Program program_;
 };
 

@@ -15,7 +15,7 @@ struct Platform {
     MessageBox& messages;
     FileDialogs& fileDialogs;
     Theme& theme;
-    Locale& locale;
+    const Locale& locale;
 };
 
 }  // namespace halvenmoor::platform

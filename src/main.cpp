@@ -1,0 +1,25 @@
+#include "platform/disk/clock.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/disk/locale.h"
+#include "platform/disk/path_finder.h"
+#include "platform/qt/qt_platform.h"
+#include "program.h"
+
+using namespace halvenmoor;
+
+// The program takes no command line.
+int main(int, char** arguments) {
+    const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
+    disk::PathFinder finder(locale.CodePage());
+    disk::DiskFileSystem fileSystem(finder);
+    disk::DiskHostFiles hostFiles(finder);
+    disk::DiskClock clock;
+    qt::QtPlatform qt(arguments[0], locale);
+    Program program({fileSystem, hostFiles, qt.application, clock, qt.settings, qt.messages, qt.fileDialogs,
+                     qt.theme, locale},
+                    qt.toolkit);
+    program.Start();
+    qt.toolkit.Run(program.Desktop());
+    return 0;
+}

@@ -1,0 +1,36 @@
+#include "program.h"
+
+#include "catalogue/frmMain.h"
+#include "core/text/compare.h"
+
+#include <memory>
+#include <string>
+
+namespace halvenmoor {
+
+namespace {
+
+forms::SortKey ListOrder(const platform::Locale& locale) {
+    return [&locale](std::string_view item) { return text::FoldedKey(item, locale.CodePage()); };
+}
+
+}  // namespace
+
+Program::Program(const platform::Platform& platform, forms::Toolkit& toolkit)
+    : desktop_(toolkit, ListOrder(platform.locale)), core_(platform, desktop_) {
+}
+
+void Program::Start() {
+    core_.Main([this] {
+        auto window = std::make_unique<frmMain>(core_);
+        exports_.emplace(*window);
+        exports_->AttachButtons();
+        return window;
+    });
+}
+
+frmMain& Program::MainForm() {
+    return static_cast<frmMain&>(*core_.MainForm);
+}
+
+}  // namespace halvenmoor

@@ -1,0 +1,36 @@
+# Sourced by run, test and .ci/run: the packages and the folders that they need.
+
+# need PACKAGE...: installs those of the Debian packages that are missing.
+need() {
+    missing=
+    for package in "$@"; do
+        status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) || status=
+        [ "$status" = installed ] || missing="$missing $package"
+    done
+    [ -z "$missing" ] && return 0
+    install="env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends$missing"
+    if [ "$(id -u)" -eq 0 ]; then
+        as_root=
+    elif command -v sudo >/dev/null && sudo -n true 2>/dev/null; then
+        as_root=sudo
+    else
+        echo "Some packages are missing. Please run this line as root, then start again:" >&2
+        echo "    apt-get update && $install" >&2
+        exit 1
+    fi
+    echo "Installing:$missing"
+    $as_root apt-get update -q
+    $as_root $install
+}
+
+# A private folder for sockets and locks, where the system gives the user none.
+private_runtime_folder() {
+    if [ -z "${XDG_RUNTIME_DIR:-}" ] || [ ! -w "${XDG_RUNTIME_DIR:-}" ]; then
+        XDG_RUNTIME_DIR=${TMPDIR:-/tmp}/halvenmoor-runtime-$(id -u)
+        mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+        export XDG_RUNTIME_DIR
+    fi
+}
+
+BUILD_PACKAGES="g++ cmake ninja-build"
+QT_PACKAGES="qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core"
