@@ -1,0 +1,203 @@
+#include "export/camera_file.h"
+
+#include "core/failure.h"
+#include "files_test_helpers.h"
+#include "platform/headless/services.h"
+
+#include <gtest/gtest.h>
+
+namespace halvenmoor {
+namespace {
+
+struct Split {
+    bool isSound;
+    Strings fields;
+
+    bool operator==(const Split&) const = default;
+    friend void PrintTo(const Split& split, std::ostream* out) {
+        *out << (split.isSound ? "sound" : "not sound") << testing::PrintToString(split.fields);
+    }
+};
+
+Split SplitLine(std::string_view line) {
+    FieldList list;
+    const bool isSound = SplitCameraLine(list, line);
+    EXPECT_TRUE(line.empty());
+    return {isSound, Strings(list.fields.begin(), list.fields.begin() + static_cast<long>(list.count))};
+}
+
+TEST(SplitCameraLineTest, SplitsAtCommas) {
+    EXPECT_EQ(SplitLine("1.5,50.25,name"), (Split{true, {"1.5", "50.25", "name"}}));
+    EXPECT_EQ(SplitLine("  1.5 ,\t2.5 , a b  "), (Split{true, {"1.5", "\t2.5", "a b"}}));
+    EXPECT_EQ(SplitLine("no comma"), (Split{true, {"no comma"}}));
+    EXPECT_EQ(SplitLine(""), (Split{true, {""}}));
+    EXPECT_EQ(SplitLine(" "), (Split{true, {""}}));
+    EXPECT_EQ(SplitLine(","), (Split{true, {"", ""}}));
+    EXPECT_EQ(SplitLine("1,,3,"), (Split{true, {"1", "", "3", ""}}));
+}
+
+TEST(SplitCameraLineTest, QuotedFieldsEndAtTheNextQuote) {
+    EXPECT_EQ(SplitLine(R"(1.5, 50.25, "A, B")"), (Split{true, {"1.5", "50.25", R"("A, B")"}}));
+    EXPECT_EQ(SplitLine(R"("A,B" , 2)"), (Split{true, {R"("A,B")", "2"}}));
+    EXPECT_EQ(SplitLine(R"(1,"",3)"), (Split{true, {"1", R"("")", "3"}}));
+    EXPECT_EQ(SplitLine(R"(1,2," A " word,4)"), (Split{true, {"1", "2", R"(" A ")", "4"}}));
+    EXPECT_EQ(SplitLine(R"(1,"A"x"y",3)"), (Split{true, {"1", R"("A")", "3"}}));
+    EXPECT_EQ(SplitLine(R"(1,"A"",3)"), (Split{true, {"1", R"("A")", "3"}})) << "no escape";
+}
+
+TEST(SplitCameraLineTest, BadQuotingEndsTheList) {
+    EXPECT_EQ(SplitLine(R"(1.5,50.25,"open, 4)"), (Split{false, {"1.5", "50.25"}}));
+    EXPECT_EQ(SplitLine(R"(1.5,50.25,in"side",4)"), (Split{false, {"1.5", "50.25"}}));
+    EXPECT_EQ(SplitLine(R"("open)"), (Split{false, {""}}));
+    EXPECT_EQ(SplitLine(R"(in"side,2)"), (Split{false, {""}}));
+}
+
+TEST(SplitCameraLineTest, ReadsTenFields) {
+    const Strings ten{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
+    EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10"), (Split{true, ten}));
+    EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10,11,12"), (Split{true, ten}));
+    EXPECT_EQ(SplitLine(R"(1,2,3,4,5,6,7,8,9,10,"open)"), (Split{true, ten}));
+    EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10," + std::string(40000, 'x')), (Split{true, ten}));
+}
+
+bool Overflows(const std::string& line) {
+    return FailureNumber([&] { SplitLine(line); }) == failure::Overflow;
+}
+
+TEST(SplitCameraLineTest, PositionsAre16BitNumbers) {
+    const std::string longest(32766, 'x');
+    EXPECT_EQ(SplitLine(longest + "," + longest), (Split{true, {longest, longest}}))
+        << "positions count in what is left of the line";
+    EXPECT_TRUE(Overflows(longest + "x,2"));
+    EXPECT_TRUE(Overflows("1," + longest + "x")) << "behind the last field too stands a comma";
+    EXPECT_EQ(SplitLine(std::string(40000, ' ') + "1,2"), (Split{true, {"1", "2"}}));
+    EXPECT_TRUE(Overflows("1" + std::string(32767, ' ') + ",2"));
+
+    const std::string quoted = "\"," + std::string(32764, 'x') + "\"";
+    EXPECT_EQ(SplitLine(quoted + ",2"), (Split{true, {quoted, "2"}}));
+    EXPECT_TRUE(Overflows("\",x" + std::string(32764, 'x') + "\",2"));
+    EXPECT_TRUE(Overflows("\"" + longest + "\"")) << "the comma is looked for before the quote";
+    EXPECT_TRUE(Overflows("\"a\"" + longest + "x,2"));
+}
+
+TEST(SplitCameraLineTest, PositionsCountCharacters) {
+    std::string umlauts;
+    for (int i = 0; i < 32766; ++i) umlauts += "\xC3\xB6";
+    EXPECT_EQ(SplitLine(umlauts + ",2"), (Split{true, {umlauts, "2"}}));
+    EXPECT_TRUE(Overflows(umlauts + "\xC3\xB6,2"));
+    EXPECT_TRUE(Overflows(umlauts + "\xF6,2")) << "no UTF-8, so every byte is a character";
+}
+
+bool IsValid(std::string_view x, std::string_view y) {
+    return IsValidPosition(x, y, ".");
+}
+
+TEST(PositionTest, NeedsNumbersWithAPoint) {
+    EXPECT_TRUE(IsValid("-0.12345", "51.50000"));
+    EXPECT_TRUE(IsValid("+1.5e1", ".5"));
+    EXPECT_TRUE(IsValid("5.", "-50.25"));
+    EXPECT_FALSE(IsValid("5", "50.25"));
+    EXPECT_FALSE(IsValid("5.5", "50"));
+    for (const auto* text : {"", ".", "1.2.3", "1.5x", "1. 5", "\t1.5", "1,5", "&H1.", "\"1.5\"", "nan."}) {
+        EXPECT_FALSE(IsValid(text, "50.25")) << text;
+        EXPECT_FALSE(IsValid("5.5", text)) << text;
+    }
+}
+
+TEST(PositionTest, MustLieOnTheGlobe) {
+    EXPECT_TRUE(IsValid("180.0", "90.0"));
+    EXPECT_TRUE(IsValid("-180.0", "-90.0"));
+    EXPECT_FALSE(IsValid("180.00001", "50.25"));
+    EXPECT_FALSE(IsValid("-180.5", "50.25"));
+    EXPECT_FALSE(IsValid("5.5", "90.00001"));
+    EXPECT_FALSE(IsValid("5.5", "-90.5"));
+    EXPECT_FALSE(IsValid("1.0e999", "50.25"));
+    EXPECT_TRUE(IsValid("0.0", "50.25"));
+    EXPECT_FALSE(IsValid("5.5", "0.0"));
+    EXPECT_FALSE(IsValid("5.5", "-0.000"));
+}
+
+TEST(PositionTest, ReadsThePointUnderEveryLocale) {
+    for (const auto* separator : {",", "\xC2\xB7"}) {
+        EXPECT_TRUE(IsValidPosition("1.5", "-50.25", separator)) << separator;
+        EXPECT_FALSE(IsValidPosition("200.5", "50.25", separator)) << separator;
+        EXPECT_FALSE(IsValidPosition("1.2.3", "50.25", separator)) << separator;
+        EXPECT_FALSE(IsValidPosition("1.5", std::string("50") + separator + "25", separator)) << separator;
+        EXPECT_FALSE(IsValidPosition("1.5", std::string("5.0") + separator + "5", separator)) << separator;
+    }
+}
+
+TEST(PositionTest, ZeroIsASearch) {
+    EXPECT_TRUE(IsZeroPosition("0.0", "-0.000"));
+    EXPECT_TRUE(IsZeroPosition("10.05", "x0.0"));
+    EXPECT_FALSE(IsZeroPosition("0.0", "0.5"));
+    EXPECT_FALSE(IsZeroPosition("0", "0.0"));
+}
+
+std::string_view Stripped(std::string_view name, const PatternList& units) {
+    return StripUnitSuffix(name, units, text::WindowsCodePage(1252));
+}
+
+TEST(StripUnitSuffixTest, RemovesTheFirstUnitThatFits) {
+    EXPECT_EQ(Stripped("Fixed 50 MPH", Strings{"km/h", " mph "}), "Fixed 50 ");
+    EXPECT_EQ(Stripped("50kmhmph", Strings{"kmh", "mph"}), "50kmh");
+    EXPECT_EQ(Stripped("50kmh", Strings{"h", "kmh"}), "50km");
+    EXPECT_EQ(Stripped("50 mph", Strings{"", "mph"}), "50 mph") << "an empty unit ends the search";
+    EXPECT_EQ(Stripped("mph 50", Strings{"mph"}), "mph 50");
+    EXPECT_EQ(Stripped("h", Strings{"mph"}), "h");
+    EXPECT_EQ(Stripped("50mph", Strings{}), "50mph");
+    EXPECT_EQ(FailureNumber([] { Stripped("50mph", PatternList()); }), failure::TypeMismatch);
+}
+
+TEST(StripUnitSuffixTest, ComparesCharacters) {
+    EXPECT_EQ(Stripped("50\xD6", Strings{"\xC3\xB6"}), "50");
+    EXPECT_EQ(Stripped("50\xC3\x96", Strings{"\xF6"}), "50");
+    EXPECT_EQ(Stripped("50КМ/Ч", Strings{"км/ч"}), "50");
+}
+
+std::string Speed(std::string_view name, const std::string& separator = ".") {
+    headless::FixedLocale locale;
+    locale.Separator = separator;
+    return SpeedFromFileName(name, Strings{"mph", "km/h", "\xC3\xB6h"}, locale);
+}
+
+TEST(SpeedFromFileNameTest, ReadsTheEndOfTheName) {
+    EXPECT_EQ(Speed("Fixed 50 mph"), "50");
+    EXPECT_EQ(Speed("Fixed_120MPH"), "120");
+    EXPECT_EQ(Speed("Fixed_1120"), "120");
+    EXPECT_EQ(Speed("Fixed-30"), "30");
+    EXPECT_EQ(Speed("Fixed M25"), "25");
+    EXPECT_EQ(Speed("Fixed050"), "50");
+    EXPECT_EQ(Speed("Fixed 7"), "7");
+    for (const auto* name : {"", "mph", "Fixed", "Fixed K5", "Fixed-5", "Fixed 50 mph new", "Fixed000"}) {
+        EXPECT_EQ(Speed(name), "0") << name;
+    }
+    EXPECT_EQ(Speed("7"), "7");
+    EXPECT_EQ(Speed("50km/h"), "50");
+}
+
+TEST(SpeedFromFileNameTest, KeepsTheBlankBeforeAUnit) {
+    EXPECT_EQ(Speed("x 120 mph"), "20");
+    EXPECT_EQ(Speed("x 100 mph"), "0");
+}
+
+TEST(SpeedFromFileNameTest, ReadsEveryKindOfNumber) {
+    EXPECT_EQ(Speed("x&H9"), "9");
+    EXPECT_EQ(Speed("x&o7"), "7");
+    EXPECT_EQ(Speed("x1e3"), "1000");
+    EXPECT_EQ(Speed("x 1 2"), "12");
+    EXPECT_EQ(Speed("x1.5"), "1.5");
+    EXPECT_EQ(Speed("x1.5", ","), "1,5");
+    EXPECT_EQ(Speed("x1,5", ","), "1") << "a name has its point whatever the locale";
+}
+
+TEST(SpeedFromFileNameTest, CountsCharacters) {
+    EXPECT_EQ(Speed("120\xC3\xA9"), "20");
+    EXPECT_EQ(Speed("\xC3\xA9"
+                    "50"),
+              "50");
+    EXPECT_EQ(Speed("80\xD6H"), "80") << "the unit is UTF-8, the name is not";
+}
+
+}  // namespace
+}  // namespace halvenmoor
