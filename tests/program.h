@@ -1,11 +1,7 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
-#include "core/modMain.h"
-#include "core/text/compare.h"
 #include "export/frmResults.h"
-#include "export/modExport.h"
-#include "forms/desktop.h"
 #include "platform/headless/failing_files.h"
 #include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_files.h"
@@ -13,11 +9,10 @@
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
 #include "platform/headless/user.h"
+#include "src/program.h"
 
 #include <functional>
 #include <gtest/gtest.h>
-#include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,12 +45,7 @@ struct TestProgram {
         };
     }
 
-    void Start() {
-        core.Main([this] { return std::make_unique<frmMain>(core); });
-        if (!core.MainForm) return;
-        exports.emplace(Window());
-        exports->AttachButtons();
-    }
+    void Start() { program.Start(); }
 
     // Files and options
 
@@ -94,7 +84,8 @@ struct TestProgram {
 
     // What the user sees and does
 
-    frmMain& Window() { return static_cast<frmMain&>(*core.MainForm); }
+    frmMain& Window() { return program.MainForm(); }
+    modExport& Exports() { return program.Exports(); }
     /// TypeList(1) to TypeList(5); 0 is MainList.
     forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
     Names Items(int number) { return headless::ItemsOf(List(number)); }
@@ -150,10 +141,10 @@ struct TestProgram {
     headless::FixedTheme theme;
     headless::FixedLocale locale;
     headless::HeadlessToolkit toolkit{clock};
-    forms::Desktop desktop{
-        toolkit, [this](std::string_view text) { return text::FoldedKey(text, locale.CodePage()); }};
-    modMain core{{files, files, application, clock, settings, messages, fileDialogs, theme, locale}, desktop};
-    std::optional<modExport> exports;
+    Program program{{files, files, application, clock, settings, messages, fileDialogs, theme, locale},
+                    toolkit};
+    modMain& core = program.Core();
+    forms::Desktop& desktop = program.Desktop();
 };
 
 }  // namespace halvenmoor
