@@ -56,7 +56,11 @@ struct JourneyPlatform {
 class Journey {
 public:
     explicit Journey(const std::string& programFolder)
-        : programFolder_(programFolder), program_(programFolder) {}
+        : programFolder_(programFolder),
+          platform_(programFolder),
+          program_(platform_.Services(), platform_.toolkit) {
+        program_.Start();
+    }
 
     Outcome Play(const std::string& step) {
         const auto [word, rest] = FirstWord(step);
