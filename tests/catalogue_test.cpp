@@ -1,0 +1,365 @@
+#include "files_test_helpers.h"
+#include "program.h"
+
+namespace halvenmoor {
+namespace {
+
+const Failure kFault(failure::FileAccess, "Device I/O error");
+
+/// The enabled ones of the buttons that follow the lists; the one with the focus stands in brackets.
+std::string Buttons(TestProgram& program) {
+    frmMain& window = program.Window();
+    std::string shown;
+    for (const forms::CommandButton* button :
+         {&window.ButtonClassifyFiles, &window.ButtonReloadFiles, &window.ButtonRenameFile,
+          &window.ButtonImportFiles, &window.ButtonExportCameras, &window.ButtonShowResults}) {
+        if (!button->Enabled()) continue;
+        const std::string name = button->Name().substr(std::string("Button").size());
+        shown += (shown.empty() ? "" : " ") + (button->HasFocus() ? "[" + name + "]" : name);
+    }
+    return shown;
+}
+
+Strings Languages(TestProgram& program) {
+    Strings names;
+    for (int i = 0; i < program.Window().LanguageList.ListCount(); ++i)
+        names.push_back(program.Window().LanguageList.List(i));
+    return names;
+}
+
+/// Makes a finished export's results seem to be there.
+void SetResultsValid(TestProgram& program) {
+    program.Window().ResultsValid = true;
+    program.Window().UpdateButtons(false);
+}
+
+TEST(CameraFilesTest, AreListedSortedWithoutExtension) {
+    TestProgram program;
+    for (const auto* name : {"b.asc", "A.asc", "X.ASC", "x.y.Asc", "twice.asc", "twice.ASC", ".hidden.asc",
+                             "note.txt", "a.asc.bak", "K\xF6ln.asc"}) {
+        program.memory.Put(std::string("/p/demo/asc_demo/") + name, "");
+    }
+    program.memory.AddFolder("/p/demo/asc_demo/folder.asc");
+    program.Start();
+    EXPECT_EQ(program.Items(0), (Strings{"A", "b", "K\xF6ln", "twice", "X", "x.y"}));
+}
+
+TEST(CameraFilesTest, MissingFolderLeavesEverythingEmpty) {
+    TestProgram program;
+    program.memory.Remove("/p/demo/asc_demo");
+    program.Start();
+    for (int list = 0; list <= kLastType; ++list) EXPECT_EQ(program.Items(list), Strings()) << list;
+    EXPECT_EQ(Buttons(program), "");
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+TEST(CameraFilesTest, FailedSearchShowsWhatItFound) {
+    TestProgram program;
+    for (const auto* name : {"a", "b", "c"}) program.AddCameraFile(name);
+    program.Start();
+    program.Move(2, {"b"});
+    const int before = program.files.Calls();
+    program.Click(program.Window().ButtonReloadFiles);
+    const int calls = program.files.Calls() - before;
+
+    program.files.FailCall(calls, kFault);  // at the third name
+    program.Click(program.Window().CheckAuto[1]);
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b"}));
+    program.files.FailCall(calls - 3, kFault);  // at the search itself
+    program.Click(program.Window().CheckAuto[1]);
+    EXPECT_EQ(program.Items(0), Strings());
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+class CatalogueTest : public testing::Test {
+protected:
+    CatalogueTest() {
+        program.SetOption("DemoMode", "0");
+        for (const auto* name : {"a", "b", "c", "d", "e"}) program.AddCameraFile(name);
+        program.Start();
+    }
+
+    frmMain& Window() { return program.Window(); }
+
+    TestProgram program;
+};
+
+TEST_F(CatalogueTest, ButtonsMoveWhatIsSelected) {
+    program.Select(0, {"b", "d"});
+    program.Click(Window().ButtonAdd[1]);
+    program.Select(0, {"a", "c", "e"});
+    program.Click(Window().ButtonAdd[1]);
+    EXPECT_EQ(program.Items(0), Strings());
+    EXPECT_EQ(program.Items(1), (Strings{"a", "b", "c", "d", "e"}));
+    program.Select(1, {"b", "e"});
+    program.Click(Window().ButtonRemove[5]);
+    EXPECT_EQ(program.Items(0), (Strings{"b", "e"}));
+    EXPECT_EQ(program.Items(1), (Strings{"a", "c", "d"}));
+}
+
+TEST_F(CatalogueTest, DragsMoveBetweenAnyLists) {
+    program.Drag(0, 2, {"a", "c"});
+    program.Drag(2, 4, {"c"});
+    program.Drag(2, 0, {"a"});
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "d", "e"}));
+    EXPECT_EQ(program.Items(2), Strings());
+    EXPECT_EQ(program.Items(4), Strings{"c"});
+
+    SetResultsValid(program);
+    program.Drag(4, 4, {"c"});
+    EXPECT_EQ(program.Items(4), Strings{"c"});
+    EXPECT_TRUE(Window().ResultsValid) << "a drop where the drag began is no move";
+    program.Drag(4, 5, {"c"});
+    EXPECT_FALSE(Window().ResultsValid);
+}
+
+TEST_F(CatalogueTest, ListsTakeDropsDuringADragOnly) {
+    program.Select(0, {"a"});
+    EXPECT_FALSE(program.List(1).UserDrop());
+    EXPECT_TRUE(program.List(0).UserStartDrag());
+    for (int list = 0; list <= kLastType; ++list) {
+        EXPECT_EQ(program.List(list).OLEDropMode(), forms::ListBox::DropMode::Manual) << list;
+    }
+    EXPECT_TRUE(program.List(0).UserCompleteDrag());  // cancelled
+    EXPECT_FALSE(program.List(1).UserDrop());
+    EXPECT_EQ(program.Items(1), Strings());
+}
+
+TEST_F(CatalogueTest, OnlyOneListHoldsASelection) {
+    program.Move(3, {"a", "b"});
+    program.Move(5, {"c"});
+    program.Select(0, {"d", "e"});
+    program.Select(3, {"a", "b"});
+    EXPECT_EQ(program.List(0).SelCount(), 0);
+    EXPECT_EQ(program.List(3).SelCount(), 2);
+    program.Select(5, {"c"});
+    EXPECT_EQ(program.List(3).SelCount(), 0);
+    program.Select(0, {"d"});
+    EXPECT_EQ(program.List(5).SelCount(), 0);
+    EXPECT_TRUE(program.List(0).Selected(0));
+}
+
+TEST_F(CatalogueTest, ButtonsFollowTheLists) {
+    EXPECT_EQ(Buttons(program), "[ClassifyFiles] ImportFiles");
+    program.Select(0, {"a"});
+    EXPECT_EQ(Buttons(program), "[ClassifyFiles] RenameFile ImportFiles");
+    program.Select(0, {"a", "b"});
+    EXPECT_EQ(Buttons(program), "[ClassifyFiles] ImportFiles");
+    program.Click(Window().ButtonAdd[1]);
+    EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles [ExportCameras]");
+    program.Select(0, {"c"});
+    EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles RenameFile ImportFiles [ExportCameras]");
+    program.Select(1, {"a"});
+    EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles [ExportCameras]");
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles ExportCameras [ShowResults]");
+    program.Click(Window().ButtonAdd[2]);
+    EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles [ExportCameras]")
+        << "moving nothing ends the results too";
+    program.Move(2, {"c", "d", "e"});
+    EXPECT_EQ(Buttons(program), "ReloadFiles ImportFiles [ExportCameras]");
+    program.Click(Window().ButtonReloadFiles);
+    EXPECT_EQ(Buttons(program), "[ClassifyFiles] ImportFiles");
+    program.memory.Remove("/p/asc");
+    program.Click(Window().CheckAuto[1]);
+    EXPECT_EQ(Buttons(program), "[ImportFiles]");
+    program.Click(Window().CheckDemoMode);
+    EXPECT_EQ(Buttons(program), "");
+    EXPECT_TRUE(Window().CheckDemoMode.HasFocus()) << "the next in the tab order";
+}
+
+TEST_F(CatalogueTest, AutoBoxesResetTheLists) {
+    program.Move(2, {"a", "b"});
+    program.AddCameraFile("new");
+    program.SetSettings("[Type3]\nnew*\n");
+    program.Click(Window().CheckAuto[2]);
+    EXPECT_FALSE(Window().CheckAuto[2].Value());
+    program.Click(Window().CheckAuto[2]);
+    EXPECT_TRUE(Window().CheckAuto[2].Value());
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "d", "e", "new"}));
+    EXPECT_EQ(program.Items(2), Strings());
+    program.Click(Window().ButtonClassifyFiles);
+    EXPECT_EQ(program.Items(3), Strings{"new"}) << "the settings were read again";
+}
+
+TEST_F(CatalogueTest, DemonstrationModeWorksOnItsOwnFolders) {
+    program.memory.Put("/p/demo/asc_demo/demo.asc", "");
+    program.Move(1, {"a"});
+    program.Click(Window().CheckDemoMode);
+    EXPECT_EQ(program.Option("DemoMode"), "1");
+    EXPECT_EQ(program.Items(0), Strings{"demo"});
+    EXPECT_EQ(program.Items(1), Strings());
+    program.Click(Window().CheckDemoMode);
+    EXPECT_EQ(program.Option("DemoMode"), "0");
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "d", "e"}));
+}
+
+class ClassificationTest : public testing::Test {
+protected:
+    void Classify(std::string_view settings, const Strings& names) {
+        program.SetSettings(settings);
+        for (const std::string& name : names) program.AddCameraFile(name);
+        program.Start();
+        program.Click(program.Window().ButtonClassifyFiles);
+    }
+
+    TestProgram program;
+};
+
+TEST_F(ClassificationTest, MatchesWholeFileNames) {
+    Classify("[Type1]\nfixed*\nplain.ASC\n[Type2]\nred, comma*,\n[Type4]\nM#_*\n",
+             {"FIXED 50", "My fixed", "Plain", "red", "comma", " comma", "M6_list", "Mx_list"});
+    EXPECT_EQ(program.Items(1), (Strings{"FIXED 50", "Plain"}));
+    EXPECT_EQ(program.Items(2), Strings{" comma"});
+    EXPECT_EQ(program.Items(4), Strings{"M6_list"});
+    EXPECT_EQ(program.Items(0), (Strings{"comma", "Mx_list", "My fixed", "red"}));
+}
+
+TEST_F(ClassificationTest, LowestTypeWithItsBoxOnWins) {
+    Classify("[Type1]\n*x*\n[Type3]\na*\nx*\n", {"ax", "x", "a", "hand"});
+    EXPECT_EQ(program.Items(1), (Strings{"ax", "x"}));
+    EXPECT_EQ(program.Items(3), Strings{"a"});
+    program.Click(program.Window().CheckAuto[1]);
+    program.Move(2, {"x"});
+    program.Click(program.Window().ButtonClassifyFiles);
+    EXPECT_EQ(program.Items(2), Strings{"x"}) << "only unclassified entries are looked at";
+    EXPECT_EQ(program.Items(3), (Strings{"a", "ax"}));
+
+    SetResultsValid(program);
+    program.Click(program.Window().ButtonClassifyFiles);
+    EXPECT_TRUE(program.Window().ResultsValid) << "nothing has moved";
+    for (int type = 2; type <= kLastType; ++type) program.Click(program.Window().CheckAuto[type]);
+    SetResultsValid(program);
+    program.Click(program.Window().ButtonClassifyFiles);
+    EXPECT_EQ(program.Items(0), (Strings{"a", "ax", "hand", "x"}));
+    EXPECT_TRUE(program.Window().ResultsValid);
+}
+
+TEST_F(ClassificationTest, MalformedPatternEndsItsTypeOnly) {
+    Classify("[Type1]\na*\n[b\nc*\n[Type2]\n[c]*\n", {"a", "b", "c"});
+    EXPECT_EQ(program.Items(0), Strings{"b"});
+    EXPECT_EQ(program.Items(1), Strings{"a"});
+    EXPECT_EQ(program.Items(2), Strings{"c"});
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+TEST_F(ClassificationTest, UnreadableSettingsMoveNothing) {
+    program.memory.Remove("/p/Settings.ini");
+    program.AddCameraFile("a");
+    program.Start();
+    program.Click(program.Window().ButtonClassifyFiles);
+    EXPECT_EQ(program.Items(0), Strings{"a"});
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+class LanguageTest : public testing::Test {
+protected:
+    void Choose(const std::string& language) { program.Select(program.Window().LanguageList, language); }
+    std::string Chosen() {
+        const forms::ComboBox& list = program.Window().LanguageList;
+        EXPECT_EQ(list.Text(), list.ListIndex() < 0 ? "" : list.List(list.ListIndex()));
+        return list.Text();
+    }
+    std::string ExitCaption() { return program.Window().ButtonExitApplication.Caption(); }
+
+    TestProgram program;
+};
+
+TEST_F(LanguageTest, EnglishNeedsNoFile) {
+    program.Start();
+    EXPECT_EQ(Languages(program), Strings{"English"});
+    EXPECT_EQ(Chosen(), "English");
+    EXPECT_EQ(program.Option("Language"), "English");
+    EXPECT_EQ(program.Window().LabelTypeList[1].Caption(), "Speed Camera Type \"1\" (Fixed Speed Camera)");
+    EXPECT_EQ(program.Window().LabelMainList.Caption(), "Speed Camera Files (Unclassified)");
+    EXPECT_EQ(program.Window().OptionExportMode[2].Caption(), "Save File As...");
+}
+
+TEST_F(LanguageTest, EnglishUsesItsFile) {
+    program.AddLanguage("english", "ButtonExitApplication=leave");
+    program.Start();
+    EXPECT_EQ(Languages(program), Strings{"English"});
+    EXPECT_EQ(ExitCaption(), "Leave");
+    EXPECT_EQ(program.Option("Language"), "English");
+}
+
+TEST_F(LanguageTest, NamesAreShownInProperCase) {
+    for (const auto* name : {"DEUTSCH",
+                             "fran\xE7"
+                             "ais",
+                             "brazilian portuguese"}) {
+        program.AddLanguage(name, std::string("ButtonExitApplication=Exit ") + name);
+    }
+    program.Start();
+    EXPECT_EQ(Languages(program), (Strings{"Brazilian Portuguese", "Deutsch", "English", "Français"}));
+    Choose("Français");
+    EXPECT_EQ(ExitCaption(), "Exit Français");
+    Choose("Deutsch");
+    EXPECT_EQ(ExitCaption(), "Exit Deutsch");
+    Choose("English");
+    EXPECT_EQ(ExitCaption(), "Exit");
+}
+
+TEST_F(LanguageTest, ChoiceIsStoredAndComesBack) {
+    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
+    program.Start();
+    Choose("Deutsch");
+    EXPECT_EQ(program.Option("Language"), "Deutsch");
+
+    TestProgram next;
+    next.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
+    next.SetOption("Language", "deutsch");
+    next.Start();
+    EXPECT_EQ(next.Window().LanguageList.Text(), "Deutsch");
+    EXPECT_EQ(next.Window().ButtonExitApplication.Caption(), "Beenden");
+}
+
+TEST_F(LanguageTest, MissingStoredLanguageBecomesEnglish) {
+    program.AddLanguage("deutsch", "");
+    program.SetOption("Language", "Nederlands");
+    program.Start();
+    EXPECT_EQ(Chosen(), "English");
+    EXPECT_EQ(program.Option("Language"), "English");
+}
+
+TEST_F(LanguageTest, VanishedFileLeavesTheLanguageInUse) {
+    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
+    program.AddLanguage("polski", "");
+    program.Start();
+    Choose("Deutsch");
+    program.memory.Remove("/p/lang/polski.ini");
+    Choose("Polski");
+    EXPECT_EQ(Languages(program), (Strings{"Deutsch", "English"}));
+    EXPECT_EQ(Chosen(), "Deutsch");
+    EXPECT_EQ(ExitCaption(), "Beenden");
+
+    program.memory.Remove("/p/lang/deutsch.ini");
+    Choose("Deutsch");
+    EXPECT_EQ(Languages(program), Strings{"English"});
+    EXPECT_EQ(Chosen(), "English");
+    EXPECT_EQ(ExitCaption(), "Exit");
+    EXPECT_EQ(program.Option("Language"), "English");
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+TEST_F(LanguageTest, NameThatCannotBeFoundAgainIsNotOffered) {
+    program.locale.CodePageNumber = 1251;  // the disk in memory reads names by 1252
+    program.AddLanguage("\xC4\xE5", "");
+    program.SetOption("Language", "Де");
+    program.Start();
+    EXPECT_EQ(Languages(program), Strings{"English"});
+    EXPECT_EQ(Chosen(), "English");
+}
+
+TEST_F(LanguageTest, TypingIsUndone) {
+    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
+    program.Start();
+    Choose("Deutsch");
+    EXPECT_TRUE(program.Window().LanguageList.UserTyped("Deutschx"));
+    EXPECT_EQ(Chosen(), "Deutsch");
+    EXPECT_EQ(ExitCaption(), "Beenden");
+    EXPECT_EQ(program.Option("Language"), "Deutsch");
+}
+
+}  // namespace
+}  // namespace halvenmoor
