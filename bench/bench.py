@@ -33,7 +33,7 @@ def measure(command, steps="", output=None, watch_memory=False):
     with tempfile.TemporaryFile() as stdin, open(output, "wb") if output else tempfile.TemporaryFile() as stdout:
         stdin.write(steps.encode())
         stdin.seek(0)
-        environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+        environment = {**os.environ, "LC_ALL": "C", "QT_QPA_PLATFORM": "offscreen"}
         child = subprocess.Popen(command, stdin=stdin, stdout=stdout, env=environment)
         polled = watch_peak(child.pid) if watch_memory else 0
         _, status, usage = os.wait4(child.pid, 0)
