@@ -1,0 +1,369 @@
+#include "core/text/compare.h"
+#include "forms/desktop.h"
+#include "platform/headless/toolkit.h"
+#include "platform/headless/user.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace halvenmoor::forms {
+namespace {
+
+using headless::ItemsOf;
+using Log = std::vector<std::string>;
+
+Design At(const char* name, int tab, const Control* frame = nullptr) {
+    return {.name = name, .place = {}, .tab = tab, .frame = frame};
+}
+
+/// A form that tells what happens to it. Its tab order is not the order of its controls.
+struct TestForm : Form {
+    TestForm(Desktop& desktop, Log& events, FormDesign design)
+        : Form(desktop, std::move(design)), log(events) {
+        for (Control* control :
+             {static_cast<Control*>(&first), static_cast<Control*>(&second), static_cast<Control*>(&third)}) {
+            control->OnGotFocus = [this, control] { log.push_back("got " + control->Name()); };
+            control->OnLostFocus = [this, control] { log.push_back("lost " + control->Name()); };
+        }
+    }
+
+    void Tell(const std::string& event) { log.push_back(AtDesign().name + " " + event); }
+    void Load() override {
+        Tell("load");
+        if (OnLoad) OnLoad();
+    }
+    void Activate() override {
+        Tell("activate");
+        if (OnActivate) OnActivate();
+    }
+    bool KeyPress(char32_t key) override { return key == U'x'; }
+    bool QueryClose(CloseReason reason) override {
+        Tell(reason == CloseReason::User ? "user?" : reason == CloseReason::Program ? "program?" : "system?");
+        return mayClose;
+    }
+
+    Log& log;
+    bool mayClose = true;
+    std::function<void()> OnLoad;
+    std::function<void()> OnActivate;
+    CommandButton third{*this, At("third", 3)};
+    Label title{*this, At("title", 0)};
+    CommandButton first{*this, At("first", 1)};
+    CheckBox second{*this, At("second", 2)};
+};
+
+class FormsTest : public testing::Test {
+protected:
+    FormsTest() {
+        toolkit.OnStuck = [this](const Form& form) { log.push_back(form.AtDesign().name + " stuck"); };
+    }
+
+    void ShowMain() {
+        desktop.Show(main);
+        log.clear();
+    }
+    /// Shows the dialog; the user does this in it, and then it closes.
+    void ShowDialog(const std::function<void()>& userActs) {
+        toolkit.Script([userActs](Form& form) {
+            userActs();
+            form.Unload();
+        });
+        desktop.ShowModal(dialog);
+    }
+    void CountClicks(Control& control) {
+        control.OnClick = [this] { ++clicks; };
+    }
+
+    Log log;
+    int clicks = 0;
+    headless::ManualClock clock;
+    headless::HeadlessToolkit toolkit{clock};
+    Desktop desktop{toolkit,
+                    [](std::string_view text) { return text::FoldedKey(text, text::WindowsCodePage(1252)); }};
+    TestForm main{desktop, log, {.name = "main", .title = ""}};
+    TestForm dialog{desktop, log, {.name = "dialog", .title = "", .keyPreview = true}};
+    ListBox list{main, At("list", 4)};
+    ComboBox combo{main, At("combo", 5)};
+};
+
+TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
+    OptionButton option(main, At("option", 6));
+    for (Control* control : main.Controls()) CountClicks(*control);
+    combo.AddItem("a");
+    list.AddItems({"a"});
+    const struct {
+        const char* what;
+        std::function<void()> change;
+        int clicks;
+    } cases[] = {
+        {"check", [&] { main.second.SetValue(true); }, 1},
+        {"check again", [&] { main.second.SetValue(true); }, 0},
+        {"uncheck", [&] { main.second.SetValue(false); }, 1},
+        {"option on", [&] { option.SetValue(true); }, 1},
+        {"option on again", [&] { option.SetValue(true); }, 0},
+        {"option off", [&] { option.SetValue(false); }, 0},
+        {"choice", [&] { combo.SetListIndex(0); }, 1},
+        {"choice again", [&] { combo.SetListIndex(0); }, 0},
+        {"no choice", [&] { combo.SetListIndex(-1); }, 1},
+        {"selection", [&] { list.SetSelected(0, true); }, 1},
+        {"selection again", [&] { list.SetSelected(0, true); }, 0},
+        {"no selection", [&] { list.SetSelected(0, false); }, 1},
+        {"user's press", [&] { main.second.UserPress(); }, 0},  // no window is open
+    };
+    for (const auto& test : cases) {
+        clicks = 0;
+        test.change();
+        EXPECT_EQ(clicks, test.clicks) << test.what;
+    }
+}
+
+TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
+    list.AddItems({"a", "b", "c"});
+    combo.AddItem("b");
+    list.SetSelected(1, true);
+    combo.SetListIndex(0);
+    CountClicks(list);
+    CountClicks(combo);
+    combo.AddItem("a");
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(combo.Text(), "b");
+    list.AddItems({"aa"});
+    list.RemoveItem(0);
+    list.TakeItemsIf([this](int i) { return list.Selected(i); });
+    EXPECT_EQ(list.SelCount(), 0);
+    list.Clear();
+    combo.Clear();
+    EXPECT_EQ(combo.Text(), "");
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(FormsTest, OptionButtonsExcludeEachOtherWithinTheirFrame) {
+    Frame frame(main, At("frame", 6));
+    OptionButton one(main, At("one", 7));
+    OptionButton two(main, At("two", 8));
+    OptionButton inner(main, At("inner", 9, &frame));
+    ShowMain();
+    EXPECT_TRUE(one.UserPress());
+    EXPECT_TRUE(inner.UserPress());
+    EXPECT_TRUE(one.Value()) << "another group";
+    two.SetValue(true);
+    EXPECT_FALSE(one.Value());
+    EXPECT_TRUE(two.Value() && inner.Value());
+}
+
+TEST_F(FormsTest, DisabledOrHiddenControlPassesTheFocusOnInTabOrder) {
+    list.SetEnabled(false);
+    combo.SetEnabled(false);
+    ShowMain();
+    EXPECT_TRUE(main.first.HasFocus()) << "a label takes no focus";
+    main.second.SetEnabled(false);
+    main.first.SetEnabled(false);
+    EXPECT_EQ(log, (Log{"lost first", "got third"}));
+    main.second.SetFocus();
+    EXPECT_TRUE(main.third.HasFocus()) << "a disabled control takes no focus";
+    main.first.SetEnabled(true);
+    main.third.SetVisible(false);
+    EXPECT_TRUE(main.first.HasFocus()) << "round the end of the order";
+    main.first.SetEnabled(false);
+    EXPECT_EQ(main.ActiveControl(), nullptr);
+    EXPECT_FALSE(main.first.UserPress() || main.third.UserPress() || main.third.UserFocused());
+}
+
+TEST_F(FormsTest, DialogIsActivatedOnceAndTheMainWindowAfterTheLastOne) {
+    desktop.Show(main);
+    EXPECT_EQ(log, (Log{"main load", "got first", "main activate"}));
+    log.clear();
+    TestForm inner(desktop, log, {.name = "inner", .title = ""});
+    inner.OnActivate = [&] { inner.Unload(); };
+    ShowDialog([&] { desktop.ShowModal(inner); });
+    EXPECT_EQ(log, (Log{"dialog load", "got first", "dialog activate", "inner load", "got first",
+                        "inner activate", "inner program?", "dialog program?", "main activate"}));
+    log.clear();
+    inner.OnLoad = [&] { inner.Unload(); };
+    desktop.ShowModal(inner);
+    EXPECT_EQ(log, (Log{"inner load", "inner program?", "main activate"})) << "closed before it was shown";
+}
+
+TEST_F(FormsTest, EventsGoToTheModalFormAloneAlsoAtTurns) {
+    ShowMain();
+    const auto act = [this] {
+        EXPECT_FALSE(main.second.UserPress() || main.UserClose() || main.third.UserFocused());
+        EXPECT_TRUE(dialog.second.UserPress());
+    };
+    toolkit.OnTurn = act;
+    ShowDialog([&] {
+        act();
+        desktop.Yield();
+    });
+    EXPECT_EQ(toolkit.Turns(), 1);
+    EXPECT_FALSE(main.second.Value());
+    EXPECT_TRUE(main.second.UserPress());
+    EXPECT_FALSE(dialog.second.UserPress()) << "closed";
+}
+
+TEST_F(FormsTest, FormIsAskedWithTheReasonAndMayStayOpen) {
+    ShowMain();
+    main.mayClose = false;
+    EXPECT_TRUE(main.UserClose());
+    main.Unload();
+    EXPECT_FALSE(desktop.CloseAll());
+    EXPECT_TRUE(main.IsOpen() && !desktop.Ended());
+    EXPECT_EQ(log, (Log{"main user?", "main program?", "main system?"}));
+
+    main.mayClose = true;
+    dialog.mayClose = false;
+    ShowDialog([&] {
+        log.clear();
+        EXPECT_FALSE(desktop.CloseAll());
+        EXPECT_EQ(log, (Log{"dialog system?"})) << "nobody below is asked";
+        dialog.mayClose = true;
+        EXPECT_TRUE(desktop.CloseAll());
+    });
+    EXPECT_EQ(log, (Log{"dialog system?", "dialog system?", "main system?"}));
+    EXPECT_TRUE(desktop.Ended());
+}
+
+TEST_F(FormsTest, ForcedEndAsksNobodyAndNothingOpensAfterIt) {
+    ShowMain();
+    main.mayClose = false;
+    desktop.End();
+    desktop.ShowModal(dialog);
+    EXPECT_EQ(log, Log{});
+    EXPECT_FALSE(main.IsOpen() || main.second.UserPress());
+}
+
+TEST_F(FormsTest, EscapePressesTheCancelButtonAndNothingElseClosesAFormWithoutCloseBox) {
+    TestForm running(desktop, log, {.name = "running", .title = "", .closeBox = false});
+    running.first.OnClick = [&] { running.Tell("cancelled"); };
+    ShowMain();
+    toolkit.Script([&](Form&) {
+        log.clear();
+        EXPECT_FALSE(running.UserClose() || running.UserEscape());
+        running.SetCancelButton(&running.first);
+        EXPECT_TRUE(running.UserEscape());
+        running.first.SetEnabled(false);
+        EXPECT_FALSE(running.UserEscape());
+        running.Unload();
+    });
+    desktop.ShowModal(running);
+    EXPECT_EQ(log,
+              (Log{"running cancelled", "lost first", "got second", "running program?", "main activate"}));
+}
+
+TEST_F(FormsTest, KeysReachTheFormOnlyWhereItsDesignSaysSo) {
+    ShowMain();
+    EXPECT_FALSE(main.UserKeyPress(U'x'));
+    ShowDialog([this] {
+        EXPECT_TRUE(dialog.UserKeyPress(U'x'));
+        EXPECT_FALSE(dialog.UserKeyPress(U'y'));
+    });
+}
+
+TEST_F(FormsTest, FailureEndsOnlyItsOwnEvent) {
+    main.OnLoad = main.OnActivate = [] { throw std::runtime_error("failure"); };
+    ShowMain();
+    main.second.OnClick = [] { throw 1; };
+    main.first.OnClick = [this] {
+        main.second.SetValue(true);
+        main.Tell("goes on");
+        main.title.SetCaption("done");
+        throw std::runtime_error("failure");
+    };
+    EXPECT_TRUE(main.first.UserPress());
+    EXPECT_EQ(log, Log{"main goes on"});
+    EXPECT_EQ(main.title.Caption(), "done");
+    EXPECT_FALSE(main.HasChanges()) << "what changed before the failure shows";
+}
+
+TEST_F(FormsTest, ViewsAreBroughtUpToDateAtYieldsAndAfterEvents) {
+    main.title.SetCaption("a");
+    main.title.SetCaption("b");
+    main.title.SetCaption("b");
+    EXPECT_EQ(main.TakeChanges(), std::vector<Control*>{&main.title});
+    main.title.SetCaption("b");
+    EXPECT_FALSE(main.HasChanges());
+    ShowMain();
+    main.first.OnClick = [this] {
+        main.title.SetCaption("c");
+        EXPECT_TRUE(main.HasChanges());
+        desktop.Yield();
+        EXPECT_FALSE(main.HasChanges());
+        main.title.SetCaption("d");
+    };
+    main.first.UserPress();
+    EXPECT_FALSE(main.HasChanges());
+}
+
+TEST_F(FormsTest, ScriptAtItsEndIsReported) {
+    ShowMain();
+    desktop.ShowModal(dialog);
+    EXPECT_EQ(log.back(), "dialog stuck");
+    EXPECT_TRUE(desktop.Ended());
+}
+
+TEST_F(FormsTest, ListsOrderByFoldedCharactersAndEqualOnesByBytes) {
+    list.AddItems({"z", "b", "\xC3\xA4", "a", "B"});
+    list.AddItems({"\xC4", "A", "a b", "\xC3\x84", "Z10", "Z1"});
+    EXPECT_EQ(ItemsOf(list),
+              (Log{"A", "a", "a b", "B", "b", "z", "Z1", "Z10", "\xC3\x84", "\xC3\xA4", "\xC4"}));
+    for (const char* text : {"b", "B", "a"}) combo.AddItem(text);
+    EXPECT_EQ(combo.List(0) + combo.List(1) + combo.List(2), "aBb");
+}
+
+TEST_F(FormsTest, SelectionAndCurrentRowStayWithTheirItems) {
+    ShowMain();
+    list.AddItems({"b", "d", "f"});
+    EXPECT_TRUE(headless::Select(list, {"b", "d"}));
+    list.AddItems({"a", "c", "e"});
+    EXPECT_EQ(list.ListIndex(), 3);
+    EXPECT_TRUE(list.Selected(1) && list.Selected(3) && list.SelCount() == 2);
+    EXPECT_EQ(list.TakeItemsIf([](int i) { return i < 3 || i == 4; }), (Log{"a", "b", "c", "e"}));
+    EXPECT_EQ(ItemsOf(list), (Log{"d", "f"}));
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_TRUE(list.Selected(0) && list.SelCount() == 1);
+    list.TakeItemsIf([](int) { return true; });
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.SelCount(), 0);
+}
+
+TEST_F(FormsTest, FailedTestLeavesTheListAsItWas) {
+    list.AddItems({"a", "b"});
+    const auto failAtSecond = [](int i) { return i == 0 ? true : throw std::runtime_error("failure"); };
+    EXPECT_THROW(list.TakeItemsIf(failAtSecond), std::runtime_error);
+    EXPECT_EQ(ItemsOf(list), (Log{"a", "b"}));
+}
+
+TEST_F(FormsTest, ListHoldsAtMost32767Items) {
+    Log texts;
+    for (int i = 0; i < 32768; ++i) texts.push_back(std::to_string(100000 - i));
+    EXPECT_THROW(list.AddItems(texts), std::length_error);
+    EXPECT_EQ(list.ListCount(), 32767);
+    EXPECT_EQ(list.List(0), "100000");
+    EXPECT_EQ(list.List(1), "67234") << "the last one stayed out";
+    EXPECT_THROW(list.AddItems({"0"}), std::length_error);
+    EXPECT_EQ(list.ListCount(), 32767);
+}
+
+TEST_F(FormsTest, TypingInAComboChoosesNothingAndCanBeUndone) {
+    for (const char* text : {"b", "a"}) combo.AddItem(text);
+    CountClicks(combo);
+    ShowMain();
+    EXPECT_TRUE(combo.UserChoose(1));
+    EXPECT_TRUE(combo.UserTyped("a"));
+    EXPECT_EQ(combo.ListIndex(), -1) << "not even when the text is that of an item";
+    EXPECT_EQ(combo.Text(), "a");
+    EXPECT_EQ(clicks, 1);
+    combo.OnChange = [this] { combo.SetListIndex(1); };
+    EXPECT_TRUE(combo.UserTyped("zz"));
+    EXPECT_EQ(combo.Text(), "b");
+    EXPECT_EQ(clicks, 2);
+    EXPECT_TRUE(combo.UserChoose(1));
+    EXPECT_EQ(clicks, 3) << "the user may choose the same item again";
+    EXPECT_FALSE(combo.UserChoose(2) || combo.UserChoose(-1));
+}
+
+}  // namespace
+}  // namespace halvenmoor::forms
