@@ -5,7 +5,6 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QHelpEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
@@ -31,6 +30,11 @@ QVariant ListRows::data(const QModelIndex& index, int role) const {
 
 Qt::ItemFlags ListRows::flags(const QModelIndex&) const {
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+}
+
+DraggedItems::DraggedItems() {
+    // A format that no other program knows, so that none takes the drop.
+    setData(QStringLiteral("application/x-halvenmoor-items"), "items");
 }
 
 ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
@@ -134,17 +138,14 @@ void ListWidget::Report() {
 void ListWidget::startDrag(Qt::DropActions) {
     clickPending_ = false;
     if (!list_->UserStartDrag()) return;
-    auto* const content = new QMimeData;
-    // A format of our own, so that no other program takes the drop.
-    content->setData(QStringLiteral("application/x-halvenmoor-items"), "items");
     auto* const drag = new QDrag(this);  // ends its own life after exec
-    drag->setMimeData(content);
+    drag->setMimeData(new DraggedItems);
     drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
     list_->UserCompleteDrag();
 }
 
 bool ListWidget::Takes(const QDropEvent& drop) const {
-    const bool isOwnDrag = dynamic_cast<const ListWidget*>(drop.source()) != nullptr;
+    const bool isOwnDrag = dynamic_cast<const DraggedItems*>(drop.mimeData()) != nullptr;
     return isOwnDrag && list_->OLEDropMode() == forms::ListBox::DropMode::Manual;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QListView>
+#include <QMimeData>
 #include <cstdint>
 #include <vector>
 
@@ -26,6 +27,12 @@ private:
     const forms::ListBox& list_;
     const text::CodePage& page_;
     int count_ = 0;
+};
+
+/// What a drag of the program's own carries: no other drag brings an object of this class.
+class DraggedItems : public QMimeData {
+public:
+    DraggedItems();
 };
 
 class ListWidget : public QListView {

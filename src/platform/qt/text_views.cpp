@@ -2,18 +2,43 @@
 
 #include "platform/qt/conversions.h"
 
+#include <QRegion>
+#include <QStyle>
+#include <QStylePainter>
+
 namespace halvenmoor::qt {
 
 LabelView::LabelView(forms::Label& label, QWidget& parent, const text::CodePage& page)
     : ViewOf(label, parent, page) {
     Widget().setTextFormat(Qt::PlainText);
     Widget().setWordWrap(true);
+    Widget().setIndent(0);
     Widget().setAlignment(Qt::AlignTop | (label.AtDesign().centred ? Qt::AlignHCenter : Qt::AlignLeft));
     if (label.AtDesign().bordered) Widget().setFrameStyle(QFrame::Box | QFrame::Plain);
 }
 
 void LabelView::ShowState() {
     Widget().setText(ToText(Control().Caption(), CodePage()));
+}
+
+void TitledFrame::paintEvent(QPaintEvent*) {
+    constexpr int kIndent = 8;
+    constexpr int kGap = 3;
+    constexpr float kBorderStrength = 0.25F;
+    const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    const QRect room = rect().adjusted(kIndent + kGap, 0, -kIndent - kGap, 0);
+    const QRect words = style()->itemTextRect(fontMetrics(), room, flags, isEnabled(), title()) & room;
+
+    QStylePainter painter(this);
+    painter.drawItemText(words, flags, palette(), isEnabled(), title(), QPalette::WindowText);
+    if (!title().isEmpty()) {
+        painter.setClipRegion(QRegion(rect()) - words.adjusted(-kGap, 0, kGap, 0));
+    }
+    QColor color = palette().color(QPalette::WindowText);
+    color.setAlphaF(kBorderStrength);
+    painter.setPen(color);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, words.height() / 2 + 0.5, -0.5, -0.5), 2, 2);
 }
 
 void FrameView::ShowState() {

@@ -17,8 +17,16 @@ private:
     void ShowState() override;
 };
 
-/// A border with a title.
-class FrameView : public ViewOf<forms::Frame, QGroupBox> {
+/// A group box whose title interrupts its border, whatever the style, so that what stands in the frame fits.
+class TitledFrame : public QGroupBox {
+public:
+    explicit TitledFrame(QWidget* parent) : QGroupBox(parent) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class FrameView : public ViewOf<forms::Frame, TitledFrame> {
 public:
     using ViewOf::ViewOf;
 

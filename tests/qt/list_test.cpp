@@ -1,0 +1,143 @@
+#include "platform/qt/list_view.h"
+#include "window_fixture.h"
+
+#include <QDropEvent>
+#include <QScrollBar>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+class Lists : public Window {
+protected:
+    Lists() {
+        form.left.AddItems({"a", "b", "c", "d", "e"});
+        form.right.AddItems({"x", "y"});
+        desktop.Yield();
+    }
+
+    QListView& Left() { return Find<QListView>("left"); }
+    QPoint Row(QListView& list, int row) { return list.visualRect(list.model()->index(row, 0)).center(); }
+    void ClickRow(int row, Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(Left().viewport(), Qt::LeftButton, keys, Row(Left(), row));
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&Left(), key, keys); }
+    std::string Selected() {
+        std::string items;
+        for (int i = 0; i < form.left.ListCount(); ++i) {
+            if (form.left.Selected(i)) items += form.left.List(i);
+        }
+        return items;
+    }
+};
+
+TEST_F(Lists, SelectWithMouseAndKeys) {
+    ClickRow(1);
+    EXPECT_EQ(Selected(), "b");
+    ClickRow(3, Qt::ShiftModifier);
+    EXPECT_EQ(Selected(), "bcd");
+    ClickRow(2, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), "bd");
+    EXPECT_EQ(form.left.ListIndex(), 2);
+    EXPECT_EQ(form.left.SelCount(), 2);
+    EXPECT_EQ(Heard(), (Words{"left", "left", "left"})) << "one for each change";
+    ClickRow(0);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Selected(), "b");
+    Press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(Selected(), "bc");
+    Press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), "abcde");
+    Press(Qt::Key_End);
+    EXPECT_EQ(Selected(), "e");
+    EXPECT_EQ(Heard().size(), 5u);
+    ClickRow(4);
+    EXPECT_EQ(Heard(), Words{"left"}) << "a click that changes nothing counts";
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Heard(), Words{}) << "a key that changes nothing does not";
+}
+
+TEST_F(Lists, FollowTheProgram) {
+    ClickRow(1);
+    ClickRow(3, Qt::ControlModifier);
+    Heard();
+    form.left.SetSelected(1, false);
+    form.left.SetSelected(4, true);
+    EXPECT_EQ(Heard().size(), 2u);
+    form.left.AddItems({"0"});
+    desktop.Yield();
+    QStringList shown;
+    for (const QModelIndex& index : Left().selectionModel()->selectedRows()) shown << index.data().toString();
+    shown.sort();
+    EXPECT_EQ(shown, (QStringList{"d", "e"}));
+    EXPECT_EQ(Left().currentIndex().data().toString(), "e");
+    EXPECT_EQ(Heard(), Words{}) << "no echo";
+}
+
+TEST_F(Lists, TakeTwentyThousandItemsAtOnce) {
+    std::vector<std::string> items;
+    for (int i = 10000; i < 30000; ++i) items.push_back(std::to_string(i));
+    form.left.AddItems(std::move(items));
+    desktop.Yield();
+    EXPECT_EQ(Left().model()->rowCount(), 20005);
+    Left().verticalScrollBar()->setValue(700);
+    EXPECT_EQ(form.left.TopIndex(), 700);
+    form.left.RemoveItem(20004);
+    desktop.Yield();
+    EXPECT_EQ(form.left.TopIndex(), 700);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(form.left.SelCount(), 20004);
+    form.right.AddItems(form.left.TakeItemsIf([](int) { return true; }));
+    desktop.Yield();
+    EXPECT_EQ(Left().model()->rowCount(), 0);
+    EXPECT_EQ(Find<QListView>("right").model()->rowCount(), 20006);
+}
+
+bool DropOn(QWidget& target, const QMimeData& content) {
+    QDragEnterEvent enter({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+    return drop.isAccepted();
+}
+
+TEST_F(Lists, MoveItemsByDragging) {
+    QWidget& target = *Find<QListView>("right").viewport();
+    bool isTaken = false;
+    form.left.OnStartDrag = [&] {
+        form.heard.push_back("start");
+        EXPECT_FALSE(DropOn(target, DraggedItems())) << "the drop mode is off";
+        form.right.SetOLEDropMode(forms::ListBox::DropMode::Manual);
+        isTaken = DropOn(target, DraggedItems());
+    };
+    form.right.OnDragDrop = [this] {
+        form.heard.push_back("drop");
+        form.right.AddItems(form.left.TakeItemsIf([this](int i) { return form.left.Selected(i); }));
+    };
+    ClickRow(1);
+    ClickRow(2, Qt::ShiftModifier);
+    Heard();
+    const QPoint from = Row(Left(), 1);
+    QTest::mousePress(Left().viewport(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(Left().viewport(), from + QPoint(0, 5));
+    QTest::mouseMove(Left().viewport(), from + QPoint(0, 40));
+    QTest::mouseRelease(Left().viewport(), Qt::LeftButton, {}, from);
+    // Without a display Qt cancels a drag at once, so its end comes by itself.
+    EXPECT_EQ(Heard(), (Words{"start", "drop", "complete"}));
+    EXPECT_TRUE(isTaken);
+    EXPECT_EQ(form.right.ListCount(), 4);
+    EXPECT_EQ(Left().model()->rowCount(), 3);
+}
+
+TEST_F(Lists, RefuseDropsFromElsewhere) {
+    form.right.SetOLEDropMode(forms::ListBox::DropMode::Manual);
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile("/tmp/x.txt")});
+    EXPECT_FALSE(DropOn(*Find<QListView>("right").viewport(), files));
+    EXPECT_EQ(Heard(), Words{});
+}
+
+}  // namespace
+
+}  // namespace halvenmoor::qt

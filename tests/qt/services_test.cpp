@@ -1,0 +1,208 @@
+#include "platform/qt/application.h"
+#include "platform/qt/file_dialogs.h"
+#include "platform/qt/instance_guard.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/settings.h"
+#include "platform/qt/theme.h"
+#include "window_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocalSocket>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <cmath>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+/// Answers the next modal dialog of this kind; the dialog must close on it.
+template <class Dialog, class Answer>
+void WhenShown(const Answer& answer) {
+    QTimer::singleShot(0, qApp, [answer] {
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        answer(*dialog);
+    });
+}
+
+TEST_F(Window, ShowsMessagesAsTheyAre) {
+    WhenShown<QMessageBox>([this](QMessageBox& box) {
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.text(), "<b>x</b>\n\ny          ");
+        EXPECT_EQ(box.windowTitle(), "Title");
+        EXPECT_EQ(box.parentWidget(), &Root());
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        box.close();
+    });
+    QtMessageBox().Show("<b>x</b>\r\n\r\ny          ", "Title");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+class Dialogs : public Window {
+protected:
+    Dialogs()
+        : request{"Title", "Suggested", folder.path().toStdString(), "Text File (*.txt)|*.txt", "txt"} {}
+
+    /// Types the name and accepts it; the answer is for the message that this brings up.
+    void Type(QFileDialog& dialog, const QString& name,
+              const std::function<void(QMessageBox&)>& answer = {}) {
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+        edit->setFocus();
+        edit->setText(name);
+        if (answer) WhenShown<QMessageBox>(answer);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    std::string Path(const char* name) { return (folder.path() + '/' + name).toStdString(); }
+    void Make(const char* name) {
+        QFile file(folder.path() + '/' + name);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+
+    QTemporaryDir folder;
+    platform::FileDialog request;
+};
+
+TEST_F(Dialogs, AskAboutTheNameThatIsWritten) {
+    Make("old.txt");
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Title");
+        EXPECT_EQ(dialog.nameFilters(), QStringList{"Text File (*.txt)"});
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "Suggested");
+        int questions = 0;
+        Type(dialog, "old", [&questions](QMessageBox& box) {
+            ++questions;
+            EXPECT_TRUE(box.text().contains("old.txt"));
+            box.button(QMessageBox::No)->click();
+        });
+        EXPECT_EQ(questions, 1);
+        Type(dialog, "missing/new", [](QMessageBox& box) { box.close(); });
+        EXPECT_TRUE(dialog.isVisible()) << "the folder must exist";
+        Type(dialog, "new");
+    });
+    EXPECT_EQ(QtFileDialogs().AskSavePath(request), Path("new.txt"));
+}
+
+TEST_F(Dialogs, OpenWhatExists) {
+    Make("there.txt");
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        Type(dialog, "missing", [](QMessageBox& box) { box.close(); });
+        EXPECT_TRUE(dialog.isVisible());
+        Type(dialog, "there");
+    });
+    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), Path("there.txt"));
+    WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), std::nullopt);
+}
+
+TEST(Settings, LastAndNeverFail) {
+    const QTemporaryDir folder;
+    const auto read = [](QtSettings& settings, const char* name) {
+        return settings.GetSetting("App", "Section", name, "default");
+    };
+    {
+        QtSettings settings(folder.path() + "/new");
+        EXPECT_EQ(read(settings, "Name"), "default");
+        settings.SaveSetting("App", "Section", "Name", "\xc3\x9c, \"x\" @1");
+        settings.SaveSetting("App", "Section", "Empty", "");
+        settings.SaveSetting("App", "Other", "Name", "other");
+    }
+    QtSettings settings(folder.path() + "/new");
+    EXPECT_EQ(read(settings, "Name"), "\xc3\x9c, \"x\" @1");
+    EXPECT_EQ(read(settings, "Empty"), "");
+    EXPECT_EQ(settings.GetSetting("App", "Other", "Name", ""), "other");
+
+    QFile inTheWay(folder.path() + "/file");
+    ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
+    QtSettings unwritable(folder.path() + "/file");
+    unwritable.SaveSetting("App", "Section", "Name", "kept");
+    EXPECT_EQ(read(unwritable, "Name"), "kept");
+}
+
+TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
+    const QTemporaryDir folder;
+    auto first = std::make_unique<InstanceGuard>(folder.path());
+    InstanceGuard second(folder.path());
+    ASSERT_TRUE(first->IsFirst());
+    EXPECT_FALSE(second.IsFirst());
+    EXPECT_TRUE(first->IsFirst());
+
+    std::vector<QByteArray> tokens;
+    first->OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
+    for (const char* const message : {"stop\n", "raise", "raise\nraise x\n"}) {
+        QLocalSocket foreign;
+        foreign.connectToServer(folder.path() + "/halvenmoor.socket");
+        ASSERT_TRUE(foreign.waitForConnected());
+        foreign.write(message);
+        foreign.waitForBytesWritten();
+        QTest::qWait(20);
+    }
+    EXPECT_TRUE(tokens.empty());
+    qputenv("XDG_ACTIVATION_TOKEN", "token-1");
+    second.RaiseOther();
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    second.RaiseOther();
+    EXPECT_TRUE(QTest::qWaitFor([&tokens] { return tokens.size() == 2; }));
+    EXPECT_EQ(tokens, (std::vector<QByteArray>{"token-1", ""}));
+
+    first.reset();
+    InstanceGuard(folder.path()).RaiseOther();
+    EXPECT_TRUE(InstanceGuard(folder.path()).IsFirst()) << "a later start";
+}
+
+TEST_F(Window, IsRaisedAndRestored) {
+    QTemporaryDir folder;
+    QtApplication first(folder.path());
+    QtApplication second(folder.path());
+    EXPECT_FALSE(first.PreviousInstance());
+    EXPECT_TRUE(second.PreviousInstance());
+    Root().setWindowState(Qt::WindowMinimized);
+    second.RaisePreviousInstance();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Root().isMinimized(); }));
+    EXPECT_EQ(first.ProgramFolder(), QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString());
+    EXPECT_EQ(first.Version().major, 3);
+    EXPECT_GT(first.Screen().width, 0);
+}
+
+double Luminance(forms::Color color) {
+    const auto linear = [color](int shift) {
+        const double channel = ((color >> shift) & 255) / 255.0;
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(0) + 0.7152 * linear(8) + 0.0722 * linear(16);
+}
+
+TEST(Theme, KeepsBlackAndWhiteTextReadable) {
+    const QPalette before = QApplication::palette();
+    const QtTheme theme;
+    for (const QColor& tone : {QColor(Qt::black), QColor(45, 45, 48), QColor(119, 119, 119),
+                               QColor(Qt::white), QColor(255, 220, 0), QColor(0, 0, 255)}) {
+        QPalette palette(tone, tone);
+        palette.setColor(QPalette::Highlight, tone);
+        QApplication::setPalette(palette);
+        const double face = Luminance(theme.SystemColor(forms::kButtonFaceNumber).value());
+        const double highlight = Luminance(theme.SystemColor(forms::kHighlightNumber).value());
+        EXPECT_GE((face + 0.05) / 0.05, 4.5) << tone.name().toStdString();
+        EXPECT_GE(1.05 / (highlight + 0.05), 4.5) << tone.name().toStdString();
+    }
+    QApplication::setPalette(before);
+    EXPECT_EQ(theme.SystemColor(forms::kButtonFaceNumber),
+              forms::Rgb(before.button().color().red(), before.button().color().green(),
+                         before.button().color().blue()))
+        << "a light palette stays as it is";
+    EXPECT_EQ(theme.SystemColor(31), std::nullopt);
+    EXPECT_TRUE(theme.GroupBoxTextColor().has_value());
+}
+
+}  // namespace
+
+}  // namespace halvenmoor::qt

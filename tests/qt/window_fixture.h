@@ -1,0 +1,99 @@
+#pragma once
+
+#include "forms/desktop.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/toolkit.h"
+
+#include <QApplication>
+#include <QListView>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace halvenmoor::qt {
+
+class WesternLocale : public platform::Locale {
+public:
+    const text::CodePage& CodePage() const override { return text::WindowsCodePage(1252); }
+    std::string DecimalSeparator() const override { return "."; }
+    std::string ToFileText(std::string_view utf8) const override { return std::string(utf8); }
+};
+
+/// A window with a control of each kind.
+struct SampleForm : forms::Form {
+    explicit SampleForm(forms::Desktop& desktop, bool closeBox = true)
+        : Form(desktop,
+               {.name = "sample", .title = "Sample", .width = 6000, .height = 6000, .closeBox = closeBox}) {
+        SetCancelButton(&cancel);
+        first.OnClick = [this] { heard.push_back("first"); };
+        cancel.OnClick = [this] { heard.push_back("cancel"); };
+        check.OnClick = [this] { heard.push_back("check"); };
+        for (auto* option : {&optionA, &optionB}) {
+            option->OnClick = [this, option] { heard.push_back(option->Name()); };
+        }
+        for (auto* list : {&left, &right}) {
+            list->OnClick = [this, list] { heard.push_back(list->Name()); };
+            list->OnStartDrag = [this] { heard.push_back("start"); };
+            list->OnDragDrop = [this, list] { heard.push_back("drop " + list->Name()); };
+            list->OnCompleteDrag = [this] { heard.push_back("complete"); };
+        }
+        combo.OnClick = [this] { heard.push_back("combo"); };
+        combo.OnChange = [this] {
+            heard.push_back("change " + combo.Text());
+            combo.SetListIndex(0);
+        };
+    }
+
+    void Activate() override {
+        heard.push_back("activate");
+        if (script) script();
+    }
+
+    forms::Frame frame{*this, {.name = "frame", .place = {3000, 0, 2900, 1500}, .text = "A & B"}};
+    forms::Label label{
+        *this, {.name = "label", .place = {150, 300, 1500, 300}, .text = "<b>a</b> & b", .frame = &frame}};
+    forms::CommandButton first{*this, {.name = "first", .place = {0, 0, 1200, 375}, .tab = 1, .text = "&Go"}};
+    forms::CommandButton cancel{*this, {.name = "cancel", .place = {1500, 0, 1200, 375}, .tab = 2}};
+    forms::CheckBox check{*this, {.name = "check", .place = {0, 450, 1500, 300}, .tab = 3, .text = "On"}};
+    forms::OptionButton optionA{*this,
+                                {.name = "optionA", .place = {0, 900, 1500, 300}, .tab = 4, .on = true}};
+    forms::OptionButton optionB{*this, {.name = "optionB", .place = {0, 1200, 1500, 300}, .tab = 5}};
+    forms::ListBox left{*this, {.name = "left", .place = {0, 1650, 2400, 1500}, .tab = 6}};
+    forms::ListBox right{*this, {.name = "right", .place = {3000, 1650, 2400, 1500}, .tab = 7}};
+    forms::ComboBox combo{*this, {.name = "combo", .place = {0, 3300, 2400, 315}, .tab = 8, .text = "Pick"}};
+    forms::TextBox text{*this, {.name = "text", .place = {0, 3750, 2400, 315}, .tab = 9}};
+    forms::PictureBox picture{*this, {.name = "picture", .place = {0, 4200, 1500, 750}, .bordered = true}};
+
+    std::vector<std::string> heard;
+    /// What happens once the form is on the screen.
+    std::function<void()> script;
+};
+
+/// A sample window on the screen, with what it has heard so far forgotten.
+class Window : public testing::Test {
+protected:
+    Window() {
+        desktop.Show(form);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Root()));
+        form.heard.clear();
+    }
+
+    QWidget& Root() { return static_cast<FormWindow&>(*form.View()); }
+    template <class Kind = QWidget>
+    Kind& Find(const char* name) {
+        return *Root().findChild<Kind*>(name);
+    }
+    void Click(const char* name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
+    std::vector<std::string> Heard() { return std::exchange(form.heard, {}); }
+
+    using Words = std::vector<std::string>;
+
+    WesternLocale locale;
+    QtToolkit toolkit{locale};
+    forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
+    SampleForm form{desktop};
+};
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,243 @@
+#include "forms/canvas.h"
+#include "window_fixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+TEST_F(Window, ForwardsClicksAndKeys) {
+    Click("first");
+    Click("check");
+    Click("optionB");
+    EXPECT_EQ(Heard(), (Words{"first", "check", "optionB"}));
+    EXPECT_TRUE(form.check.Value());
+    EXPECT_TRUE(form.optionB.Value());
+    EXPECT_FALSE(Find<QRadioButton>("optionA").isChecked());
+
+    QTest::keyClick(&Find("optionB"), Qt::Key_Up);
+    EXPECT_EQ(Heard(), Words{"optionA"});
+    EXPECT_EQ(form.ActiveControl(), &form.optionA);
+    QTest::keyClick(&Find("check"), Qt::Key_Space);
+    QTest::keyClick(&Find("first"), Qt::Key_Return);
+    QTest::keyClick(&Find("text"), Qt::Key_Escape);
+    EXPECT_EQ(Heard(), (Words{"check", "first", "cancel"}));
+    QTest::keyClicks(&Find("text"), "ok");
+    EXPECT_EQ(form.text.Text(), "ok");
+}
+
+TEST_F(Window, ShowsWhatTheProgramChangesWithoutAnEcho) {
+    form.check.SetValue(true);
+    form.optionB.SetValue(true);
+    form.optionB.SetValue(false);
+    form.combo.AddItem("one");
+    form.combo.AddItem("two");
+    form.combo.SetListIndex(1);
+    form.text.SetText("typed");
+    form.label.SetVisible(false);
+    form.first.SetEnabled(false);
+    form.SetCaption("Other [*]");
+    Heard();
+    EXPECT_FALSE(Find<QCheckBox>("check").isChecked()) << "the view waits for the end of the event";
+    desktop.Yield();
+    EXPECT_TRUE(Find<QCheckBox>("check").isChecked());
+    EXPECT_FALSE(Find<QRadioButton>("optionA").isChecked());
+    EXPECT_FALSE(Find<QRadioButton>("optionB").isChecked());
+    EXPECT_EQ(Find<QComboBox>("combo").count(), 2);
+    EXPECT_EQ(Find<QComboBox>("combo").currentText(), "two");
+    EXPECT_EQ(Find<QLineEdit>("text").text(), "typed");
+    EXPECT_TRUE(Find("label").isHidden());
+    EXPECT_FALSE(Find("first").isEnabled());
+    EXPECT_EQ(Root().windowTitle(), "Other [*][*]");
+    EXPECT_EQ(Heard(), Words{});
+}
+
+TEST_F(Window, ShowsPlainText) {
+    EXPECT_EQ(Find<QLabel>("label").textFormat(), Qt::PlainText);
+    EXPECT_EQ(Find<QLabel>("label").text(), "<b>a</b> & b");
+    EXPECT_EQ(Find<QGroupBox>("frame").title(), "A && B");
+    EXPECT_TRUE(Find<QPushButton>("first").shortcut().isEmpty());
+    form.label.SetCaption("M\xfcnchen");
+    form.left.AddItems(
+        {"Stra\xdf"
+         "e",
+         "two\nlines"});
+    desktop.Yield();
+    EXPECT_EQ(Find<QLabel>("label").text(), "M\u00fcnchen");
+    const QAbstractItemModel& rows = *Find<QListView>("left").model();
+    EXPECT_EQ(rows.index(0, 0).data().toString(), "Stra\u00dfe");
+    EXPECT_EQ(rows.index(1, 0).data().toString(), "two\u240alines");
+}
+
+TEST_F(Window, PlacesControlsByTwips) {
+    EXPECT_EQ(Root().size(), QSize(400, 400));
+    EXPECT_EQ(Find("left").geometry(), QRect(0, 110, 160, 100));
+    EXPECT_EQ(Find("label").parentWidget(), &Find("frame"));
+    EXPECT_EQ(Find("first").font().pixelSize(), 11);
+    EXPECT_FALSE(Root().windowFlags() & Qt::WindowMaximizeButtonHint);
+    form.MoveTo({1500, 3000});
+    desktop.Yield();
+    EXPECT_EQ(Root().pos(), QPoint(100, 200));
+    Root().move(10, 20);
+    EXPECT_EQ(form.Position().left, 150);
+    EXPECT_EQ(form.Position().top, 300);
+}
+
+TEST_F(Window, KeepsTheFocusWhereTheFormHasIt) {
+    EXPECT_EQ(QApplication::focusWidget(), &Find("first"));
+    QTest::keyClick(&Find("first"), Qt::Key_Tab);
+    EXPECT_EQ(form.ActiveControl(), &form.cancel);
+    Click("left");
+    EXPECT_EQ(form.ActiveControl(), &form.left);
+
+    form.left.SetEnabled(false);
+    desktop.Yield();
+    EXPECT_EQ(form.ActiveControl(), &form.right);
+    EXPECT_EQ(QApplication::focusWidget(), &Find("right"));
+
+    form.combo.OnGotFocus = [this] { form.first.SetFocus(); };
+    Find("combo").setFocus();
+    EXPECT_EQ(form.ActiveControl(), &form.first);
+    EXPECT_EQ(QApplication::focusWidget(), &Find("first"));
+}
+
+TEST_F(Window, UndoesTypingInTheCombo) {
+    form.combo.AddItem("one");
+    form.combo.AddItem("two");
+    desktop.Yield();
+    EXPECT_EQ(Find<QComboBox>("combo").currentText(), "Pick");
+    QTest::keyClick(&Find("combo"), Qt::Key_X);
+    EXPECT_EQ(Heard(), (Words{"change Pickx", "combo"}));
+    EXPECT_EQ(Find<QComboBox>("combo").currentText(), "one");
+    QTest::keyClick(&Find("combo"), Qt::Key_T);
+    QTest::keyClick(&Find("combo"), Qt::Key_Return);
+    EXPECT_EQ(Find<QComboBox>("combo").currentText(), "one") << "no completion";
+    EXPECT_EQ(Find<QComboBox>("combo").count(), 2) << "no insertion";
+    Heard();
+    QTest::keyClick(&Find("combo"), Qt::Key_Down);
+    EXPECT_EQ(Heard(), Words{"combo"});
+    EXPECT_EQ(form.combo.ListIndex(), 1);
+}
+
+TEST_F(Window, DrawsOnTheCanvasAtOnce) {
+    forms::Canvas& canvas = *form.picture.Canvas();
+    const forms::PixelRect all = canvas.ClientRect();
+    EXPECT_EQ(all.right, 98);
+    EXPECT_EQ(all.bottom, 48);
+    form.picture.SetBordered(false);
+    EXPECT_EQ(form.picture.Canvas()->ClientRect().right, 100);
+
+    constexpr forms::Color red = forms::Rgb(255, 0, 0);
+    constexpr forms::Color blue = forms::Rgb(0, 0, 255);
+    canvas.FillRect({0, 0, 100, 50}, red);
+    canvas.SetClip({10, 10, 20, 20});
+    canvas.FillRect({0, 0, 100, 50}, blue);
+    canvas.SetClip({30, 30, 30, 40});
+    canvas.FillRect({0, 0, 100, 50}, forms::Rgb(0, 255, 0));
+    canvas.ClearClip();
+    canvas.DrawLine({40, 5}, {30, 5}, blue);
+    canvas.DrawLine({60, 5}, {60, 9}, blue);
+    canvas.DrawText("MMMM", {60, 20, 100, 40}, {}, blue);
+    canvas.Refresh();
+    desktop.Yield();
+
+    const QImage image = Find("picture").grab().toImage();
+    const auto at = [&image](int x, int y) { return image.pixelColor(x, y); };
+    EXPECT_EQ(at(0, 0), QColor(Qt::red));
+    EXPECT_EQ(at(10, 10), QColor(Qt::blue));
+    EXPECT_EQ(at(19, 19), QColor(Qt::blue));
+    EXPECT_EQ(at(20, 20), QColor(Qt::red));
+    EXPECT_EQ(at(40, 5), QColor(Qt::blue));
+    EXPECT_EQ(at(31, 5), QColor(Qt::blue));
+    EXPECT_EQ(at(30, 5), QColor(Qt::red)) << "a line leaves out its end";
+    EXPECT_EQ(at(60, 8), QColor(Qt::blue));
+    EXPECT_EQ(at(60, 9), QColor(Qt::red));
+    EXPECT_EQ(at(62, 22), QColor(Qt::red));
+    EXPECT_NE(image.copy(60, 20, 40, 20), image.copy(60, 21, 40, 1).scaled(40, 20)) << "the text shows";
+}
+
+struct PaintingForm : SampleForm {
+    using SampleForm::SampleForm;
+    void Paint() override {
+        ++paints;
+        label.SetForeColor(forms::Rgb(0, 0, 200));
+    }
+    int paints = 0;
+};
+
+TEST_F(Window, PaintsWithoutAStorm) {
+    PaintingForm painting(desktop);
+    painting.script = [&] {
+        QTest::qWait(50);
+        EXPECT_GE(painting.paints, 1);
+        EXPECT_LE(painting.paints, 4);
+        const QWidget& shown = static_cast<FormWindow&>(*painting.View());
+        EXPECT_EQ(shown.findChild<QLabel*>("label")->palette().color(QPalette::WindowText),
+                  QColor(0, 0, 200));
+        painting.Unload();
+    };
+    desktop.ShowModal(painting);
+}
+
+TEST_F(Window, GivesAModalFormAllEvents) {
+    SampleForm dialog(desktop);
+    dialog.cancel.OnClick = [&] { dialog.Unload(); };
+    dialog.script = [&] {
+        QWidget& shown = static_cast<FormWindow&>(*dialog.View());
+        EXPECT_EQ(dialog.heard, Words{"activate"});
+        EXPECT_EQ(QApplication::activeModalWidget(), &shown);
+        EXPECT_EQ(shown.windowHandle()->transientParent(), Root().windowHandle());
+        Click("first");
+        Click("check");
+        Root().close();
+        EXPECT_FALSE(Find<QCheckBox>("check").isChecked()) << "the refused click is undone";
+        EXPECT_EQ(form.heard, Words{});
+        EXPECT_TRUE(form.IsOpen());
+        QTest::keyClick(&shown, Qt::Key_Escape);
+    };
+    desktop.ShowModal(dialog);
+    EXPECT_FALSE(dialog.IsOpen());
+    EXPECT_EQ(Heard(), Words{"activate"});
+}
+
+TEST_F(Window, ClosesOnlyWhereThereIsACloseBox) {
+    SampleForm dialog(desktop, false);
+    dialog.script = [&] {
+        QWidget& shown = static_cast<FormWindow&>(*dialog.View());
+        EXPECT_FALSE(shown.windowFlags() & Qt::WindowCloseButtonHint);
+        shown.close();
+        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_TRUE(shown.isVisible());
+        dialog.Unload();
+    };
+    desktop.ShowModal(dialog);
+    QTimer::singleShot(0, [&] { Root().close(); });
+    toolkit.Run(desktop);
+    EXPECT_TRUE(desktop.Ended());
+    EXPECT_FALSE(form.IsOpen());
+}
+
+TEST_F(Window, SleepsOnlyWhenAskedTo) {
+    QElapsedTimer clock;
+    clock.start();
+    toolkit.HandleEvents(0);
+    toolkit.HandleEvents(0.0019);
+    EXPECT_LT(clock.elapsed(), 1000);
+    clock.restart();
+    for (double left = 0.03; left >= 0.002; left = 0.03 - static_cast<double>(clock.nsecsElapsed()) / 1e9) {
+        toolkit.HandleEvents(left);
+    }
+    EXPECT_GE(clock.elapsed(), 27);
+}
+
+}  // namespace
+
+}  // namespace halvenmoor::qt
