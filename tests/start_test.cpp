@@ -1,0 +1,154 @@
+#include "program.h"
+
+namespace halvenmoor {
+namespace {
+
+using Names = TestProgram::Names;
+
+/// One camera file in each folder, named after it.
+void AddOneFileForEachMode(TestProgram& program) {
+    program.memory.Put("/p/asc/normal.asc", "");
+    program.memory.Put("/p/demo/asc_demo/demo.asc", "");
+}
+
+TEST(StartTest, FirstRunShowsTheDemonstrationInEnglish) {
+    TestProgram program;
+    AddOneFileForEachMode(program);
+    program.Start();
+    frmMain& window = program.Window();
+    EXPECT_EQ(window.Caption(), "Halvenmoor 3.2");
+    // The screen has 1280 by 1024 pixels.
+    EXPECT_EQ(window.Position().left, (640 - 400) * 15);
+    EXPECT_EQ(window.Position().top, (512 - 315) * 15);
+    EXPECT_EQ(program.core.ExportMode, 1);
+    EXPECT_EQ(program.Items(0), Names{"demo"});
+    EXPECT_TRUE(window.CheckDemoMode.Value() && window.CheckSaveResults.Value());
+    EXPECT_FALSE(window.ButtonImportFiles.Enabled());
+    EXPECT_EQ(window.LanguageList.Text(), "English");
+    EXPECT_EQ(program.Option("DemoMode") + program.Option("SaveResults"), "(none)(none)");
+    EXPECT_EQ(window.ActiveControl(), &window.ButtonClassifyFiles);
+}
+
+TEST(StartTest, DemoModeOfExactlyOneIsTheDemonstration) {
+    for (const char* value : {"1", "0", "2", "", " 1"}) {
+        TestProgram program;
+        AddOneFileForEachMode(program);
+        program.SetOption("DemoMode", value);
+        program.Start();
+        const bool demonstration = std::string(value) == "1";
+        EXPECT_EQ(program.core.WorkspaceRoot, demonstration ? "/p/demo" : "/p") << value;
+        EXPECT_EQ(program.core.FolderSuffix, demonstration ? "_demo/" : "/");
+        EXPECT_EQ(program.Items(0), Names{demonstration ? "demo" : "normal"});
+        EXPECT_EQ(program.Window().CheckDemoMode.Value(), demonstration);
+        EXPECT_EQ(program.Window().ButtonImportFiles.Enabled(), !demonstration);
+        EXPECT_EQ(program.Option("DemoMode"), value) << "start writes nothing";
+    }
+}
+
+TEST(StartTest, SaveResultsReadsAsOffUnlessItIsOne) {
+    for (const auto& [stored, after] : {std::pair("1", "1"), {"0", "0"}, {"2", "0"}, {"", "0"}}) {
+        TestProgram program;
+        program.SetOption("SaveResults", stored);
+        program.Start();
+        EXPECT_EQ(program.Window().CheckSaveResults.Value(), after[0] == '1');
+        EXPECT_EQ(program.Option("SaveResults"), after) << "the box changed, and its click stores it";
+    }
+}
+
+TEST(StartTest, SwitchingTheModeTakesEffectAtOnce) {
+    TestProgram program;
+    AddOneFileForEachMode(program);
+    program.Start();
+    program.Move(2, {"demo"});
+    program.Click(program.Window().CheckDemoMode);
+    EXPECT_EQ(program.Option("DemoMode"), "0");
+    EXPECT_EQ(program.Items(0), Names{"normal"});
+    EXPECT_EQ(program.Items(2), Names{});
+    EXPECT_EQ(program.core.CameraFile("a"), "/p/asc/a.asc");
+    EXPECT_EQ(program.core.TargetFolder() + program.core.ResultsFile(), "/p/txt//p/Export Results.txt");
+    program.Click(program.Window().CheckDemoMode);
+    EXPECT_EQ(program.Option("DemoMode"), "1");
+    EXPECT_EQ(program.core.CameraFile("a"), "/p/demo/asc_demo/a.asc");
+    EXPECT_EQ(program.core.LanguageFolder(), "/p/lang/");
+}
+
+TEST(StartTest, EditedSettingsCountFromTheNextReload) {
+    TestProgram program;
+    program.Start();
+    program.SetSettings("[Units]\nmph\n");
+    EXPECT_EQ(Elements(program.core.ClassificationSettings->UnitSearchPatterns()), Names{});
+    program.Click(program.Window().CheckAuto[1]);
+    EXPECT_EQ(Elements(program.core.ClassificationSettings->UnitSearchPatterns()), Names{"mph"});
+}
+
+/// A store that nobody may touch.
+class ForbiddenSettings : public platform::SettingsStore {
+    std::string GetSetting(std::string_view, std::string_view, std::string_view, std::string_view) override {
+        ADD_FAILURE() << "an option was read";
+        return "";
+    }
+    void SaveSetting(std::string_view, std::string_view, std::string_view, std::string_view) override {
+        ADD_FAILURE() << "an option was written";
+    }
+};
+
+TEST(StartTest, SecondInstanceRaisesTheFirstAndLeavesWithoutATrace) {
+    TestProgram program;
+    program.application.HasPreviousInstance = true;
+    ForbiddenSettings settings;
+    Program second({program.files, program.files, program.application, program.clock, settings,
+                    program.messages, program.fileDialogs, program.theme, program.locale},
+                   program.toolkit);
+    second.Start();
+    EXPECT_EQ(program.application.RaisedPreviousInstance, 1);
+    EXPECT_EQ(second.Core().MainForm, nullptr);
+    EXPECT_EQ(program.files.Calls(), 0);
+}
+
+TEST(StartTest, WithoutAFileSystemObjectThePrograEndsAfterAMessage) {
+    const struct {
+        Failure failure;
+        const char* message;
+    } cases[] = {
+        {Failure(429, "ActiveX component can't create object"),
+         "Run-time error 429:\r\n\r\nMicrosoft script runtime library  \"scrrun.dll\"  is either "
+         "missing, corrupt or not correctly registered.          "},
+        {Failure(70, "Permission denied"), "Run-time error 70:\r\n\r\nPermission denied.          "}};
+    for (const auto& test : cases) {
+        TestProgram program;
+        program.files.FailFromCall(1, test.failure);
+        program.toolkit.OnTurn = [&] { EXPECT_TRUE(program.messages.Messages.empty()); };
+        program.Start();
+        ASSERT_EQ(program.messages.Messages.size(), 1U);
+        EXPECT_EQ(program.messages.Messages[0].text, test.message);
+        EXPECT_EQ(program.messages.Messages[0].title, "Halvenmoor");
+        EXPECT_EQ(program.toolkit.Turns(), 1) << "pending events run before the message";
+        EXPECT_TRUE(program.desktop.Ended());
+        EXPECT_EQ(program.Window().LabelSelectLanguage.Caption(), "Select Language") << "loaded to its end";
+    }
+}
+
+TEST(StartTest, FileSystemObjectIsTestedAgainAfterEachDialog) {
+    TestProgram program;
+    program.Start();
+    forms::Form dialog(program.desktop, {});
+    program.toolkit.Script([&program](forms::Form& form) {
+        program.files.FailFromCall(1, Failure(7, "Out of memory"));
+        form.Unload();
+    });
+    EXPECT_FALSE(program.desktop.Ended());
+    program.desktop.ShowModal(dialog);
+    EXPECT_EQ(program.messages.Messages.size(), 1U);
+    EXPECT_TRUE(program.desktop.Ended());
+}
+
+TEST(StartTest, ExitEndsTheProgramAndStoresNothing) {
+    TestProgram program;
+    program.Start();
+    program.Click(program.Window().ButtonExitApplication);
+    EXPECT_TRUE(program.desktop.Ended());
+    EXPECT_EQ(program.Option("DemoMode"), "(none)");
+}
+
+}  // namespace
+}  // namespace halvenmoor
