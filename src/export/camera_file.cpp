@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace halvenmoor {
 
@@ -17,70 +18,48 @@ constexpr std::size_t kMaxPosition = std::numeric_limits<std::int16_t>::max();
 
 /// Fails when the comma or quote behind that many bytes has no 16-bit position. Positions count characters,
 /// of which there are never more than bytes.
-void CheckPosition(std::string_view line, std::size_t bytesBefore) {
+void CheckPosition(std::string_view rest, std::size_t bytesBefore) {
     if (bytesBefore < kMaxPosition) return;
-    if (text::CharacterCount(line.substr(0, bytesBefore)) >= kMaxPosition) text::ThrowOverflow();
+    if (text::CharacterCount(rest.substr(0, bytesBefore)) >= kMaxPosition) text::ThrowOverflow();
 }
 
-/// What is left of a line to which one comma was appended, so that the last field too ends at a comma.
-class RestOfLine {
-public:
-    explicit RestOfLine(std::string_view line) : rest_(line) {}
+// Plain loops: what they look for is near.
 
-    void DropBlanks() { rest_ = text::TrimLeft(rest_); }
-    bool StartsWithQuote() const { return !rest_.empty() && rest_.front() == '"'; }
-    bool IsUsedUp() const { return !hasLastComma_; }
+/// The bytes in front of the first comma. The end of the line counts as one.
+std::size_t BytesToComma(std::string_view rest) {
+    std::size_t bytes = 0;
+    while (bytes < rest.size() && rest[bytes] != ',') ++bytes;
+    CheckPosition(rest, bytes);
+    return bytes;
+}
 
-    /// The bytes in front of the first comma.
-    std::size_t BytesToComma() const {
-        const std::size_t bytes = std::min(rest_.find(','), rest_.size());
-        CheckPosition(rest_, bytes);
-        return bytes;
-    }
+std::size_t BytesToCommaOrQuote(std::string_view rest) {
+    std::size_t bytes = 0;
+    while (bytes < rest.size() && rest[bytes] != ',' && rest[bytes] != '"') ++bytes;
+    return bytes;
+}
 
-    /// The bytes up to and with the quote that closes the one at the start; 0 when there is none.
-    std::size_t BytesToClosingQuote() const {
-        const std::size_t closing = rest_.find('"', 1);
-        if (closing == std::string_view::npos) return 0;
-        CheckPosition(rest_, closing);
-        return closing + 1;
-    }
-
-    std::string_view Peek(std::size_t bytes) const { return rest_.substr(0, bytes); }
-
-    std::string_view Take(std::size_t bytes) {
-        const std::string_view taken = rest_.substr(0, bytes);
-        rest_.remove_prefix(bytes);
-        return taken;
-    }
-
-    /// Drops what stands in front of the first comma, and the comma.
-    void DropPastComma(std::size_t bytesToComma) {
-        hasLastComma_ = bytesToComma < rest_.size();
-        rest_.remove_prefix(std::min(bytesToComma + 1, rest_.size()));
-    }
-
-private:
-    std::string_view rest_;
-    bool hasLastComma_ = true;
-};
-
-bool SplitFields(FieldList& fields, RestOfLine rest) {
+bool SplitFields(FieldList& fields, std::string_view rest) {
     while (fields.count < FieldList::kMaxCount) {
-        rest.DropBlanks();
-        if (rest.IsUsedUp()) return true;
-        std::size_t bytesToComma = rest.BytesToComma();
-        if (rest.StartsWithQuote()) {
-            const std::size_t bytes = rest.BytesToClosingQuote();
-            if (bytes == 0) return false;
-            fields.Append(rest.Take(bytes));
-            bytesToComma = rest.BytesToComma();
+        rest = text::TrimLeft(rest);
+        // The comma's position counts even where quotes hide the comma, but only a long line can break its
+        // limit.
+        if (rest.size() >= kMaxPosition) BytesToComma(rest);
+        std::size_t bytesToComma = 0;
+        if (!rest.empty() && rest.front() == '"') {
+            const std::size_t closingQuote = rest.find('"', 1);
+            if (closingQuote == std::string_view::npos) return false;
+            CheckPosition(rest, closingQuote);
+            fields.Append(rest.substr(0, closingQuote + 1));
+            rest.remove_prefix(closingQuote + 1);
+            bytesToComma = BytesToComma(rest);
         } else {
-            const std::string_view field = text::Trim(rest.Peek(bytesToComma));
-            if (field.find('"') != std::string_view::npos) return false;
-            fields.Append(field);
+            bytesToComma = BytesToCommaOrQuote(rest);
+            if (bytesToComma < rest.size() && rest[bytesToComma] == '"') return false;
+            fields.Append(text::Trim(rest.substr(0, bytesToComma)));
         }
-        rest.DropPastComma(bytesToComma);
+        if (bytesToComma == rest.size()) return true;
+        rest.remove_prefix(bytesToComma + 1);
     }
     return true;
 }
@@ -89,7 +68,7 @@ bool SplitFields(FieldList& fields, RestOfLine rest) {
 
 bool SplitCameraLine(FieldList& fields, std::string_view& line) {
     fields.count = 0;
-    const bool isSound = SplitFields(fields, RestOfLine(line));
+    const bool isSound = SplitFields(fields, line);
     if (fields.count == 0) fields.Append({});
     line = {};
     return isSound;
@@ -97,13 +76,36 @@ bool SplitCameraLine(FieldList& fields, std::string_view& line) {
 
 namespace {
 
-bool HasPoint(std::string_view text) {
-    return text.find('.') != std::string_view::npos;
+/// A coordinate of the usual form: a sign, up to three digits, a point, up to twelve digits.
+struct PlainDegrees {
+    int whole = 0;
+    bool hasFraction = false;
+
+    bool IsWithin(int limit) const { return whole < limit || (whole == limit && !hasFraction); }
+    bool IsZero() const { return whole == 0 && !hasFraction; }
+};
+
+bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Nothing for any other form, number or not. So many digits are never lost in a double, so the result tells
+/// the same as the number.
+std::optional<PlainDegrees> ReadPlainDegrees(std::string_view text) {
+    PlainDegrees degrees;
+    std::size_t at = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
+    const std::size_t firstDigit = at;
+    const std::size_t pastWhole = std::min(firstDigit + 3, text.size());
+    for (; at < pastWhole && IsDigit(text[at]); ++at) degrees.whole = degrees.whole * 10 + (text[at] - '0');
+    if (at == firstDigit || at == text.size() || text[at] != '.') return std::nullopt;
+    const std::size_t firstDecimal = ++at;
+    for (; at < text.size() && IsDigit(text[at]); ++at) degrees.hasFraction |= text[at] != '0';
+    if (at < text.size() || at > firstDecimal + 12) return std::nullopt;
+    return degrees;
 }
 
 bool IsCoordinateText(std::string_view text, std::string_view decimalSeparator) {
-    if (!HasPoint(text)) return false;
-    if (decimalSeparator == ".") return text::IsNumericText(text, decimalSeparator);
+    if (text.find('.') == std::string_view::npos) return false;
     std::string local;
     for (const char character : text) {
         if (character == '.') {
@@ -118,6 +120,9 @@ bool IsCoordinateText(std::string_view text, std::string_view decimalSeparator) 
 }  // namespace
 
 bool IsValidPosition(std::string_view x, std::string_view y, std::string_view decimalSeparator) {
+    const auto plainX = ReadPlainDegrees(x);
+    const auto plainY = ReadPlainDegrees(y);
+    if (plainX && plainY) return plainX->IsWithin(180) && plainY->IsWithin(90) && !plainY->IsZero();
     if (!IsCoordinateText(x, decimalSeparator) || !IsCoordinateText(y, decimalSeparator)) return false;
     const double latitude = text::LeadingNumber(y);
     return std::fabs(text::LeadingNumber(x)) <= 180.0 && std::fabs(latitude) <= 90.0 && latitude != 0;

@@ -33,23 +33,26 @@ ExportRun::ExportRun(modExport& exports, std::string_view targetFile)
 void ExportRun::ExportFile(const halvenmoor::ExportFile& file) {
     const auto source = files_->OpenTextFile(file.path);
     CountOne(exports_.FilesProcessed, file.type);
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        typeAndSpeed_[static_cast<std::size_t>(type)] = "," + std::to_string(type) + "," + file.speed + ",";
+    }
     while (!source->AtEndOfStream()) {
-        ExportLine(text::StripComment(text::Trim(source->ReadLine())), file);
+        ExportLine(text::StripComment(text::Trim(source->ReadLine())), file.type);
     }
     source->Close();
 }
 
-void ExportRun::ExportLine(std::string_view line, const halvenmoor::ExportFile& file) {
+void ExportRun::ExportLine(std::string_view line, int typeOfList) {
     if (line.empty()) return;
     FieldList fields;
     const bool isSound = SplitCameraLine(fields, line);
     if (!isSound || (fields.count != kFieldsOfRecord && fields.count != kFieldsOfExtendedRecord)) {
-        if (fields.count >= 2) CountOne(exports_.CamerasSkipped, file.type);
+        if (fields.count >= 2) CountOne(exports_.CamerasSkipped, typeOfList);
         return;
     }
-    const int type = TypeOf(fields[2], file.type);
+    const int type = TypeOf(fields[2], typeOfList);
     if (IsValidPosition(fields[0], fields[1], decimalSeparator_)) {
-        WriteCamera(fields, type, file.speed);
+        WriteCamera(fields, type);
         CountOne(exports_.CamerasExported, type);
     } else if (!IsZeroPosition(fields[0], fields[1])) {
         CountOne(exports_.CamerasSkipped, type);
@@ -64,7 +67,7 @@ int ExportRun::TypeOf(std::string_view cameraName, int typeOfList) {
     return type != 0 ? type : typeOfList;
 }
 
-void ExportRun::WriteCamera(const FieldList& fields, int type, const std::string& speed) {
+void ExportRun::WriteCamera(const FieldList& fields, int type) {
     std::string_view dirType = "0";
     std::string_view direction = "0";
     if (fields.count == kFieldsOfExtendedRecord && settings_.SourceStructure() == 2) {
@@ -77,11 +80,7 @@ void ExportRun::WriteCamera(const FieldList& fields, int type, const std::string
     targetLine_.assign(fields[0]);
     targetLine_ += ',';
     targetLine_ += fields[1];
-    targetLine_ += ',';
-    targetLine_ += static_cast<char>('0' + type);
-    targetLine_ += ',';
-    targetLine_ += speed;
-    targetLine_ += ',';
+    targetLine_ += typeAndSpeed_[static_cast<std::size_t>(type)];
     targetLine_ += dirType;
     targetLine_ += ',';
     targetLine_ += direction;

@@ -27,9 +27,9 @@ public:
     void Finish() { target_->Close(); }
 
 private:
-    void ExportLine(std::string_view line, const halvenmoor::ExportFile& file);
+    void ExportLine(std::string_view line, int typeOfList);
     int TypeOf(std::string_view cameraName, int typeOfList);
-    void WriteCamera(const FieldList& fields, int type, const std::string& speed);
+    void WriteCamera(const FieldList& fields, int type);
 
     modExport& exports_;
     const cSettingsClass& settings_;
@@ -37,6 +37,8 @@ private:
     const std::unique_ptr<platform::FileSystemObject> files_;
     std::unique_ptr<platform::TextWriter> target_;
     std::optional<NamePatterns> namePatterns_;
+    /// The two columns of the present file with the commas around them, by type.
+    TypeTable<std::string> typeAndSpeed_;
     std::string targetLine_;
 };
 

@@ -2,101 +2,133 @@
 
 #include "core/text/compare.h"
 #include "core/text/decode.h"
+#include "core/text/lettercase.h"
 #include "core/text/trim.h"
 
 #include <algorithm>
 
 namespace halvenmoor {
 
+namespace {
+
+constexpr char32_t kFirstBeyondAscii = 0x80;
+/// Behind the last letter that has a capital and a small form.
+constexpr char32_t kPastLastLetter = 0x3000;
+
+/// The UTF-8 forms of all characters beyond ASCII that are equal to the folded one when case is ignored.
+std::vector<std::string> Spellings(char32_t folded) {
+    std::vector<std::string> spellings{text::EncodeUtf8(std::u32string_view(&folded, 1))};
+    for (char32_t letter = kFirstBeyondAscii; letter < kPastLastLetter; ++letter) {
+        if (letter != folded && text::FoldCase(letter) == folded) {
+            spellings.push_back(text::EncodeUtf8(std::u32string_view(&letter, 1)));
+        }
+    }
+    return spellings;
+}
+
+}  // namespace
+
 NamePatterns::NamePatterns(const TypeTable<PatternList>& patterns, const text::CodePage& codePage)
     : codePage_(codePage) {
-    std::vector<FoldedPattern> folded;
     for (int type = kFirstType; type <= kLastType; ++type) {
         for (const std::string& pattern : Elements(patterns[static_cast<std::size_t>(type)])) {
-            folded.push_back({text::FoldedKey(text::Trim(pattern), codePage), static_cast<Entry>(type)});
+            Add(text::FoldedCharacters(text::Trim(pattern), codePage), type);
         }
     }
-    AssignByteClasses(folded);
-    BuildStates(folded);
+    for (State& state : states_) state.next.resize(classCount_, 0);
+    MarkStarts(0, 0, 0);
 }
 
-void NamePatterns::AssignByteClasses(const std::vector<FoldedPattern>& patterns) {
-    for (const FoldedPattern& pattern : patterns) {
-        for (const char character : pattern.text) {
-            std::uint8_t& byteClass = classOfByte_[static_cast<unsigned char>(character)];
-            if (byteClass == 0) byteClass = static_cast<std::uint8_t>(classCount_++);
-        }
-    }
-    for (std::size_t capital = 'A'; capital <= 'Z'; ++capital) {
-        classOfByte_[capital] = classOfByte_[capital - 'A' + 'a'];
-    }
+void NamePatterns::Add(std::u32string_view foldedPattern, int type) {
+    std::uint32_t state = 0;
+    for (const char32_t character : foldedPattern) state = StateBehind(state, character);
+    states_[state].type = std::min(states_[state].type, type);
 }
 
-void NamePatterns::BuildStates(const std::vector<FoldedPattern>& patterns) {
-    // First the tree of all patterns: state 0 is its root, and 0 as a child means none.
-    std::vector<std::uint32_t> children(classCount_, 0);
-    std::vector<Entry> types(1, kNoType);
-    for (const FoldedPattern& pattern : patterns) {
-        std::uint32_t state = 0;
-        for (const char character : pattern.text) {
-            const std::size_t link =
-                state * classCount_ + classOfByte_[static_cast<unsigned char>(character)];
-            if (children[link] == 0) {
-                children[link] = static_cast<std::uint32_t>(types.size());
-                types.push_back(kNoType);
-                children.resize(children.size() + classCount_, 0);
-            }
-            state = children[link];
-        }
-        Entry& type = state == 0 ? typeOfEmptyPattern_ : types[state];
-        type = std::min(type, pattern.type);
+std::uint32_t NamePatterns::StateBehind(std::uint32_t state, char32_t character) {
+    if (character < kFirstBeyondAscii) return LinkOrNew(state, static_cast<char>(character));
+    hasPatternBeyondAscii_ = true;
+    std::uint32_t end = 0;
+    for (const std::string& spelling : Spellings(character)) {
+        std::uint32_t last = state;
+        for (const char byte : std::string_view(spelling).substr(0, spelling.size() - 1))
+            last = LinkOrNew(last, byte);
+        if (end == 0) end = LinkOrNew(last, spelling.back());
+        Link(last, spelling.back()) = end;
     }
+    return end;
+}
 
-    // Then, breadth first, every missing child becomes the child of the longest shorter end of the same text.
-    std::vector<std::uint32_t> shorterEnd(types.size(), 0);
-    std::vector<std::uint32_t> queue{0};
-    for (std::size_t next = 0; next < queue.size(); ++next) {
-        const std::uint32_t state = queue[next];
-        for (std::uint32_t byteClass = 0; byteClass < classCount_; ++byteClass) {
-            std::uint32_t& child = children[state * classCount_ + byteClass];
-            const std::uint32_t fallback =
-                state == 0 ? 0 : children[shorterEnd[state] * classCount_ + byteClass];
-            if (child == 0) {
-                child = fallback;
-                continue;
-            }
-            shorterEnd[child] = fallback;
-            types[child] = std::min(types[child], types[fallback]);
-            queue.push_back(child);
-        }
+std::uint32_t& NamePatterns::Link(std::uint32_t state, char byte) {
+    std::uint8_t& byteClass = classOfByte_[static_cast<unsigned char>(byte)];
+    if (byteClass == 0) byteClass = static_cast<std::uint8_t>(classCount_++);
+    if (byte >= 'a' && byte <= 'z') classOfByte_[static_cast<unsigned char>(byte - 'a' + 'A')] = byteClass;
+    std::vector<std::uint32_t>& next = states_[state].next;
+    if (next.size() <= byteClass) next.resize(byteClass + std::size_t{1}, 0);
+    return next[byteClass];
+}
+
+std::uint32_t NamePatterns::LinkOrNew(std::uint32_t state, char byte) {
+    if (Link(state, byte) == 0) {
+        Link(state, byte) = static_cast<std::uint32_t>(states_.size());
+        states_.emplace_back();
     }
+    return Link(state, byte);
+}
 
-    entries_.reserve(children.size());
-    for (const std::uint32_t child : children) {
-        entries_.push_back(child * classCount_ << kTypeBits | types[child]);
+/// Marks what patterns can start with, from a state that so many bytes lead to.
+void NamePatterns::MarkStarts(std::uint32_t state, unsigned start, unsigned length) {
+    const bool hasPatternEnded = state != 0 && states_[state].type != kNoType;
+    if (length == kStartLength || hasPatternEnded) {
+        const unsigned freeBits = kBitsOfByte * (kStartLength - length);
+        std::fill_n(canStart_.begin() + (start << freeBits), 1u << freeBits, 1);
+        return;
+    }
+    for (unsigned byte = 0; byte < classOfByte_.size(); ++byte) {
+        const std::uint32_t next = states_[state].next[classOfByte_[byte]];
+        if (next != 0) MarkStarts(next, WithByte(start, static_cast<char>(byte)), length + 1);
     }
 }
 
-NamePatterns::Entry NamePatterns::LowestType(std::string_view foldedName) const {
-    Entry lowest = kNoType;
-    Entry entry = 0;
-    for (const char character : foldedName) {
-        entry = entries_[(entry >> kTypeBits) + classOfByte_[static_cast<unsigned char>(character)]];
-        lowest = std::min(lowest, entry & kTypeMask);
+/// The lowest type of the patterns that the text begins with.
+int NamePatterns::LowestTypeAt(std::string_view text) const {
+    int lowest = kNoType;
+    std::uint32_t state = 0;
+    for (const char byte : text) {
+        state = states_[state].next[classOfByte_[static_cast<unsigned char>(byte)]];
+        if (state == 0) break;
+        lowest = std::min(lowest, states_[state].type);
+    }
+    return lowest;
+}
+
+int NamePatterns::LowestTypeIn(std::string_view text) const {
+    int lowest = kNoType;
+    unsigned bytes = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        bytes = WithByte(bytes, text[i]);
+        if (canStart_[StartOf(bytes)] == 0 || i + 1 < kStartLength) continue;
+        lowest = std::min(lowest, LowestTypeAt(text.substr(i + 1 - kStartLength)));
+    }
+    // The last places have too few bytes for the table.
+    for (std::size_t length = 1; length < kStartLength && length <= text.size(); ++length) {
+        lowest = std::min(lowest, LowestTypeAt(text.substr(text.size() - length)));
     }
     return lowest;
 }
 
 int NamePatterns::NameMatchesAnyPattern(std::string_view name) {
     if (name.empty()) return 0;
-    std::string_view foldedName = name;
-    if (!text::IsAscii(name)) {
+    std::string_view utf8 = name;
+    // Characters beyond ASCII, in whatever encoding, matter only if a pattern holds one.
+    if (hasPatternBeyondAscii_ && !text::IsValidUtf8(name)) {
         folded_.clear();
         text::AppendFoldedKey(folded_, name, codePage_);
-        foldedName = folded_;
+        utf8 = folded_;
     }
-    const Entry lowest = std::min(LowestType(foldedName), typeOfEmptyPattern_);
-    return lowest == kNoType ? 0 : static_cast<int>(lowest);
+    const int typeOfEmptyPattern = states_[0].type;
+    const int lowest = std::min(LowestTypeIn(utf8), typeOfEmptyPattern);
+    return lowest == kNoType ? 0 : lowest;
 }
 
 }  // namespace halvenmoor

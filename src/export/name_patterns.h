@@ -14,11 +14,13 @@ namespace halvenmoor {
 /// The texts that set a camera's type by its name, prepared so that one pass over a name looks for all of
 /// them at once, ignoring case.
 ///
-/// This is an automaton over the bytes of the folded name: each state stands for the longest end of what was
-/// read that begins a pattern, and knows the lowest type of which a pattern ends there.
+/// The patterns stand in a tree of bytes in which all spellings of a letter, capital or small, lead to the
+/// same state. A table tells by three bytes whether a pattern can start with them, so the tree is entered at
+/// few places of a name.
 class NamePatterns {
 public:
-    /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list.
+    /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page
+    /// must outlive the object.
     NamePatterns(const TypeTable<PatternList>& patterns, const text::CodePage& codePage);
 
     /// The lowest type of which a pattern is found in the name, 0 when there is none. An empty pattern is
@@ -26,28 +28,40 @@ public:
     int NameMatchesAnyPattern(std::string_view name);
 
 private:
-    /// A state's number times the number of byte classes, shifted up by kTypeBits; below it the lowest type
-    /// that is found on entering the state.
-    using Entry = std::uint32_t;
-    static constexpr int kTypeBits = 3;
-    static constexpr Entry kTypeMask = (1u << kTypeBits) - 1;
-    static constexpr Entry kNoType = kTypeMask;
+    static constexpr int kNoType = kLastType + 1;
+    /// Of each byte the table of starts uses five bits, which capital and small ASCII letters have in common.
+    static constexpr unsigned kBitsOfByte = 5;
+    static constexpr unsigned kStartLength = 3;
+    static constexpr unsigned kStartCount = 1u << (kBitsOfByte * kStartLength);
 
-    struct FoldedPattern {
-        std::string text;
-        Entry type;
+    struct State {
+        /// The lowest type of which a pattern ends here.
+        int type = kNoType;
+        /// By byte class; 0 for none, since no state leads back to the root.
+        std::vector<std::uint32_t> next;
     };
 
-    void AssignByteClasses(const std::vector<FoldedPattern>& patterns);
-    void BuildStates(const std::vector<FoldedPattern>& patterns);
-    Entry LowestType(std::string_view foldedName) const;
+    /// Where the table tells of the last bytes that were added.
+    static unsigned StartOf(unsigned bytes) { return bytes & (kStartCount - 1); }
+    static unsigned WithByte(unsigned bytes, char byte) {
+        return bytes << kBitsOfByte | (static_cast<unsigned char>(byte) & ((1u << kBitsOfByte) - 1));
+    }
+
+    void Add(std::u32string_view foldedPattern, int type);
+    std::uint32_t StateBehind(std::uint32_t state, char32_t character);
+    std::uint32_t& Link(std::uint32_t state, char byte);
+    std::uint32_t LinkOrNew(std::uint32_t state, char byte);
+    void MarkStarts(std::uint32_t state, unsigned start, unsigned length);
+    int LowestTypeAt(std::string_view text) const;
+    int LowestTypeIn(std::string_view text) const;
 
     const text::CodePage& codePage_;
     /// Bytes that no pattern holds share class 0; a capital ASCII letter has the class of its small letter.
     std::array<std::uint8_t, 256> classOfByte_{};
-    std::uint32_t classCount_ = 1;
-    std::vector<Entry> entries_;
-    Entry typeOfEmptyPattern_ = kNoType;
+    std::size_t classCount_ = 1;
+    std::vector<State> states_{1};
+    std::vector<char> canStart_ = std::vector<char>(kStartCount);
+    bool hasPatternBeyondAscii_ = false;
     std::string folded_;
 };
 

@@ -53,13 +53,13 @@ bool IsAscii(std::string_view bytes) noexcept {
 }
 
 bool IsValidUtf8(std::string_view bytes) noexcept {
-    bytes.remove_prefix(AsciiWords(bytes));
-    while (!bytes.empty()) {
+    while (true) {
+        bytes.remove_prefix(AsciiWords(bytes));
+        if (bytes.empty()) return true;
         const std::size_t length = SequenceLength(bytes);
         if (length == 0) return false;
         bytes.remove_prefix(length);
     }
-    return true;
 }
 
 char32_t CharacterReader::FinishSequence(unsigned char lead) noexcept {
