@@ -1,0 +1,499 @@
+#include "export/frmExport.h"
+#include "export/results_file.h"
+#include "files_test_helpers.h"
+#include "program.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace halvenmoor {
+namespace {
+
+using Counter = TypeTable<std::int32_t>;
+
+const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
+
+/// Typed text, as it stands in a file.
+std::string Crlf(std::string_view text) {
+    std::string bytes;
+    for (const char character : text)
+        bytes += character == '\n' ? std::string("\r\n") : std::string{character};
+    return bytes;
+}
+
+std::string Cameras(int count) {
+    std::string text;
+    for (; count > 0; --count) text += "1.5, 52.5, \"x\"\n";
+    return text;
+}
+
+class ExportTest : public testing::Test {
+protected:
+    /// Adds a camera file that will stand in the list of the type.
+    void Add(int type, const std::string& entry, std::string_view text) {
+        program.AddCameraFile(entry, text);
+        entries_[static_cast<std::size_t>(type)].push_back(entry);
+    }
+    void Start(std::string_view settings = "") {
+        program.SetSettings(settings);
+        program.Start();
+        for (int type = kFirstType; type <= kLastType; ++type) {
+            const Strings& entries = entries_[static_cast<std::size_t>(type)];
+            if (!entries.empty()) program.Move(type, entries);
+        }
+    }
+    /// One camera in a file of type 1, and its line in the target.
+    void StartWithOneCamera() {
+        Add(1, "one_50", "1.5,52.5,x");
+        Start();
+    }
+    const std::string oneLine = "1.5,52.5,1,50,0,0\r\n";
+
+    frmMain& Window() { return program.Window(); }
+    modExport& Exports() { return program.Exports(); }
+    void ShowResults(const std::function<void(frmResults&)>& look) {
+        program.toolkit.Script([&](forms::Form& form) {
+            look(static_cast<frmResults&>(form));
+            form.UserEscape();
+        });
+        program.Click(Window().ButtonShowResults);
+    }
+
+    TestProgram program;
+
+private:
+    TypeTable<Strings> entries_;
+};
+
+TEST_F(ExportTest, WritesTheWorkedExample) {
+    Add(1, "Fixed 50 mph",
+        "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction).\r\n"
+        "\r\n"
+        "-0.12345, 51.50000, \"Fixed Speed Camera\", 1, 90\r\n"
+        "-0.20000, 51.60000, \"Mobile Speed Camera\", 0, 0\r\n"
+        "0.0, 0.0, \"Speed Camera\", 0, 0\r\n"
+        "1.5, 52.5\r\n");
+    Start("[Mobile]\nMobile\n[Units]\nmph\n[Settings]\nSourceStructure=2\n");
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(program.Target(),
+              "X,Y,TYPE,SPEED,DirType,Direction\r\n"
+              "-0.12345,51.50000,1,50,1,90\r\n"
+              "-0.20000,51.60000,5,50,0,0\r\n");
+    EXPECT_EQ(Exports().FilesProcessed, (Counter{0, 1}));
+    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1, 0, 0, 0, 1}));
+    EXPECT_EQ(Exports().CamerasSkipped, (Counter{0, 1}));
+}
+
+TEST_F(ExportTest, CountsEveryKindOfLine) {
+    Add(1, "kinds",
+        "\xEF\xBB\xBF; a byte-order mark and comments\n\n   \r\n\t\n# c\n\"quoted\", 2, x\n"
+        "no comma\n1\"5, 52.5, x\n1.5, 5\"2, x\n"
+        "1.5, 52.5\n1.5, 52.5, mobile, 1\n1.5, 52.5, mobile, 1, 2, 3\n1,2,3,4,5,6,7,8,9,10,11,12\n"
+        "1.5, 52.5, \"mobile\n1.5, 52.5, \"x\", 1, \"2\n1.5, 52.5, \"x\", 1, 2, \"3\n5.5, 50, x\n"
+        "200.0, 50.25, \"mobile\"\n5, 50.25, \"mobile\", 1, 2\n"
+        "0.0, 0.0, \"mobile\"\n10.05, 0.0, x\n"
+        "0.0, 50.25, x\r\n1.50000000000000000001 , 52.5,\"Mobile, A40\" road, \xF6 x , 2 2");
+    Add(2, "empty", "");
+    Start("[Mobile]\nmobile\n");
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(program.Target(),
+              kHeader + "0.0,50.25,1,0,0,0\r\n1.50000000000000000001,52.5,5,0,\xF6 x,2 2\r\n");
+    EXPECT_EQ(Exports().FilesProcessed, (Counter{0, 1, 1}));
+    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1, 0, 0, 0, 1}));
+    EXPECT_EQ(Exports().CamerasSkipped, (Counter{0, 8, 0, 0, 0, 2}));
+}
+
+TEST(SourceStructureTest, TellsTheExtraFields) {
+    const Strings ends{"0,0", "1,180", "180,1"};
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        TestProgram program;
+        program.SetSettings("[Units]\nkmh\n[Settings]\nSourceStructure=" + std::to_string(i + 1));
+        program.AddCameraFile("x_80kmh", "1.5,52.5,x, 1 ,180\n1.5,52.5,x\n");
+        program.Start();
+        program.Move(4, {"x_80kmh"});
+        EXPECT_TRUE(program.Export());
+        EXPECT_EQ(program.Target(), kHeader + "1.5,52.5,4,80," + ends[i] + "\r\n1.5,52.5,4,80,0,0\r\n");
+    }
+}
+
+TEST_F(ExportTest, CameraNamesOverrideTheType) {
+    Add(1, "x", "1.5,52.5,section red\n2.5,52.5,\"\"\n3.5,52.5,\n4.5,52.5,\"\xC3\x96\"\n");
+    Start("[RedSpeed]\nred\n\xF6\n[RedLight]\nnone,\n[Section]\nsection\n");
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(program.Target(), kHeader +
+                                    "1.5,52.5,2,0,0,0\r\n2.5,52.5,3,0,0,0\r\n"
+                                    "3.5,52.5,1,0,0,0\r\n4.5,52.5,2,0,0,0\r\n")
+        << "the empty pattern hits quotes, but not an empty plain field";
+    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1, 2, 1}));
+}
+
+TEST_F(ExportTest, KeepsTheOrderOfListsAndLines) {
+    Add(2, "A", "1.5,52.5,x\n");
+    Add(1, "K\xF6ln_30", "9.5,52.5,x\n2.5,52.5,x\n9.5,52.5,x\n");
+    Add(1, "B_70", "3.5,52.5,x\n");
+    Add(1, "gone", "4.5,52.5,x\n");
+    program.AddCameraFile("unclassified", "5.5,52.5,x\n");
+    Start();
+    program.memory.Remove(program.CameraPath("gone"));
+    program.memory.Put(program.TargetPath(), std::string(500, 'x'));
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(program.Target(), kHeader +
+                                    "3.5,52.5,1,70,0,0\r\n9.5,52.5,1,30,0,0\r\n2.5,52.5,1,30,0,0\r\n"
+                                    "9.5,52.5,1,30,0,0\r\n1.5,52.5,2,0,0,0\r\n");
+}
+
+TEST_F(ExportTest, AppendsBehindTheLastByte) {
+    StartWithOneCamera();
+    program.memory.Put("/p/a.txt", kHeader + "old\r\n");
+    EXPECT_TRUE(program.ExportTo(3, "/p/a.txt"));
+    EXPECT_TRUE(program.ExportTo(3, "/p/a.txt"));
+    EXPECT_EQ(program.Text("/p/a.txt"), kHeader + "old\r\n" + oneLine + oneLine);
+    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1})) << "of the last run only";
+
+    program.memory.Put("/p/b.txt", " x,y,type,speed,dirtype,DIRECTION \nold");
+    EXPECT_TRUE(program.ExportTo(3, "/p/b.txt"));
+    EXPECT_EQ(program.Text("/p/b.txt"), " x,y,type,speed,dirtype,DIRECTION \nold" + oneLine);
+}
+
+TEST_F(ExportTest, RefusesToAppendToForeignFiles) {
+    StartWithOneCamera();
+    EXPECT_TRUE(program.Export());
+    for (const std::string& text : Strings{"", "\r\n" + kHeader, "; c\r\n" + kHeader, "X,Y,TYPE,SPEED\r\n"}) {
+        program.memory.Put("/p/a.txt", text);
+        program.messages.Messages.clear();
+        EXPECT_FALSE(program.ExportTo(3, "/p/a.txt"));
+        ASSERT_EQ(program.messages.Messages.size(), 1u) << text;
+        EXPECT_EQ(program.messages.Messages[0].text,
+                  "Selected file is not a valid 'iGO 2006SE Plus' speed camera file.          ");
+        EXPECT_EQ(program.messages.Messages[0].title, "Append To Existing Speed Camera File");
+        EXPECT_EQ(program.Text("/p/a.txt"), text);
+    }
+    EXPECT_FALSE(program.ExportTo(3, "/p/missing.txt"));
+    EXPECT_EQ(program.messages.Messages.size(), 2u);
+    EXPECT_TRUE(Window().ResultsValid);
+    EXPECT_TRUE(Window().ButtonShowResults.HasFocus());
+}
+
+TEST_F(ExportTest, AsksForTheTarget) {
+    program.AddLanguage("deutsch", "TitleSaveFileAsDialogue=Speichern\nFileNameSaveAsNewSuffix=neu\n");
+    StartWithOneCamera();
+    EXPECT_TRUE(program.ExportTo(2, "/p/my.txt"));
+    EXPECT_EQ(program.Text("/p/my.txt"), kHeader + oneLine);
+    EXPECT_EQ(program.Target(), "(none)");
+    const Counter files = std::exchange(Exports().FilesProcessed, Counter{0, 7});
+
+    program.Select(Window().LanguageList, "Deutsch");
+    EXPECT_FALSE(program.Export()) << "cancelled";
+    program.Click(Window().OptionExportMode[3]);
+    EXPECT_FALSE(program.Export());
+    EXPECT_EQ(files, (Counter{0, 1}));
+    EXPECT_EQ(Exports().FilesProcessed, (Counter{0, 7})) << "untouched";
+    EXPECT_TRUE(Window().ResultsValid);
+    EXPECT_TRUE(program.messages.Messages.empty());
+
+    const std::vector<platform::FileDialog>& asked = program.fileDialogs.Asked;
+    ASSERT_EQ(asked.size(), 3u);
+    EXPECT_EQ(asked[0].title, "Save As New Speed Camera File");
+    EXPECT_EQ(asked[0].suggestedName, "SpeedCamText - New");
+    EXPECT_EQ(asked[1].title, "Speichern");
+    EXPECT_EQ(asked[1].suggestedName, "SpeedCamText - Neu");
+    EXPECT_EQ(asked[2].title, "Append To Existing Speed Camera File");
+    EXPECT_EQ(asked[2].suggestedName, "SpeedCamText");
+    for (const platform::FileDialog& dialog : asked) {
+        EXPECT_EQ(dialog.folder, "/p/demo/txt_demo/");
+        EXPECT_EQ(dialog.filter, "Text File (*.txt)|*.txt");
+        EXPECT_EQ(dialog.defaultExtension, "txt");
+    }
+}
+
+TEST_F(ExportTest, DoesNothingWithoutSettingsOrFiles) {
+    StartWithOneCamera();
+    EXPECT_TRUE(program.Export());
+    program.memory.Remove(program.CameraPath("one_50"));
+    EXPECT_FALSE(program.Export());
+    EXPECT_TRUE(Window().ResultsValid);
+
+    TestProgram other;
+    other.memory.Remove("/p/Settings.ini");
+    other.AddCameraFile("x", "1.5,52.5,x");
+    other.Start();
+    other.Move(1, {"x"});
+    EXPECT_FALSE(other.Export());
+    EXPECT_EQ(other.Target(), "(none)");
+    EXPECT_TRUE(other.messages.Messages.empty());
+}
+
+TEST_F(ExportTest, StopsBeforeTooManyFiles) {
+    Start();
+    for (int type = 1; type <= 2; ++type) {
+        Strings entries;
+        for (int i = 0; i < 16384; ++i) entries.push_back(std::to_string(type) + "_" + std::to_string(i));
+        for (const std::string& entry : entries) program.AddCameraFile(entry);
+        program.List(type).AddItems(std::move(entries));
+    }
+    Window().UpdateButtons(true);
+    EXPECT_FALSE(program.Export());
+    EXPECT_EQ(Exports().ExportFileTable.size(), 32768u);
+    EXPECT_EQ(program.Target(), kHeader);
+    EXPECT_EQ(Exports().FilesProcessed, Counter{});
+    EXPECT_FALSE(Window().ResultsValid);
+}
+
+TEST_F(ExportTest, BrokenRunLeavesWhatWasWritten) {
+    Add(1, "a", "1.5,52.5,x\n");
+    Add(1, "b", "1.5,52.5,x\n");
+    Start();
+    EXPECT_TRUE(program.Export());
+    program.memory.Put(program.ResultsPath(), "older results");
+    program.toolkit.OnTurn = [this] { program.memory.Remove(program.CameraPath("b")); };
+    EXPECT_FALSE(program.Export());
+    EXPECT_EQ(program.Target(), kHeader + "1.5,52.5,1,0,0,0\r\n");
+    EXPECT_EQ(Exports().FilesProcessed, (Counter{0, 1}));
+    EXPECT_FALSE(Window().ResultsValid);
+    EXPECT_TRUE(Window().ButtonExportCameras.HasFocus());
+    EXPECT_EQ(program.ResultsFile(), "older results");
+
+    program.AddCameraFile("a", "2.5,52.5,x\n1.5,52.5," + std::string(40000, 'x'));
+    EXPECT_FALSE(program.Export());
+    EXPECT_EQ(program.Target(), kHeader + "2.5,52.5,1,0,0,0\r\n");
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
+TEST_F(ExportTest, WindowClosesWhateverFails) {
+    StartWithOneCamera();
+    program.toolkit.OnTurn = [] { throw std::runtime_error("turn"); };
+    EXPECT_FALSE(program.Export());
+    EXPECT_TRUE(program.desktop.Accepts(Window()));
+    program.toolkit.OnTurn = nullptr;
+    EXPECT_TRUE(program.Export());
+}
+
+/// Two camera files and a target to which they were exported once.
+struct ExportedProgram : TestProgram {
+    explicit ExportedProgram(int mode) {
+        AddCameraFile("a_50", "1.5,52.5,x\n");
+        AddCameraFile("b", "2.5,52.5,x\n");
+        Start();
+        Move(1, {"a_50"});
+        Move(2, {"b"});
+        EXPECT_TRUE(ExportTo(2, path));
+        Click(Window().OptionExportMode[mode]);
+    }
+
+    bool ExportAgain() {
+        fileDialogs.Answers = {path};
+        return Export();
+    }
+    std::string Text() { return TestProgram::Text(path); }
+
+    const std::string path = "/p/target.txt";
+};
+
+/// Makes each call of an export fail in turn; the first ones come before the run.
+void FailEachCall(int mode, int callsBefore) {
+    const std::string cameras = "1.5,52.5,1,50,0,0\r\n2.5,52.5,2,0,0,0\r\n";
+    const std::string whole = mode == 3 ? kHeader + cameras + cameras : kHeader + cameras;
+    const Failure fault(failure::DiskFull, "Disk full");
+    constexpr int kCallsOfResultsFile = 15;
+    constexpr int kCallsOfMainWindow = 2;  // at its activations, after the run and after the results
+
+    ExportedProgram undisturbed(mode);
+    undisturbed.files.FailCall(0, fault);
+    EXPECT_TRUE(undisturbed.ExportAgain());
+    const int calls = undisturbed.files.Calls() - kCallsOfMainWindow;
+    ASSERT_GT(calls, callsBefore + kCallsOfResultsFile);
+    for (int call = 1; call <= calls; ++call) {
+        SCOPED_TRACE(call);
+        ExportedProgram program(mode);
+        const bool isBefore = call <= callsBefore;
+        const bool isFinished = call > calls - kCallsOfResultsFile;
+        program.files.FailCall(call, fault);
+        EXPECT_EQ(program.ExportAgain(), isFinished);
+        EXPECT_EQ(program.Window().ResultsValid, isBefore || isFinished);
+        EXPECT_EQ(program.Window().ButtonShowResults.Enabled(), isBefore || isFinished);
+        EXPECT_TRUE(program.desktop.Accepts(program.Window()));
+        EXPECT_EQ(program.messages.Messages.size(), isBefore && call > 2 ? 1u : 0u);
+        const std::string broken = program.Text();
+        EXPECT_TRUE(whole.starts_with(broken)) << broken;
+        EXPECT_TRUE(!isBefore || broken == kHeader + cameras);
+        EXPECT_TRUE(!isFinished || broken == whole);
+
+        EXPECT_TRUE(program.ExportAgain());
+        EXPECT_EQ(program.Text(), mode == 3 ? broken + cameras : kHeader + cameras);
+        EXPECT_EQ(program.ResultsFile(), undisturbed.ResultsFile());
+    }
+}
+
+TEST(ExportFailureTest, AnyCallMayFailOfSaving) {
+    FailEachCall(2, 2);
+}
+
+TEST(ExportFailureTest, AnyCallMayFailOfAppending) {
+    FailEachCall(3, 6);
+}
+
+TEST_F(ExportTest, TakesItsTime) {
+    Add(1, "a", "");
+    Add(1, "b", "");
+    Add(1, "c", "");
+    Start();
+    for (const double start : {3600.0, 86399.9, 86399.5}) {
+        program.clock = headless::ManualClock(start);
+        EXPECT_TRUE(program.Export());
+        const double end = program.clock.TimeOfDay();
+        const double seconds = end < start ? end + 86400 - start : end - start;
+        EXPECT_GT(seconds, 0.7) << start;
+        EXPECT_LT(seconds, 0.71) << start;
+    }
+}
+
+TEST_F(ExportTest, WindowIsModalUntilTheEnd) {
+    StartWithOneCamera();
+    program.Select(1, {"one_50"});
+    Window().MoveTo({100, 200});
+    for (const int mode : {1, 3}) {
+        program.Click(Window().OptionExportMode[mode]);
+        ASSERT_TRUE(Exports().BuildExportFileList());
+        frmExport window(Exports());
+        window.SetExportFileName(program.TargetPath());
+        bool turned = false;
+        program.toolkit.OnTurn = [&] {
+            turned = true;
+            EXPECT_EQ(window.Position().left, 1880);
+            EXPECT_EQ(window.Position().top, 3500);
+            EXPECT_EQ(window.Caption(), mode == 3 ? "Append Speed Cameras" : "Export Speed Cameras");
+            EXPECT_EQ(window.LabelProgress.Caption(),
+                      mode == 3 ? "Appending Speed Cameras..." : "Exporting Speed Cameras...");
+            EXPECT_FALSE(window.UserClose());
+            EXPECT_FALSE(window.UserEscape());
+            EXPECT_FALSE(Window().UserClose());
+            EXPECT_FALSE(Window().ButtonExportCameras.UserPress());
+            EXPECT_FALSE(Window().OptionExportMode[2].UserPress());
+            EXPECT_FALSE(Window().CheckAuto[1].UserPress());
+            EXPECT_FALSE(headless::Drag(program.List(1), program.List(2)));
+        };
+        program.desktop.ShowModal(window);
+        program.toolkit.OnTurn = nullptr;
+        EXPECT_TRUE(turned);
+        EXPECT_TRUE(window.ExportResultsValid());
+        EXPECT_FALSE(window.IsOpen());
+    }
+    EXPECT_EQ(program.Target(), kHeader + oneLine + oneLine);
+}
+
+TEST_F(ExportTest, ShowsAndSavesResults) {
+    Add(1, "a", Cameras(1000) + "1.5,52.5\n");
+    Add(1, "b", Cameras(520) + "1.5,52.5\n");
+    Add(1, "c", "");
+    Add(2, "d", Cameras(47));
+    Add(3, "e", Cameras(200));
+    Add(3, "f", Cameras(10) + "1.5,52.5\n");
+    Add(5, "g", Cameras(96));
+    Start();
+    Window().MoveTo({100, 200});
+    EXPECT_TRUE(program.Export([](frmResults& window) {
+        EXPECT_EQ(window.Position().left, 250);
+        EXPECT_EQ(window.Position().top, 865);
+        EXPECT_EQ(window.Caption(), "Export Speed Cameras");
+        EXPECT_EQ(window.FrameMain.Caption(), "Exported Speed Camera Results");
+        EXPECT_EQ(window.LabelTitleExported.Caption(), "Exported Cameras");
+        EXPECT_EQ(window.FrameType[3].Caption(), "Type 3");
+        EXPECT_EQ(window.LabelType[3].Caption(), "Red Light Camera");
+        EXPECT_EQ(window.LabelFilesResult[3].Caption(), "2");
+        EXPECT_EQ(window.LabelExportedResult[3].Caption(), "210");
+        EXPECT_EQ(window.LabelSkippedResult[3].Caption(), "1");
+        EXPECT_EQ(window.LabelTotals.Caption(), "Total Files and Cameras");
+        EXPECT_EQ(window.LabelFilesResult[0].Caption(), "7");
+        EXPECT_EQ(window.LabelExportedResult[0].Caption(), "1873");
+        EXPECT_EQ(window.LabelSkippedResult[0].Caption(), "3");
+    }));
+    EXPECT_EQ(program.ResultsFile(), Crlf(R"(
+-------------------------------------------------------------------------------------
+Exported Speed Camera Results...:  Files Processed  Exported Cameras  Skipped Cameras
+-------------------------------------------------------------------------------------
+Type 1 Fixed Speed Camera.......:            3              1520                2
+Type 2 Red Speed Camera.........:            1                47                0
+Type 3 Red Light Camera.........:            2               210                1
+Type 4 Section Speed Camera.....:            0                 0                0
+Type 5 Mobile Speed Camera......:            1                96                0
+-------------------------------------------------------------------------------------
+Total Files and Cameras.........:            7              1873                3
+-------------------------------------------------------------------------------------
+)"));
+}
+
+TEST_F(ExportTest, ResultsSpeakTheLanguageAndFollowTheMode) {
+    program.AddLanguage("deutsch",
+                        "LabelSpeedCameraType=Typ\nLabelType1Description=Fester Blitzer\n"
+                        "LabelType2Description=Rotlicht- #und Tempoblitzer\n"
+                        "LabelType3Description=Rotlichtblitzer\nLabelType4Description=Abschnittskontrolle\n"
+                        "LabelType5Description=Mobiler Blitzer\nFrameMainAppended=Ergebnis #des Anhängens\n"
+                        "FrameMainExported=Ergebnis #des Exports\nLabelFilesProcessed=Dateien\n"
+                        "LabelAppendedCameras=Angehängte Blitzer\nLabelExportedCameras=Exportiert\n"
+                        "LabelSkippedCameras=Ausgelassene Blitzer\n"
+                        "LabelTotalFilesAndCameras=Dateien #und Blitzer #gesamt\n");
+    program.SetOption("Language", "Deutsch");
+    Add(2, "x", "1.5,52.5,x\n1.5,52.5\n");
+    Start();
+    program.memory.Put("/p/a.txt", kHeader);
+    EXPECT_TRUE(program.ExportTo(3, "/p/a.txt"));
+    const std::string file = Crlf(R"(
+--------------------------------------------------------------------------------------------
+Ergebnis des Anhängens.............:       Dateien  Angehängte Blitzer  Ausgelassene Blitzer
+--------------------------------------------------------------------------------------------
+Typ 1 Fester Blitzer...............:         0                   0                     0
+Typ 2 Rotlicht- und Tempoblitzer...:         1                   1                     1
+Typ 3 Rotlichtblitzer..............:         0                   0                     0
+Typ 4 Abschnittskontrolle..........:         0                   0                     0
+Typ 5 Mobiler Blitzer..............:         0                   0                     0
+--------------------------------------------------------------------------------------------
+Dateien und Blitzer gesamt.........:         1                   1                     1
+--------------------------------------------------------------------------------------------
+)");
+    EXPECT_EQ(program.ResultsFile(), file);
+
+    program.Click(Window().OptionExportMode[1]);
+    for (const auto* cameras : {"Exportiert", "Angehängte Blitzer"}) {
+        ShowResults([&](frmResults& window) {
+            EXPECT_EQ(window.LabelTitleExported.Caption(), cameras);
+            EXPECT_EQ(window.LabelExportedResult[0].Caption(), "1");
+        });
+        program.Click(Window().OptionExportMode[3]);
+    }
+    EXPECT_EQ(program.ResultsFile(), file);
+}
+
+TEST_F(ExportTest, OptionsDecideAboutResults) {
+    StartWithOneCamera();
+    program.memory.Put(program.ResultsPath(), "older results");
+    program.Click(Window().CheckSaveResults);
+    EXPECT_TRUE(program.Export([&](frmResults& window) {
+        EXPECT_TRUE(window.CheckShowResults.Value());
+        program.Click(window.CheckShowResults);
+    }));
+    EXPECT_EQ(program.Option("SaveResults"), "0");
+    EXPECT_EQ(program.ResultsFile(), "older results");
+    EXPECT_EQ(program.Option("ShowResults"), "0");
+
+    program.Click(Window().CheckSaveResults);
+    EXPECT_FALSE(program.Export());
+    EXPECT_NE(program.ResultsFile(), "older results");
+    EXPECT_TRUE(Window().ButtonShowResults.HasFocus());
+    ShowResults([&](frmResults& window) {
+        EXPECT_FALSE(window.CheckShowResults.Value());
+        program.Click(window.CheckShowResults);
+    });
+    EXPECT_EQ(program.Option("ShowResults"), "1");
+    EXPECT_TRUE(program.Export());
+}
+
+TEST(ResultsFileTest, TextsAreAligned) {
+    EXPECT_EQ(DotLeader("Größe", 8), "Größe..:");
+    EXPECT_EQ(ColumnHeading("Größe", 12), "         Größe");
+    EXPECT_EQ(ColumnHeading("12 character", 12), "  12 character");
+    EXPECT_EQ(RightAlign("12", 4), "  12");
+    EXPECT_EQ(RightAlign("12345", 4), "1234");
+}
+
+}  // namespace
+}  // namespace halvenmoor
