@@ -36,7 +36,11 @@ NamePatterns::NamePatterns(const TypeTable<PatternList>& patterns, const text::C
         }
     }
     for (State& state : states_) state.next.resize(classCount_, 0);
-    MarkStarts(0, 0, 0);
+    isNear_.resize(std::size_t{1} << (kBitsOfByte * kKeyLength));
+    MarkKeys(0, 0, 0);
+    for (const std::uint32_t behindFirstByte : states_[0].next) {
+        if (behindFirstByte != 0) MarkKeys(behindFirstByte, 0, 0);
+    }
 }
 
 void NamePatterns::Add(std::u32string_view foldedPattern, int type) {
@@ -76,17 +80,17 @@ std::uint32_t NamePatterns::LinkOrNew(std::uint32_t state, char byte) {
     return Link(state, byte);
 }
 
-/// Marks what patterns can start with, from a state that so many bytes lead to.
-void NamePatterns::MarkStarts(std::uint32_t state, unsigned start, unsigned length) {
+/// Marks what can follow a state, when bytes with that key and of that number already have.
+void NamePatterns::MarkKeys(std::uint32_t state, unsigned key, std::size_t length) {
     const bool hasPatternEnded = state != 0 && states_[state].type != kNoType;
-    if (length == kStartLength || hasPatternEnded) {
-        const unsigned freeBits = kBitsOfByte * (kStartLength - length);
-        std::fill_n(canStart_.begin() + (start << freeBits), 1u << freeBits, 1);
+    if (length == kKeyLength || hasPatternEnded) {
+        const std::size_t freeBits = kBitsOfByte * (kKeyLength - length);
+        std::fill_n(isNear_.begin() + (key << freeBits), 1u << freeBits, 1);
         return;
     }
     for (unsigned byte = 0; byte < classOfByte_.size(); ++byte) {
         const std::uint32_t next = states_[state].next[classOfByte_[byte]];
-        if (next != 0) MarkStarts(next, WithByte(start, static_cast<char>(byte)), length + 1);
+        if (next != 0) MarkKeys(next, WithByte(key, static_cast<char>(byte)), length + 1);
     }
 }
 
@@ -104,16 +108,13 @@ int NamePatterns::LowestTypeAt(std::string_view text) const {
 
 int NamePatterns::LowestTypeIn(std::string_view text) const {
     int lowest = kNoType;
-    unsigned bytes = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        bytes = WithByte(bytes, text[i]);
-        if (canStart_[StartOf(bytes)] == 0 || i + 1 < kStartLength) continue;
-        lowest = std::min(lowest, LowestTypeAt(text.substr(i + 1 - kStartLength)));
+    std::size_t place = 1;
+    for (; place + kKeyLength <= text.size(); place += 2) {
+        if (isNear_[KeyAt(text.data() + place)] == 0) continue;
+        lowest = std::min({lowest, LowestTypeAt(text.substr(place - 1)), LowestTypeAt(text.substr(place))});
     }
-    // The last places have too few bytes for the table.
-    for (std::size_t length = 1; length < kStartLength && length <= text.size(); ++length) {
-        lowest = std::min(lowest, LowestTypeAt(text.substr(text.size() - length)));
-    }
+    // The last places have too few bytes for a key.
+    for (--place; place < text.size(); ++place) lowest = std::min(lowest, LowestTypeAt(text.substr(place)));
     return lowest;
 }
 

@@ -15,8 +15,9 @@ namespace halvenmoor {
 /// them at once, ignoring case.
 ///
 /// The patterns stand in a tree of bytes in which all spellings of a letter, capital or small, lead to the
-/// same state. A table tells by three bytes whether a pattern can start with them, so the tree is entered at
-/// few places of a name.
+/// same state. A table tells by three bytes whether they can be the first bytes of a pattern, or those behind
+/// its first one; asking it at every other place of a name is enough to find where the tree has to be
+/// entered.
 class NamePatterns {
 public:
     /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page
@@ -29,10 +30,9 @@ public:
 
 private:
     static constexpr int kNoType = kLastType + 1;
-    /// Of each byte the table of starts uses five bits, which capital and small ASCII letters have in common.
+    /// Of each byte the table uses five bits, which capital and small ASCII letters have in common.
     static constexpr unsigned kBitsOfByte = 5;
-    static constexpr unsigned kStartLength = 3;
-    static constexpr unsigned kStartCount = 1u << (kBitsOfByte * kStartLength);
+    static constexpr std::size_t kKeyLength = 3;
 
     struct State {
         /// The lowest type of which a pattern ends here.
@@ -41,17 +41,18 @@ private:
         std::vector<std::uint32_t> next;
     };
 
-    /// Where the table tells of the last bytes that were added.
-    static unsigned StartOf(unsigned bytes) { return bytes & (kStartCount - 1); }
-    static unsigned WithByte(unsigned bytes, char byte) {
-        return bytes << kBitsOfByte | (static_cast<unsigned char>(byte) & ((1u << kBitsOfByte) - 1));
+    static unsigned WithByte(unsigned key, char byte) {
+        return key << kBitsOfByte | (static_cast<unsigned char>(byte) & ((1u << kBitsOfByte) - 1));
+    }
+    static unsigned KeyAt(const char* bytes) {
+        return WithByte(WithByte(WithByte(0, bytes[0]), bytes[1]), bytes[2]);
     }
 
     void Add(std::u32string_view foldedPattern, int type);
     std::uint32_t StateBehind(std::uint32_t state, char32_t character);
     std::uint32_t& Link(std::uint32_t state, char byte);
     std::uint32_t LinkOrNew(std::uint32_t state, char byte);
-    void MarkStarts(std::uint32_t state, unsigned start, unsigned length);
+    void MarkKeys(std::uint32_t state, unsigned key, std::size_t length);
     int LowestTypeAt(std::string_view text) const;
     int LowestTypeIn(std::string_view text) const;
 
@@ -60,7 +61,8 @@ private:
     std::array<std::uint8_t, 256> classOfByte_{};
     std::size_t classCount_ = 1;
     std::vector<State> states_{1};
-    std::vector<char> canStart_ = std::vector<char>(kStartCount);
+    /// By key: whether a pattern may be near.
+    std::vector<char> isNear_;
     bool hasPatternBeyondAscii_ = false;
     std::string folded_;
 };
