@@ -37,8 +37,10 @@ void SortedItems::Add(std::vector<std::string> texts) {
         std::string key = sortKey_(texts[i]);
         items_.push_back({std::move(texts[i]), std::move(key)});
     }
-    std::sort(items_.begin() + oldCount, items_.end(), StandsBefore);
-    std::inplace_merge(items_.begin(), items_.begin() + oldCount, items_.end(), StandsBefore);
+    // Items that come from another list are in order already.
+    const auto added = items_.begin() + oldCount;
+    if (!std::is_sorted(added, items_.end(), StandsBefore)) std::sort(added, items_.end(), StandsBefore);
+    std::inplace_merge(items_.begin(), added, items_.end(), StandsBefore);
     if (fitting < texts.size()) FailFull();
 }
 

@@ -1,0 +1,100 @@
+// Measures the lists of the main window, on the model alone and in the real window off-screen: filling them,
+// classifying all entries and moving all of them back at once. Prints lines NAME ENTRIES CPU_SECONDS.
+
+#include "catalogue/frmMain.h"
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_files.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "platform/headless/toolkit.h"
+#include "program.h"
+
+#ifdef HALVENMOOR_QT
+#include "platform/qt/qt_platform.h"
+#endif
+
+#include <ctime>
+#include <functional>
+#include <iostream>
+#include <numeric>
+#include <string>
+#include <vector>
+
+using namespace halvenmoor;
+
+namespace {
+
+struct BenchPlatform {
+    explicit BenchPlatform(int entries) {
+        files.Put("/p/Settings.ini", "[Type1]\r\n*1.asc\r\n[Type2]\r\n*2.asc\r\n[Type3]\r\n*\r\n");
+        for (int i = 0; i < entries; ++i)
+            files.Put("/p/asc/Camera " + std::to_string(i * 7919 % entries) + ".asc", "");
+        settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
+    }
+
+    platform::Platform Services() {
+        return {files, files, application, clock, settings, messages, fileDialogs, theme, locale};
+    }
+
+    headless::MemoryFiles files;
+    headless::FixedApplication application{"/p"};
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    headless::FixedLocale locale;
+};
+
+double CpuSeconds(const std::function<void()>& work) {
+    const std::clock_t start = std::clock();
+    work();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+void SelectAll(forms::ListBox& list) {
+    std::vector<int> rows(static_cast<std::size_t>(list.ListCount()));
+    std::iota(rows.begin(), rows.end(), 0);
+    list.UserSelect(rows, list.ListCount() - 1);
+}
+
+void MoveAllBack(frmMain& window) {
+    for (forms::ListBox& list : window.TypeList) {
+        SelectAll(list);
+        window.ButtonRemove[1].UserPress();
+    }
+}
+
+/// One turn of the toolkit follows each action, so that a real window paints what has changed.
+void Measure(const std::string& name, int entries, forms::Toolkit& toolkit) {
+    BenchPlatform platform(entries);
+    Program program(platform.Services(), toolkit);
+    program.Start();
+    frmMain& window = program.MainForm();
+    const auto report = [&](const std::string& action, const std::function<void()>& work) {
+        const double seconds = CpuSeconds([&] {
+            work();
+            toolkit.HandleEvents(0);
+        });
+        std::cout << name << '-' << action << ' ' << entries << ' ' << seconds << '\n';
+    };
+    report("fill", [&] { window.CheckAuto[5].UserPress(); });
+    report("classify", [&] { window.ButtonClassifyFiles.UserPress(); });
+    report("move", [&] { MoveAllBack(window); });
+    window.UserClose();
+}
+
+}  // namespace
+
+int main(int, [[maybe_unused]] char** arguments) {
+    headless::ManualClock clock;
+    headless::HeadlessToolkit model(clock);
+    for (const int entries : {5000, 20000}) Measure("model", entries, model);
+#ifdef HALVENMOOR_QT
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const headless::FixedLocale locale;
+    qt::QtPlatform qt(arguments[0], locale);
+    for (const int entries : {5000, 20000}) Measure("window", entries, qt.toolkit);
+#endif
+    return 0;
+}
