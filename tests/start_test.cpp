@@ -5,15 +5,9 @@ namespace {
 
 using Names = TestProgram::Names;
 
-/// One camera file in each folder, named after it.
-void AddOneFileForEachMode(TestProgram& program) {
-    program.memory.Put("/p/asc/normal.asc", "");
-    program.memory.Put("/p/demo/asc_demo/demo.asc", "");
-}
-
 TEST(StartTest, FirstRunShowsTheDemonstrationInEnglish) {
     TestProgram program;
-    AddOneFileForEachMode(program);
+    program.AddCameraFile("demo");
     program.Start();
     frmMain& window = program.Window();
     EXPECT_EQ(window.Caption(), "Halvenmoor 3.2");
@@ -32,12 +26,17 @@ TEST(StartTest, FirstRunShowsTheDemonstrationInEnglish) {
 TEST(StartTest, DemoModeOfExactlyOneIsTheDemonstration) {
     for (const char* value : {"1", "0", "2", "", " 1"}) {
         TestProgram program;
-        AddOneFileForEachMode(program);
+        program.memory.Put("/p/asc/normal.asc", "");
+        program.memory.Put("/p/demo/asc_demo/demo.asc", "");
         program.SetOption("DemoMode", value);
         program.Start();
         const bool demonstration = std::string(value) == "1";
-        EXPECT_EQ(program.core.WorkspaceRoot, demonstration ? "/p/demo" : "/p") << value;
-        EXPECT_EQ(program.core.FolderSuffix, demonstration ? "_demo/" : "/");
+        EXPECT_EQ(program.core.CameraFile("a"), demonstration ? "/p/demo/asc_demo/a.asc" : "/p/asc/a.asc")
+            << value;
+        EXPECT_EQ(program.core.TargetFolder(), demonstration ? "/p/demo/txt_demo/" : "/p/txt/");
+        EXPECT_EQ(program.core.ResultsFile(),
+                  demonstration ? "/p/demo/Export Results.txt" : "/p/Export Results.txt");
+        EXPECT_EQ(program.core.LanguageFolder(), "/p/lang/");
         EXPECT_EQ(program.Items(0), Names{demonstration ? "demo" : "normal"});
         EXPECT_EQ(program.Window().CheckDemoMode.Value(), demonstration);
         EXPECT_EQ(program.Window().ButtonImportFiles.Enabled(), !demonstration);
@@ -53,32 +52,6 @@ TEST(StartTest, SaveResultsReadsAsOffUnlessItIsOne) {
         EXPECT_EQ(program.Window().CheckSaveResults.Value(), after[0] == '1');
         EXPECT_EQ(program.Option("SaveResults"), after) << "the box changed, and its click stores it";
     }
-}
-
-TEST(StartTest, SwitchingTheModeTakesEffectAtOnce) {
-    TestProgram program;
-    AddOneFileForEachMode(program);
-    program.Start();
-    program.Move(2, {"demo"});
-    program.Click(program.Window().CheckDemoMode);
-    EXPECT_EQ(program.Option("DemoMode"), "0");
-    EXPECT_EQ(program.Items(0), Names{"normal"});
-    EXPECT_EQ(program.Items(2), Names{});
-    EXPECT_EQ(program.core.CameraFile("a"), "/p/asc/a.asc");
-    EXPECT_EQ(program.core.TargetFolder() + program.core.ResultsFile(), "/p/txt//p/Export Results.txt");
-    program.Click(program.Window().CheckDemoMode);
-    EXPECT_EQ(program.Option("DemoMode"), "1");
-    EXPECT_EQ(program.core.CameraFile("a"), "/p/demo/asc_demo/a.asc");
-    EXPECT_EQ(program.core.LanguageFolder(), "/p/lang/");
-}
-
-TEST(StartTest, EditedSettingsCountFromTheNextReload) {
-    TestProgram program;
-    program.Start();
-    program.SetSettings("[Units]\nmph\n");
-    EXPECT_EQ(Elements(program.core.ClassificationSettings->UnitSearchPatterns()), Names{});
-    program.Click(program.Window().CheckAuto[1]);
-    EXPECT_EQ(Elements(program.core.ClassificationSettings->UnitSearchPatterns()), Names{"mph"});
 }
 
 /// A store that nobody may touch.

@@ -1,0 +1,159 @@
+#include "core/text/decode.h"
+#include "program.h"
+#include "ui/cNamesClass.h"
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+
+namespace halvenmoor {
+namespace {
+
+constexpr auto proper = cNamesClass::Case::Proper;
+constexpr auto asWritten = cNamesClass::Case::AsWritten;
+
+TEST(NormaliseTextTest, RemovesMarksAndSetsTheCase) {
+    const struct {
+        const char* raw;
+        const char* proper;
+        const char* asWritten;
+    } cases[] = {
+        {"Total Files #and Cameras", "Total Files and Cameras", "Total Files and Cameras"},
+        {"Mc#donald", "McDonald", "Mcdonald"},
+        {"total #AND o#K", "Total and OK", "Total AND oK"},
+        {"\"save &as\"", "Save As", "Save as"},
+        {"salt & pepper", "Salt  Pepper", "Salt  pepper"},
+        {"one # two", "One Two", "One two"},
+        {"a###b ##c", "AB c", "Ab c"},
+        {"#START", "Start", "START"},
+        {"\"#\"#of", "Of", "Of"},
+        {"rock-and-roll o'neill OV2", "Rock-and-roll O'neill Ov2", "Rock-and-roll o'neill OV2"},
+        {"tab\tstop  two", "Tab\tStop  Two", "Tab\tstop  two"},
+        {"übung ÉCOLE à #ÄTNA", "Übung École À ätna", "Übung ÉCOLE à ÄTNA"},
+        {"&", "", ""},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(NormaliseText(test.raw, proper), test.proper);
+        EXPECT_EQ(NormaliseText(test.raw, asWritten), test.asWritten);
+    }
+}
+
+class NamesTest : public testing::Test {
+protected:
+    NamesTest() {
+        names.SetPath("/p/lang/");
+        names.SetSection("Halvenmoor");
+        names.SetLanguage("Test");
+        names.SetEnabled(true);
+    }
+
+    std::string StartIn(std::string_view file) {
+        program.memory.Put("/p/lang/test.ini", file);
+        return names.ButtonStart();
+    }
+
+    TestProgram program;
+    cNamesClass names{program.core.Services()};
+};
+
+TEST_F(NamesTest, TextsAreFoundInTheLanguageFile) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"[Halvenmoor]\nButtonStart=los\n", "Los"},
+        {"\xEF\xBB\xBF[HALVENMOOR]\r\n \tbuttonSTART = LOS geht's \t\r\n", "Los Geht's"},
+        {"[Halvenmoor]\nButtonStart=gr\xFC\xDF\x65", "Grüße"},
+        {"[Halvenmoor]\nButtonStart=grüße", "Grüße"},
+        {"[Halvenmoor]\nButtonStart=\"1=1\"", "1=1"},
+        {"[Other]\nButtonStart=a\n[Halvenmoor]\n\n;ButtonStart=b\nButtonStart\nButtonStart=c\nButtonStart=d",
+         "C"},
+        {"[Halvenmoor]\nButtonStart=a\n[Halvenmoor]\nButtonStart=b", "A"},
+        {"[Halvenmoor]\nButtonCancel=a\n[Halvenmoor]\nButtonStart=b", "Start"},
+        {"[Halvenmoor]\nButtonStart=\nButtonStart=b", "Start"},
+        {"[Halvenmoor]\nButtonStart=\"&#\"", "Start"},
+        {"[Halvenmoor]\nButtonStarts=a\n[Other]\nButtonStart=b", "Start"},
+        {"ButtonStart=a", "Start"},
+        {"", "Start"},
+    };
+    for (const auto& [file, shown] : cases) EXPECT_EQ(StartIn(file), shown) << file;
+}
+
+TEST_F(NamesTest, ValuesAreCutAt254Characters) {
+    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=" + std::string(255, 'a')), "A" + std::string(253, 'a'));
+    std::string letters;
+    for (int i = 0; i < 127; ++i) letters += "öü";
+    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=x" + letters), "X" + letters.substr(0, 506));
+}
+
+TEST_F(NamesTest, TextsAreReadAnewUntilSwitchedOff) {
+    EXPECT_EQ(names.ButtonStart(), "Start") << "no such file";
+    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=a"), "A");
+    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=b"), "B");
+    program.files.FailCall(3, Failure(failure::FileAccess, "Device I/O error"));
+    EXPECT_EQ(names.ButtonStart(), "Start");
+    names.SetEnabled(false);
+    const int calls = program.files.Calls();
+    EXPECT_EQ(names.ButtonStart(), "Start");
+    EXPECT_EQ(program.files.Calls(), calls) << "the built-in texts need no file";
+}
+
+TEST_F(NamesTest, BuiltInTextsAreEnglish) {
+    names.SetEnabled(false);
+    std::string shown;
+    for (const auto* text : names.Texts()) shown += (*text)() + '|';
+    EXPECT_EQ(names.Texts().size(), 54U);
+    EXPECT_EQ(
+        shown,
+        "Speed Camera|Type|Fixed Speed Camera|Red Speed Camera|Red Light Camera|Section Speed Camera|"
+        "Mobile Speed Camera|Speed Camera Files|Unclassified|Select Language|File Options|Classify Files|"
+        "Reload Files|Rename File|Import Files|Demonstration Mode|Export Cameras|Export|Replace File|"
+        "Save File As|Append To File|Save Results To File|Show Results|Exit|Save As New Speed Camera File|"
+        "Append To Existing Speed Camera File|New|Exporting Speed Cameras|Appending Speed Cameras|"
+        "Export Speed Cameras|Append Speed Cameras|Exported Speed Camera Results|"
+        "Appended Speed Camera Results|Files Processed|Exported Cameras|Appended Cameras|Skipped Cameras|"
+        "All Types|Total Files and Cameras|Close|Show results summary after exporting speed cameras|"
+        "Import Files|Selections|Source Folder|Target Folder|File|Camera|Actions|"
+        "Delete any existing files in target folder, then|"
+        "Convert all OV2 source files to Ascii and save in target folder|"
+        "Convert all TXT source files to Ascii and save in target folder|Start|Cancel|Finish|");
+    EXPECT_EQ(names.LabelTypeDescription(1), "Fixed Speed Camera");
+    EXPECT_EQ(names.LabelTypeDescription(5), "Mobile Speed Camera");
+}
+
+/// Keys and values of the section of a language file.
+std::multimap<std::string, std::string> EntriesOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::multimap<std::string, std::string> entries;
+    bool inSection = false;
+    for (std::string line; std::getline(stream, line);) {
+        if (line.ends_with('\r')) line.pop_back();
+        const std::size_t equals = line.find('=');
+        if (line == "[Halvenmoor]") {
+            inSection = true;
+        } else if (inSection && equals != std::string::npos && !line.starts_with(';')) {
+            entries.emplace(line.substr(0, equals), line.substr(equals + 1));
+        }
+    }
+    return entries;
+}
+
+TEST_F(NamesTest, EveryLanguageThatComesWithTheProgramIsComplete) {
+    std::set<std::string> known;
+    for (const auto* text : names.Texts()) known.emplace(text->Key());
+    EXPECT_EQ(known.size(), 54U);
+    int languages = 0;
+    for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
+        ++languages;
+        std::multiset<std::string> keys;
+        for (const auto& [key, value] : EntriesOf(file)) {
+            keys.insert(key);
+            EXPECT_LE(text::CharacterCount(value), 254U) << key;
+            EXPECT_TRUE(text::IsValidUtf8(value)) << key;
+            EXPECT_NE(NormaliseText(value, asWritten), "") << key;
+        }
+        EXPECT_EQ(keys, std::multiset<std::string>(known.begin(), known.end())) << file.path();
+    }
+    EXPECT_GE(languages, 1);
+}
+
+}  // namespace
+}  // namespace halvenmoor
