@@ -24,19 +24,38 @@ using namespace halvenmoor;
 
 namespace {
 
+/// A camera folder that costs nothing to search, so that the lists alone are measured.
+class ManyCameraFiles : public platform::HostFiles {
+public:
+    explicit ManyCameraFiles(int count) {
+        for (int i = 0; i < count; ++i)
+            names_.push_back("Camera " + std::to_string(i * 7919 % count) + ".asc");
+    }
+
+    void Search(std::string_view, std::string_view extension,
+                const std::function<void(std::string_view)>& found) override {
+        if (extension != ".asc") return;
+        for (const std::string& name : names_) found(name);
+    }
+    bool IsListed(std::string_view) override { return true; }
+    std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view) override { return nullptr; }
+    void Rename(std::string_view, std::string_view) override {}
+
+private:
+    std::vector<std::string> names_;
+};
+
 struct BenchPlatform {
-    explicit BenchPlatform(int entries) {
+    explicit BenchPlatform(int entries) : cameraFiles(entries) {
         files.Put("/p/Settings.ini", "[Type1]\r\n*1.asc\r\n[Type2]\r\n*2.asc\r\n[Type3]\r\n*\r\n");
-        for (int i = 0; i < entries; ++i)
-            files.Put("/p/asc/Camera " + std::to_string(i * 7919 % entries) + ".asc", "");
-        settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
     }
 
     platform::Platform Services() {
-        return {files, files, application, clock, settings, messages, fileDialogs, theme, locale};
+        return {files, cameraFiles, application, clock, settings, messages, fileDialogs, theme, locale};
     }
 
     headless::MemoryFiles files;
+    ManyCameraFiles cameraFiles;
     headless::FixedApplication application{"/p"};
     headless::ManualClock clock;
     headless::MemorySettings settings;
