@@ -25,7 +25,7 @@ TEST(NormaliseTextTest, RemovesMarksAndSetsTheCase) {
         {"\"save &as\"", "Save As", "Save as"},
         {"salt & pepper", "Salt  Pepper", "Salt  pepper"},
         {"one # two", "One Two", "One two"},
-        {"a###b ##c", "AB c", "Ab c"},
+        {"a###b ####c", "AB c", "Ab c"},
         {"#START", "Start", "START"},
         {"\"#\"#of", "Of", "Of"},
         {"rock-and-roll o'neill OV2", "Rock-and-roll O'neill Ov2", "Rock-and-roll o'neill OV2"},
