@@ -9,15 +9,8 @@
 namespace halvenmoor {
 namespace {
 
-struct Split {
-    bool isSound;
-    Strings fields;
-
-    bool operator==(const Split&) const = default;
-    friend void PrintTo(const Split& split, std::ostream* out) {
-        *out << (split.isSound ? "sound" : "not sound") << testing::PrintToString(split.fields);
-    }
-};
+/// Whether the quoting is sound, and the fields.
+using Split = std::pair<bool, Strings>;
 
 Split SplitLine(std::string_view line) {
     FieldList list;
@@ -115,6 +108,13 @@ TEST(PositionTest, MustLieOnTheGlobe) {
     EXPECT_TRUE(IsValid("0.0", "50.25"));
     EXPECT_FALSE(IsValid("5.5", "0.0"));
     EXPECT_FALSE(IsValid("5.5", "-0.000"));
+    // The same in forms that are rare.
+    EXPECT_TRUE(IsValid("0180.0", "-9.0e1"));
+    EXPECT_TRUE(IsValid("-180.00000000000000001", "1.0e-300")) << "as near as a double tells";
+    EXPECT_FALSE(IsValid("0180.5", "50.25"));
+    EXPECT_FALSE(IsValid("5.5", "9.01e1"));
+    EXPECT_FALSE(IsValid("5.5", "0000.0"));
+    EXPECT_FALSE(IsValid("5.5", "1.0e-999"));
 }
 
 TEST(PositionTest, ReadsThePointUnderEveryLocale) {

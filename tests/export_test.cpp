@@ -268,7 +268,7 @@ TEST_F(ExportTest, WindowClosesWhateverFails) {
     EXPECT_TRUE(program.Export());
 }
 
-/// Two camera files and a target to which they were exported once.
+/// Two camera files, an older target, and the results of an export.
 struct ExportedProgram : TestProgram {
     explicit ExportedProgram(int mode) {
         AddCameraFile("a_50", "1.5,52.5,x\n");
@@ -277,6 +277,7 @@ struct ExportedProgram : TestProgram {
         Move(1, {"a_50"});
         Move(2, {"b"});
         EXPECT_TRUE(ExportTo(2, path));
+        memory.Put(path, old);
         Click(Window().OptionExportMode[mode]);
     }
 
@@ -287,21 +288,24 @@ struct ExportedProgram : TestProgram {
     std::string Text() { return TestProgram::Text(path); }
 
     const std::string path = "/p/target.txt";
+    const std::string old = kHeader + "old\r\n";
 };
 
 /// Makes each call of an export fail in turn; the first ones come before the run.
 void FailEachCall(int mode, int callsBefore) {
     const std::string cameras = "1.5,52.5,1,50,0,0\r\n2.5,52.5,2,0,0,0\r\n";
-    const std::string whole = mode == 3 ? kHeader + cameras + cameras : kHeader + cameras;
     const Failure fault(failure::DiskFull, "Disk full");
     constexpr int kCallsOfResultsFile = 15;
     constexpr int kCallsOfMainWindow = 2;  // at its activations, after the run and after the results
 
     ExportedProgram undisturbed(mode);
+    const std::string whole = (mode == 3 ? undisturbed.old : kHeader) + cameras;
     undisturbed.files.FailCall(0, fault);
     EXPECT_TRUE(undisturbed.ExportAgain());
+    EXPECT_EQ(undisturbed.Text(), whole);
     const int calls = undisturbed.files.Calls() - kCallsOfMainWindow;
     ASSERT_GT(calls, callsBefore + kCallsOfResultsFile);
+    int failuresBehindTheLastLine = 0;
     for (int call = 1; call <= calls; ++call) {
         SCOPED_TRACE(call);
         ExportedProgram program(mode);
@@ -314,21 +318,19 @@ void FailEachCall(int mode, int callsBefore) {
         EXPECT_TRUE(program.desktop.Accepts(program.Window()));
         EXPECT_EQ(program.messages.Messages.size(), isBefore && call > 2 ? 1u : 0u);
         const std::string broken = program.Text();
-        EXPECT_TRUE(whole.starts_with(broken)) << broken;
-        EXPECT_TRUE(!isBefore || broken == kHeader + cameras);
-        EXPECT_TRUE(!isFinished || broken == whole);
+        const bool isWhole = broken == whole;
+        EXPECT_TRUE(isFinished ? isWhole : broken == program.old || (!isBefore && whole.starts_with(broken)));
+        if (isWhole && !isFinished) ++failuresBehindTheLastLine;
 
         EXPECT_TRUE(program.ExportAgain());
-        EXPECT_EQ(program.Text(), mode == 3 ? broken + cameras : kHeader + cameras);
+        EXPECT_EQ(program.Text(), (mode == 3 ? broken : kHeader) + cameras);
         EXPECT_EQ(program.ResultsFile(), undisturbed.ResultsFile());
     }
+    EXPECT_EQ(failuresBehindTheLastLine, 3) << "the source's end, its close and the target's close";
 }
 
-TEST(ExportFailureTest, AnyCallMayFailOfSaving) {
+TEST(ExportFailureTest, AnyCallMayFail) {
     FailEachCall(2, 2);
-}
-
-TEST(ExportFailureTest, AnyCallMayFailOfAppending) {
     FailEachCall(3, 6);
 }
 
@@ -423,32 +425,33 @@ Total Files and Cameras.........:            7              1873                
 }
 
 TEST_F(ExportTest, ResultsSpeakTheLanguageAndFollowTheMode) {
-    program.AddLanguage("deutsch",
-                        "LabelSpeedCameraType=Typ\nLabelType1Description=Fester Blitzer\n"
-                        "LabelType2Description=Rotlicht- #und Tempoblitzer\n"
-                        "LabelType3Description=Rotlichtblitzer\nLabelType4Description=Abschnittskontrolle\n"
-                        "LabelType5Description=Mobiler Blitzer\nFrameMainAppended=Ergebnis #des Anhängens\n"
-                        "FrameMainExported=Ergebnis #des Exports\nLabelFilesProcessed=Dateien\n"
-                        "LabelAppendedCameras=Angehängte Blitzer\nLabelExportedCameras=Exportiert\n"
-                        "LabelSkippedCameras=Ausgelassene Blitzer\n"
-                        "LabelTotalFilesAndCameras=Dateien #und Blitzer #gesamt\n");
+    program.AddLanguage(
+        "deutsch",
+        "LabelSpeedCameraType=Typ\nLabelType1Description=Fester Blitzer\n"
+        "LabelType2Description=Rotlicht- #und Tempoblitzer\n"
+        "LabelType3Description=Rotlichtblitzer\nLabelType4Description=Abschnittskontrolle\n"
+        "LabelType5Description=Mobiler Blitzer\nFrameMainAppended=Ergebnis #des Anhängens #an #eine Datei\n"
+        "FrameMainExported=Ergebnis #des Exports\nLabelFilesProcessed=Dateien\n"
+        "LabelAppendedCameras=Angehängte Blitzer\nLabelExportedCameras=Exportiert\n"
+        "LabelSkippedCameras=Ausgelassene Blitzer\n"
+        "LabelTotalFilesAndCameras=Dateien #und Blitzer #gesamt\n");
     program.SetOption("Language", "Deutsch");
     Add(2, "x", "1.5,52.5,x\n1.5,52.5\n");
     Start();
     program.memory.Put("/p/a.txt", kHeader);
     EXPECT_TRUE(program.ExportTo(3, "/p/a.txt"));
     const std::string file = Crlf(R"(
---------------------------------------------------------------------------------------------
-Ergebnis des Anhängens.............:       Dateien  Angehängte Blitzer  Ausgelassene Blitzer
---------------------------------------------------------------------------------------------
-Typ 1 Fester Blitzer...............:         0                   0                     0
-Typ 2 Rotlicht- und Tempoblitzer...:         1                   1                     1
-Typ 3 Rotlichtblitzer..............:         0                   0                     0
-Typ 4 Abschnittskontrolle..........:         0                   0                     0
-Typ 5 Mobiler Blitzer..............:         0                   0                     0
---------------------------------------------------------------------------------------------
-Dateien und Blitzer gesamt.........:         1                   1                     1
---------------------------------------------------------------------------------------------
+------------------------------------------------------------------------------------------------
+Ergebnis des Anhängens an eine Datei...:       Dateien  Angehängte Blitzer  Ausgelassene Blitzer
+------------------------------------------------------------------------------------------------
+Typ 1 Fester Blitzer...................:         0                   0                     0
+Typ 2 Rotlicht- und Tempoblitzer.......:         1                   1                     1
+Typ 3 Rotlichtblitzer..................:         0                   0                     0
+Typ 4 Abschnittskontrolle..............:         0                   0                     0
+Typ 5 Mobiler Blitzer..................:         0                   0                     0
+------------------------------------------------------------------------------------------------
+Dateien und Blitzer gesamt.............:         1                   1                     1
+------------------------------------------------------------------------------------------------
 )");
     EXPECT_EQ(program.ResultsFile(), file);
 

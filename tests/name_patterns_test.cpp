@@ -79,9 +79,10 @@ public:
     std::size_t Below(std::size_t limit) { return random_() % limit; }
 
     std::string Text(std::size_t mostPieces) {
-        static const Strings pieces[] = {{"a", "A", "b", "B", " ", "z"},
-                                         {"a", "B", "\xC3\xB6", "\xC3\x96", "\xC3\xB5", "я", "Я"},
-                                         {"a", "B", "\xF6", "\xD6", "\xC3", "\xB6"}};
+        static const Strings pieces[] = {
+            {"a", "A", "b", "B", " ", "z"},
+            {"a", "B", "\xC3\xB6", "\xC3\x96", "\xC3\xB5", "я", "Я", "σ", "ς", "Σ"},
+            {"a", "B", "\xF6", "\xD6", "\xC3", "\xB6"}};
         const Strings& chosen = pieces[Below(3)];
         std::string text;
         for (std::size_t count = Below(mostPieces + 1); count > 0; --count)
