@@ -38,7 +38,8 @@ void TitledFrame::paintEvent(QPaintEvent*) {
     color.setAlphaF(kBorderStrength);
     painter.setPen(color);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, words.height() / 2 + 0.5, -0.5, -0.5), 2, 2);
+    const QRect border = rect().adjusted(0, words.height() / 2, 0, 0);
+    painter.drawRoundedRect(QRectF(border).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
 }
 
 void FrameView::ShowState() {

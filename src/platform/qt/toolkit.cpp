@@ -33,7 +33,10 @@ std::unique_ptr<forms::View> QtToolkit::CreateView(forms::Form& form) {
 void QtToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {
     if (!form.IsOpen()) return;
     QEventLoop loop;
-    QTimer::singleShot(0, &loop, first);
+    QTimer starter;
+    starter.setSingleShot(true);
+    QObject::connect(&starter, &QTimer::timeout, first);
+    starter.start(0);
     RunUntilHidden(static_cast<FormWindow&>(*form.View()), loop);
 }
 
