@@ -79,18 +79,22 @@ protected:
 
     Log log;
     int clicks = 0;
+    std::string failingText;
     headless::ManualClock clock;
     headless::HeadlessToolkit toolkit{clock};
-    Desktop desktop{toolkit,
-                    [](std::string_view text) { return text::FoldedKey(text, text::WindowsCodePage(1252)); }};
+    Desktop desktop{toolkit, [this](std::string_view text) {
+                        if (!failingText.empty() && text == failingText) throw std::runtime_error("failure");
+                        return text::FoldedKey(text, text::WindowsCodePage(1252));
+                    }};
     TestForm main{desktop, log, {.name = "main", .title = ""}};
     TestForm dialog{desktop, log, {.name = "dialog", .title = "", .keyPreview = true}};
     ListBox list{main, At("list", 4)};
+    ListBox other{main, At("other", 6)};
     ComboBox combo{main, At("combo", 5)};
 };
 
 TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
-    OptionButton option(main, At("option", 6));
+    OptionButton option(main, At("option", 7));
     for (Control* control : main.Controls()) CountClicks(*control);
     combo.AddItem("a");
     list.AddItems({"a"});
@@ -132,8 +136,8 @@ TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
     EXPECT_EQ(combo.Text(), "b");
     list.AddItems({"aa"});
     list.RemoveItem(0);
-    list.TakeItemsIf([this](int i) { return list.Selected(i); });
-    EXPECT_EQ(list.SelCount(), 0);
+    EXPECT_TRUE(list.MoveItemsTo(other, [this](int i) { return list.Selected(i); }));
+    EXPECT_EQ(list.SelCount() + other.SelCount(), 0);
     list.Clear();
     combo.Clear();
     EXPECT_EQ(combo.Text(), "");
@@ -155,8 +159,10 @@ TEST_F(FormsTest, OptionButtonsExcludeEachOtherWithinTheirFrame) {
 }
 
 TEST_F(FormsTest, DisabledOrHiddenControlPassesTheFocusOnInTabOrder) {
-    list.SetEnabled(false);
-    combo.SetEnabled(false);
+    for (Control* control :
+         {static_cast<Control*>(&list), static_cast<Control*>(&other), static_cast<Control*>(&combo)}) {
+        control->SetEnabled(false);
+    }
     ShowMain();
     EXPECT_TRUE(main.first.HasFocus()) << "a label takes no focus";
     main.second.SetFocus();
@@ -264,8 +270,13 @@ TEST_F(FormsTest, KeysReachTheFormOnlyWhereItsDesignSaysSo) {
 }
 
 TEST_F(FormsTest, FailureEndsOnlyItsOwnEvent) {
-    main.OnLoad = main.OnActivate = [] { throw std::runtime_error("failure"); };
+    main.OnActivate = [] { throw std::runtime_error("failure"); };
     ShowMain();
+    dialog.OnLoad = [] { throw std::runtime_error("failure"); };
+    desktop.ShowModal(dialog);
+    EXPECT_EQ(log, (Log{"dialog load", "dialog program?", "main activate"}))
+        << "a form half loaded does not show";
+    log.clear();
     main.second.OnClick = [] { throw 1; };
     main.first.OnClick = [this] {
         main.second.SetValue(true);
@@ -321,19 +332,28 @@ TEST_F(FormsTest, SelectionAndCurrentRowStayWithTheirItems) {
     list.AddItems({"a", "c", "e"});
     EXPECT_EQ(list.ListIndex(), 3);
     EXPECT_TRUE(list.Selected(1) && list.Selected(3) && list.SelCount() == 2);
-    EXPECT_EQ(list.TakeItemsIf([](int i) { return i < 3 || i == 4; }), (Log{"a", "b", "c", "e"}));
+    other.AddItems({"bb", "x"});
+    EXPECT_TRUE(headless::Select(other, {"bb"}));
+    EXPECT_TRUE(list.MoveItemsTo(other, [](int i) { return i < 3 || i == 4; }));
+    EXPECT_EQ(ItemsOf(other), (Log{"a", "b", "bb", "c", "e", "x"}));
+    EXPECT_TRUE(other.ListIndex() == 2 && other.Selected(2) && other.SelCount() == 1);
     EXPECT_EQ(ItemsOf(list), (Log{"d", "f"}));
     EXPECT_EQ(list.ListIndex(), 0);
     EXPECT_TRUE(list.Selected(0) && list.SelCount() == 1);
-    list.TakeItemsIf([](int) { return true; });
+    list.MoveItemsTo(other, [](int) { return true; });
     EXPECT_EQ(list.ListIndex(), -1);
     EXPECT_EQ(list.SelCount(), 0);
 }
 
-TEST_F(FormsTest, FailedTestLeavesTheListAsItWas) {
+TEST_F(FormsTest, FailedMoveOrAddLeavesTheListsAsTheyWere) {
     list.AddItems({"a", "b"});
     const auto failAtSecond = [](int i) { return i == 0 ? true : throw std::runtime_error("failure"); };
-    EXPECT_THROW(list.TakeItemsIf(failAtSecond), std::runtime_error);
+    EXPECT_THROW(list.MoveItemsTo(other, failAtSecond), std::runtime_error);
+    other.AddItems(Log(32766, "x"));
+    EXPECT_THROW(list.MoveItemsTo(other, [](int) { return true; }), std::length_error);
+    EXPECT_EQ(other.ListCount(), 32766);
+    failingText = "c";
+    EXPECT_THROW(list.AddItems({"z", "c"}), std::runtime_error);
     EXPECT_EQ(ItemsOf(list), (Log{"a", "b"}));
 }
 

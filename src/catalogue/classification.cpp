@@ -40,25 +40,26 @@ std::vector<bool> MatchAny(const std::vector<std::u32string>& names, const Patte
 }  // namespace
 
 bool ClassifyFiles(frmMain& window) {
+    const TypeTable<PatternList>& patterns = window.Core().ClassificationSettings->TypeFileNamePatterns();
     bool anyMoved = false;
     for (int type = kFirstType; type <= kLastType; ++type) {
-        const TypeTable<PatternList> patterns = window.Core().ClassificationSettings->TypeFileNamePatterns();
-        anyMoved |= ClassifyFilesOfType(window, patterns[static_cast<std::size_t>(type)],
-                                        static_cast<std::int16_t>(type));
+        const PatternList& ofType = patterns[static_cast<std::size_t>(type)];
+        anyMoved |= ClassifyFilesOfType(window, ofType, static_cast<std::int16_t>(type));
     }
     return anyMoved;
 }
 
 bool ClassifyFilesOfType(frmMain& window, const PatternList& patterns, std::int16_t typeNumber) {
-    if (!window.CheckAuto[typeNumber].Value()) return false;
-    forms::ListBox& source = window.MainList;
-    const text::CodePage& codePage = window.Core().Services().locale.CodePage();
-    const std::vector<bool> matched = MatchAny(FoldedFileNames(source, codePage), patterns, codePage);
-    std::vector<std::string> entries =
-        source.TakeItemsIf([&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
-    if (entries.empty()) return false;
-    window.TypeList[typeNumber].AddItems(std::move(entries));
-    return true;
+    try {
+        if (!window.CheckAuto[typeNumber].Value()) return false;
+        forms::ListBox& source = window.MainList;
+        const text::CodePage& codePage = window.Core().Services().locale.CodePage();
+        const std::vector<bool> matched = MatchAny(FoldedFileNames(source, codePage), patterns, codePage);
+        return source.MoveItemsTo(window.TypeList[typeNumber],
+                                  [&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
+    } catch (const std::exception&) {
+        return false;  // a move is all or nothing
+    }
 }
 
 }  // namespace halvenmoor

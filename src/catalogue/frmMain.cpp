@@ -62,7 +62,7 @@ void frmMain::Load() {
             screen.height * forms::kTwipsPerPixel / 2 - kAboveMiddle * forms::kTwipsPerPixel});
     const platform::Version version = core_.Services().application.Version();
     SetCaption(AtDesign().title + " " + std::to_string(version.major) + "." + std::to_string(version.minor));
-    core_.ExportMode = 1;
+    core_.ExportMode = kReplaceFile;
     LoadStoredOptions();
     core_.ReloadWorkspace();
     UpdateButtons(true);

@@ -39,7 +39,7 @@ void frmMain::ClearListBoxes() {
 
 void frmMain::MoveSelectedItems(forms::ListBox& source, forms::ListBox& target) {
     if (source.SelCount() >= 1) {
-        target.AddItems(source.TakeItemsIf([&source](int i) { return source.Selected(i); }));
+        source.MoveItemsTo(target, [&source](int i) { return source.Selected(i); });
     }
     UpdateButtons(true);
 }

@@ -14,6 +14,11 @@ namespace halvenmoor {
 
 class cNamesClass;
 
+// The values of modMain::ExportMode.
+inline constexpr std::int16_t kReplaceFile = 1;
+inline constexpr std::int16_t kSaveFileAs = 2;
+inline constexpr std::int16_t kAppendToFile = 3;
+
 /// The start of the program, the state that all its rooms share, the folders it works in and its stored
 /// options.
 class modMain {
@@ -31,8 +36,7 @@ public:
     std::string WorkspaceRoot;
     /// What follows the folder words "asc" and "txt" in a path.
     std::string FolderSuffix;
-    /// 1 Replace File, 2 Save File As, 3 Append To File.
-    std::int16_t ExportMode = 1;
+    std::int16_t ExportMode = kReplaceFile;
     /// Refills the lists; set by the owner of the lists.
     std::function<void()> LoadCameraFiles;
 

@@ -104,26 +104,19 @@ std::optional<PlainDegrees> ReadPlainDegrees(std::string_view text) {
     return degrees;
 }
 
-bool IsCoordinateText(std::string_view text, std::string_view decimalSeparator) {
-    if (text.find('.') == std::string_view::npos) return false;
-    std::string local;
-    for (const char character : text) {
-        if (character == '.') {
-            local += decimalSeparator;
-        } else {
-            local += character;
-        }
-    }
-    return text::IsNumericText(local, decimalSeparator);
+/// The point is what the user's decimal separator stands for here: a number with another separator beside the
+/// point, or instead of it, is refused under every locale.
+bool IsCoordinateText(std::string_view text) {
+    return text.find('.') != std::string_view::npos && text::IsNumericText(text, ".");
 }
 
 }  // namespace
 
-bool IsValidPosition(std::string_view x, std::string_view y, std::string_view decimalSeparator) {
+bool IsValidPosition(std::string_view x, std::string_view y) {
     const auto plainX = ReadPlainDegrees(x);
     const auto plainY = ReadPlainDegrees(y);
     if (plainX && plainY) return plainX->IsWithin(180) && plainY->IsWithin(90) && !plainY->IsZero();
-    if (!IsCoordinateText(x, decimalSeparator) || !IsCoordinateText(y, decimalSeparator)) return false;
+    if (!IsCoordinateText(x) || !IsCoordinateText(y)) return false;
     const double latitude = text::LeadingNumber(y);
     return std::fabs(text::LeadingNumber(x)) <= 180.0 && std::fabs(latitude) <= 90.0 && latitude != 0;
 }

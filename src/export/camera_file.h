@@ -37,7 +37,7 @@ struct FieldList {
 bool SplitCameraLine(FieldList& fields, std::string_view& line);
 
 /// Whether the texts are a position: numbers with a point, X from -180 to 180, Y from -90 to 90 and not 0.
-bool IsValidPosition(std::string_view x, std::string_view y, std::string_view decimalSeparator);
+bool IsValidPosition(std::string_view x, std::string_view y);
 
 /// Whether "0.0" stands somewhere in both texts.
 bool IsZeroPosition(std::string_view x, std::string_view y);

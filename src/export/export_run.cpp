@@ -20,7 +20,6 @@ void CountOne(TypeTable<std::int32_t>& table, int type) {
 ExportRun::ExportRun(modExport& exports, std::string_view targetFile)
     : exports_(exports),
       settings_(*exports.Core().ClassificationSettings),
-      decimalSeparator_(exports.Core().Services().locale.DecimalSeparator()),
       files_(exports.Core().Services().fileSystem.CreateFileSystemObject()) {
     if (exports.Core().ExportMode == kAppendToFile) {
         target_ = files_->OpenForAppending(targetFile);
@@ -30,7 +29,7 @@ ExportRun::ExportRun(modExport& exports, std::string_view targetFile)
     target_->WriteLine(kTargetHeader);
 }
 
-void ExportRun::ExportFile(const halvenmoor::ExportFile& file) {
+void ExportRun::Run(const ExportFile& file) {
     const auto source = files_->OpenTextFile(file.path);
     CountOne(exports_.FilesProcessed, file.type);
     for (int type = kFirstType; type <= kLastType; ++type) {
@@ -51,7 +50,7 @@ void ExportRun::ExportLine(std::string_view line, int typeOfList) {
         return;
     }
     const int type = TypeOf(fields[2], typeOfList);
-    if (IsValidPosition(fields[0], fields[1], decimalSeparator_)) {
+    if (IsValidPosition(fields[0], fields[1])) {
         WriteCamera(fields, type);
         CountOne(exports_.CamerasExported, type);
     } else if (!IsZeroPosition(fields[0], fields[1])) {
@@ -63,7 +62,7 @@ int ExportRun::TypeOf(std::string_view cameraName, int typeOfList) {
     if (!namePatterns_) {
         namePatterns_.emplace(settings_.TypeSearchPatterns(), exports_.Core().Services().locale.CodePage());
     }
-    const int type = namePatterns_->NameMatchesAnyPattern(cameraName);
+    const int type = namePatterns_->LowestTypeOf(cameraName);
     return type != 0 ? type : typeOfList;
 }
 

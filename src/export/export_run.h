@@ -23,7 +23,8 @@ public:
     /// Opens the target: for appending, or as a new file with the header line.
     ExportRun(modExport& exports, std::string_view targetFile);
 
-    void ExportFile(const halvenmoor::ExportFile& file);
+    /// Exports the records of one file.
+    void Run(const ExportFile& file);
     void Finish() { target_->Close(); }
 
 private:
@@ -33,7 +34,6 @@ private:
 
     modExport& exports_;
     const cSettingsClass& settings_;
-    const std::string decimalSeparator_;
     const std::unique_ptr<platform::FileSystemObject> files_;
     std::unique_ptr<platform::TextWriter> target_;
     std::optional<NamePatterns> namePatterns_;

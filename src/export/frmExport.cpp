@@ -32,21 +32,23 @@ private:
 }  // namespace
 
 frmExport::frmExport(modExport& exports)
-    : frmExportLayout(exports.Core().Desktop()), exports_(exports), core_(exports.Core()) {
+    : frmExportLayout(exports.Core().Desktop()),
+      exports_(exports),
+      core_(exports.Core()),
+      progressBar_(core_.Services().theme) {
 }
 
 void frmExport::Load() {
     const forms::Point main = core_.MainForm->Position();
     MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
     SetExportCaptions();
-    cProgressBar& bar = progressBar_.emplace(core_.Services().theme);
-    bar.SetPicBox(&picProgress);
-    bar.SetMin(0);
-    bar.SetMax(kFullBar);
-    bar.SetShowText(true);
-    bar.SetFont(picProgress.Font());
-    bar.SetBackColor(forms::kButtonFace);
-    bar.SetBarColor(forms::kHighlight);
+    progressBar_.SetPicBox(&picProgress);
+    progressBar_.SetMin(0);
+    progressBar_.SetMax(kFullBar);
+    progressBar_.SetShowText(true);
+    progressBar_.SetFont(picProgress.Font());
+    progressBar_.SetBackColor(forms::kButtonFace);
+    progressBar_.SetBarColor(forms::kHighlight);
 }
 
 void frmExport::SetExportCaptions() {
@@ -66,7 +68,6 @@ void frmExport::Activate() {
     }
     PaceTimer(true, kHoldMilliseconds);
     WaitForPace();
-    progressBar_.reset();
 }
 
 bool frmExport::RunExport(std::string_view targetFile) {
@@ -80,7 +81,7 @@ bool frmExport::RunExport(std::string_view targetFile) {
         for (std::int16_t i = 0; i < count; ++i) {
             core_.Desktop().Yield();
             ShowFileProgress(static_cast<std::int16_t>(i + 1), count);
-            run.ExportFile(exports_.ExportFileTable[static_cast<std::size_t>(i)]);
+            run.Run(exports_.ExportFileTable[static_cast<std::size_t>(i)]);
         }
         run.Finish();
         return true;
@@ -92,9 +93,9 @@ bool frmExport::RunExport(std::string_view targetFile) {
 
 void frmExport::ShowFileProgress(std::int16_t done, std::int16_t total) {
     WaitForPace();
-    const std::int32_t product = text::CheckedInt32(static_cast<long long>(done) * progressBar_->Max());
+    const std::int32_t product = text::CheckedInt32(static_cast<long long>(done) * progressBar_.Max());
     const double value = static_cast<double>(product) / static_cast<double>(total);
-    progressBar_->SetValue(static_cast<std::int32_t>(text::RoundHalfEven(value)));
+    progressBar_.SetValue(static_cast<std::int32_t>(text::RoundHalfEven(value)));
     PaceTimer(true, 0);
 }
 
@@ -118,9 +119,9 @@ double frmExport::PaceLeft() const {
 void frmExport::WriteResultsFile() const {
     const platform::Platform& services = core_.Services();
     try {
+        const ResultsReport report(exports_);
         const auto file = services.fileSystem.CreateFileSystemObject()->CreateTextFile(core_.ResultsFile());
-        WriteResults(exports_,
-                     [&](const std::string& line) { file->WriteLine(services.locale.ToFileText(line)); });
+        report.Write([&](const std::string& line) { file->WriteLine(services.locale.ToFileText(line)); });
         file->Close();
     } catch (const std::exception&) {
         // The export stays valid without its results file.

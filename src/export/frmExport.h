@@ -5,7 +5,6 @@
 #include "ui/frmExportLayout.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,7 +40,7 @@ private:
     modMain& core_;
     std::string exportFileName_;
     bool exportResultsValid_ = false;
-    std::optional<cProgressBar> progressBar_;
+    cProgressBar progressBar_;
     double paceStart_ = 0;
     double paceDuration_ = 0;
 };

@@ -17,7 +17,6 @@ protected:
 private:
     void LoadShowResultsOption();
     void SetResultsCaptions();
-    void ShowCounters();
 
     const modExport& exports_;
     const modMain& core_;

@@ -11,13 +11,6 @@
 
 namespace halvenmoor {
 
-namespace {
-
-constexpr std::int16_t kReplaceFile = 1;
-constexpr std::int16_t kSaveFileAs = 2;
-
-}  // namespace
-
 void modExport::AttachButtons() {
     mainForm_.ButtonExportCameras.OnClick = [this] { ExportCamerasClicked(); };
     mainForm_.ButtonShowResults.OnClick = [this] { ShowResults(); };
@@ -38,6 +31,8 @@ bool modExport::ExportSpeedCameras(bool& resultsValid) {
     if (!BuildExportFileList()) return false;
     std::string target;
     if (!ChooseTarget(target)) return false;
+    // The dialogs let waiting events in, and one of those may have been an export of its own.
+    if (ExportFileTable.empty()) return false;
     frmExport window(*this);
     window.SetExportFileName(std::move(target));
     core_.Desktop().ShowModal(window);

@@ -13,9 +13,6 @@ namespace halvenmoor {
 /// The first line of a target file.
 inline constexpr std::string_view kTargetHeader = "X,Y,TYPE,SPEED,DirType,Direction";
 
-/// ExportMode of an export that appends.
-inline constexpr std::int16_t kAppendToFile = 3;
-
 /// One camera file of an export.
 struct ExportFile {
     std::string path;

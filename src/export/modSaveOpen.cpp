@@ -17,27 +17,26 @@ platform::FileDialog TargetDialogue(const modMain& core, std::string title, std:
             .defaultExtension = "txt"};
 }
 
-using Question = std::optional<std::string> (platform::FileDialogs::*)(const platform::FileDialog&);
-
-bool Ask(platform::FileDialogs& dialogs, Question question, const platform::FileDialog& dialog,
-         std::string& fileName) {
+bool SaveFileDialogue(platform::FileDialogs& dialogs, const platform::FileDialog& dialog,
+                      std::string& fileName) {
     try {
-        std::optional<std::string> chosen = (dialogs.*question)(dialog);
-        if (chosen) fileName = std::move(*chosen);
+        const std::optional<std::string> chosen = dialogs.AskSavePath(dialog);
+        fileName = chosen.value_or(fileName);
         return chosen.has_value();
     } catch (const std::exception&) {
         return false;
     }
 }
 
-bool SaveFileDialogue(platform::FileDialogs& dialogs, const platform::FileDialog& dialog,
-                      std::string& fileName) {
-    return Ask(dialogs, &platform::FileDialogs::AskSavePath, dialog, fileName);
-}
-
 bool OpenFileDialogue(platform::FileDialogs& dialogs, const platform::FileDialog& dialog,
                       std::string& fileName) {
-    return Ask(dialogs, &platform::FileDialogs::AskOpenPath, dialog, fileName);
+    try {
+        const std::optional<std::string> chosen = dialogs.AskOpenPath(dialog);
+        fileName = chosen.value_or(fileName);
+        return chosen.has_value();
+    } catch (const std::exception&) {
+        return false;
+    }
 }
 
 }  // namespace

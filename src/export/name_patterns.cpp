@@ -12,16 +12,14 @@ namespace halvenmoor {
 namespace {
 
 constexpr char32_t kFirstBeyondAscii = 0x80;
-/// Behind the last letter that has a capital and a small form.
-constexpr char32_t kPastLastLetter = 0x3000;
+constexpr char32_t kSigma = 0x3C3;
+constexpr char32_t kFinalSigma = 0x3C2;
 
 /// The UTF-8 forms of all characters beyond ASCII that are equal to the folded one when case is ignored.
 std::vector<std::string> Spellings(char32_t folded) {
-    std::vector<std::string> spellings{text::EncodeUtf8(std::u32string_view(&folded, 1))};
-    for (char32_t letter = kFirstBeyondAscii; letter < kPastLastLetter; ++letter) {
-        if (letter != folded && text::FoldCase(letter) == folded) {
-            spellings.push_back(text::EncodeUtf8(std::u32string_view(&letter, 1)));
-        }
+    std::vector<std::string> spellings;
+    for (const char32_t letter : {folded, text::UpperCase(folded), folded == kSigma ? kFinalSigma : folded}) {
+        spellings.push_back(text::EncodeUtf8(std::u32string_view(&letter, 1)));
     }
     return spellings;
 }
@@ -118,7 +116,7 @@ int NamePatterns::LowestTypeIn(std::string_view text) const {
     return lowest;
 }
 
-int NamePatterns::NameMatchesAnyPattern(std::string_view name) {
+int NamePatterns::LowestTypeOf(std::string_view name) {
     if (name.empty()) return 0;
     std::string_view utf8 = name;
     // Characters beyond ASCII, in whatever encoding, matter only if a pattern holds one.

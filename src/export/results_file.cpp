@@ -38,23 +38,11 @@ int LabelWidth(const cNamesClass& names) {
     return text::CheckedInt16(width + 4);
 }
 
-/// The three headings; a number stands below each.
-struct Columns {
-    std::string files;
-    std::string cameras;
-    std::string skipped;
-
-    std::string Numbers(std::int32_t fileCount, std::int32_t cameraCount, std::int32_t skippedCount) const {
-        return Cell(files, fileCount, 0) + Cell(cameras, cameraCount, kNumberIndent) +
-               Cell(skipped, skippedCount, kNumberIndent);
-    }
-
-private:
-    static std::string Cell(const std::string& heading, std::int32_t number, int indentBefore) {
-        return Repeated(' ', Length(heading) - kHeadingWidth + indentBefore) +
-               RightAlign(std::to_string(number), kNumberWidth);
-    }
-};
+/// A number below its heading; so far it stands behind the end of the column before.
+std::string Number(const std::string& heading, std::int32_t number, int indentBefore) {
+    return Repeated(' ', Length(heading) - kHeadingWidth + indentBefore) +
+           RightAlign(std::to_string(number), kNumberWidth);
+}
 
 }  // namespace
 
@@ -73,35 +61,44 @@ std::string RightAlign(std::string_view text, int width) {
     return std::string(text.substr(0, static_cast<std::size_t>(width)));
 }
 
-void WriteResults(const modExport& exports, const std::function<void(const std::string&)>& writeLine) {
+ResultsReport::ResultsReport(const modExport& exports) : exports_(exports) {
     const cNamesClass& names = *exports.Core().Names;
     const bool appended = exports.Core().ExportMode == kAppendToFile;
     const int width = LabelWidth(names);
-    const std::string title =
-        DotLeader(appended ? names.FrameMainAppended() : names.FrameMainExported(), width);
-    const Columns columns{
-        ColumnHeading(names.LabelFilesProcessed(), kHeadingWidth),
-        ColumnHeading(appended ? names.LabelAppendedCameras() : names.LabelExportedCameras(), kHeadingWidth),
-        ColumnHeading(names.LabelSkippedCameras(), kHeadingWidth)};
-    const std::string heading = title + columns.files + columns.cameras + columns.skipped;
-    const std::string rule = Repeated('-', Length(heading));
+    title_ = DotLeader(appended ? names.FrameMainAppended() : names.FrameMainExported(), width);
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        typeLabels_[static_cast<std::size_t>(type)] = DotLeader(TypeLabel(names, type), width);
+    }
+    totalsLabel_ = DotLeader(names.LabelTotalFilesAndCameras(), width);
+    files_ = ColumnHeading(names.LabelFilesProcessed(), kHeadingWidth);
+    cameras_ =
+        ColumnHeading(appended ? names.LabelAppendedCameras() : names.LabelExportedCameras(), kHeadingWidth);
+    skipped_ = ColumnHeading(names.LabelSkippedCameras(), kHeadingWidth);
+}
 
+void ResultsReport::Write(const std::function<void(const std::string&)>& writeLine) const {
+    const std::string heading = title_ + files_ + cameras_ + skipped_;
+    const std::string rule = Repeated('-', Length(heading));
     for (const std::string& line : {std::string(), rule, heading, rule}) writeLine(line);
+
     std::int32_t files = 0;
     std::int32_t cameras = 0;
     std::int32_t skipped = 0;
-    for (int type = kFirstType; type <= kLastType; ++type) {
-        const auto index = static_cast<std::size_t>(type);
-        writeLine(DotLeader(TypeLabel(names, type), width) + columns.Numbers(exports.FilesProcessed[index],
-                                                                             exports.CamerasExported[index],
-                                                                             exports.CamerasSkipped[index]));
-        files = text::CheckedAdd(files, exports.FilesProcessed[index]);
-        cameras = text::CheckedAdd(cameras, exports.CamerasExported[index]);
-        skipped = text::CheckedAdd(skipped, exports.CamerasSkipped[index]);
+    for (std::size_t type = kFirstType; type <= kLastType; ++type) {
+        writeLine(typeLabels_[type] + Numbers(exports_.FilesProcessed[type], exports_.CamerasExported[type],
+                                              exports_.CamerasSkipped[type]));
+        files = text::CheckedAdd(files, exports_.FilesProcessed[type]);
+        cameras = text::CheckedAdd(cameras, exports_.CamerasExported[type]);
+        skipped = text::CheckedAdd(skipped, exports_.CamerasSkipped[type]);
     }
     writeLine(rule);
-    writeLine(DotLeader(names.LabelTotalFilesAndCameras(), width) + columns.Numbers(files, cameras, skipped));
+    writeLine(totalsLabel_ + Numbers(files, cameras, skipped));
     writeLine(rule);
+}
+
+std::string ResultsReport::Numbers(std::int32_t files, std::int32_t cameras, std::int32_t skipped) const {
+    return Number(files_, files, 0) + Number(cameras_, cameras, kNumberIndent) +
+           Number(skipped_, skipped, kNumberIndent);
 }
 
 }  // namespace halvenmoor

@@ -18,7 +18,26 @@ std::string ColumnHeading(std::string_view text, int width);
 /// The text at the right end of exactly width characters; a longer one is cut.
 std::string RightAlign(std::string_view text, int width);
 
-/// Hands over the lines of the results file, one by one and in UTF-8, for the counters of the last run.
-void WriteResults(const modExport& exports, const std::function<void(const std::string&)>& writeLine);
+/// The report on the last run. Its texts are fetched when it is made, in the words of the export mode and the
+/// language of that moment.
+class ResultsReport {
+public:
+    explicit ResultsReport(const modExport& exports);
+
+    /// Hands over the lines one by one, in UTF-8. Throws Failure(Overflow) when a total has no 32-bit number.
+    void Write(const std::function<void(const std::string&)>& writeLine) const;
+
+private:
+    std::string Numbers(std::int32_t files, std::int32_t cameras, std::int32_t skipped) const;
+
+    const modExport& exports_;
+    std::string title_;
+    TypeTable<std::string> typeLabels_;
+    std::string totalsLabel_;
+    // The headings of the three columns.
+    std::string files_;
+    std::string cameras_;
+    std::string skipped_;
+};
 
 }  // namespace halvenmoor

@@ -55,10 +55,6 @@ void Control::SetFocus() {
     if (CanTakeFocus()) form_.FocusOn(this);
 }
 
-bool Control::UserCanAct() const {
-    return enabled_ && visible_ && form_.Owner().Accepts(form_);
-}
-
 bool Control::UserFocused() {
     return Deliver([this] { SetFocus(); });
 }
@@ -68,15 +64,22 @@ void Control::Changed() {
 }
 
 void Control::RaiseClick() {
-    Desktop::Raise(OnClick);
+    Desktop::RaiseIfSet(OnClick);
 }
 
-bool Control::Deliver(const std::function<void()>& event) {
+bool Control::Deliver(Event event) {
     return enabled_ && visible_ && form_.Owner().Deliver(form_, event);
 }
 
+bool Control::DeliverWithFocus(Event event) {
+    return Deliver([&] {
+        SetFocus();
+        event();
+    });
+}
+
 bool CommandButton::UserPress() {
-    return Deliver([this] { RaiseClick(); });
+    return DeliverWithFocus([this] { RaiseClick(); });
 }
 
 CheckBox::CheckBox(Form& form, Design design)
@@ -91,7 +94,7 @@ void CheckBox::SetValue(bool value) {
 }
 
 bool CheckBox::UserPress() {
-    return Deliver([this] { SetValue(!value_); });
+    return DeliverWithFocus([this] { SetValue(!value_); });
 }
 
 OptionButton::OptionButton(Form& form, Design design)
@@ -110,7 +113,7 @@ void OptionButton::SetValue(bool value) {
 }
 
 bool OptionButton::UserPress() {
-    return Deliver([this] {
+    return DeliverWithFocus([this] {
         TurnOn();
         RaiseClick();
     });
@@ -125,6 +128,23 @@ void OptionButton::TurnOn() {
     value_ = true;
     Changed();
 }
+
+/// Lets the current row follow its item while others are added.
+class ListBox::KeptRow {
+public:
+    explicit KeptRow(ListBox& list) : list_(list) {
+        if (list.listIndex_ >= 0) text_ = list.List(list.listIndex_);
+    }
+    ~KeptRow() {
+        while (list_.listIndex_ >= 0 && list_.List(list_.listIndex_) != text_) ++list_.listIndex_;
+    }
+    KeptRow(const KeptRow&) = delete;
+    KeptRow& operator=(const KeptRow&) = delete;
+
+private:
+    ListBox& list_;
+    std::string text_;
+};
 
 ListBox::ListBox(Form& form, Design design)
     : Control(form, Kind::ListBox, std::move(design)), items_(form.Owner().ListOrder()) {
@@ -145,15 +165,16 @@ void ListBox::SetSelected(int index, bool selected) {
 }
 
 void ListBox::AddItems(std::vector<std::string> texts) {
-    const std::string current = listIndex_ >= 0 ? List(listIndex_) : std::string();
+    const KeptRow kept(*this);
     ItemsChanged();
     items_.Add(std::move(texts));
-    while (listIndex_ >= 0 && List(listIndex_) != current) ++listIndex_;
 }
 
 void ListBox::RemoveItem(int index) {
-    static_cast<void>(items_.At(index));
-    TakeItemsIf([index](int i) { return i == index; });
+    const bool wasSelected = items_.At(index).selected;
+    ItemsChanged();
+    items_.Remove(index);
+    ItemsGone({index}, wasSelected ? 1 : 0);
 }
 
 void ListBox::Clear() {
@@ -163,26 +184,32 @@ void ListBox::Clear() {
     ItemsChanged();
 }
 
-std::vector<std::string> ListBox::TakeItemsIf(const std::function<bool(int)>& wanted) {
+bool ListBox::MoveItemsTo(ListBox& target, const std::function<bool(int)>& wanted) {
     std::vector<int> positions;
+    int selectedCount = 0;
     for (int i = 0; i < ListCount(); ++i) {
-        if (wanted(i)) positions.push_back(i);
+        if (!wanted(i)) continue;
+        positions.push_back(i);
+        if (Selected(i)) ++selectedCount;
     }
-    if (positions.empty()) return {};
-    std::vector<std::string> texts;
-    texts.reserve(positions.size());
-    for (SortedItems::Item& item : items_.Take(positions)) {
-        if (item.selected) --selCount_;
-        texts.push_back(std::move(item.text));
-    }
+    if (positions.empty()) return false;
+    const KeptRow kept(target);
+    ItemsChanged();
+    target.ItemsChanged();
+    items_.MoveTo(target.items_, positions);
+    ItemsGone(positions, selectedCount);
+    return true;
+}
+
+void ListBox::ItemsGone(const std::vector<int>& positions, int selectedCount) {
+    selCount_ -= selectedCount;
     const auto before = std::lower_bound(positions.begin(), positions.end(), listIndex_) - positions.begin();
     listIndex_ = std::min(listIndex_ - static_cast<int>(before), ListCount() - 1);
-    ItemsChanged();
-    return texts;
 }
 
 bool ListBox::UserSelect(const std::vector<int>& rows, int current) {
-    return Deliver([&] {
+    return DeliverWithFocus([&] {
+        for (const int row : rows) static_cast<void>(items_.At(row));  // fails before anything has changed
         for (int i = 0; i < ListCount(); ++i) items_.At(i).selected = false;
         for (const int row : rows) items_.At(row).selected = true;
         selCount_ = static_cast<int>(rows.size());
@@ -193,16 +220,16 @@ bool ListBox::UserSelect(const std::vector<int>& rows, int current) {
 }
 
 bool ListBox::UserStartDrag() {
-    return Deliver([this] { Desktop::Raise(OnStartDrag); });
+    return Deliver([this] { Desktop::RaiseIfSet(OnStartDrag); });
 }
 
 bool ListBox::UserDrop() {
     if (dropMode_ != DropMode::Manual) return false;
-    return Deliver([this] { Desktop::Raise(OnDragDrop); });
+    return Deliver([this] { Desktop::RaiseIfSet(OnDragDrop); });
 }
 
 bool ListBox::UserCompleteDrag() {
-    return Deliver([this] { Desktop::Raise(OnCompleteDrag); });
+    return Deliver([this] { Desktop::RaiseIfSet(OnCompleteDrag); });
 }
 
 void ListBox::ItemsChanged() {
@@ -241,7 +268,7 @@ void ComboBox::Clear() {
 
 bool ComboBox::UserChoose(int index) {
     if (index < 0 || index >= ListCount()) return false;
-    return Deliver([&] {
+    return DeliverWithFocus([&] {
         const bool same = index == listIndex_;
         SetListIndex(index);
         if (same) RaiseClick();
@@ -249,11 +276,11 @@ bool ComboBox::UserChoose(int index) {
 }
 
 bool ComboBox::UserTyped(std::string text) {
-    return Deliver([&] {
+    return DeliverWithFocus([&] {
         text_ = std::move(text);
         listIndex_ = -1;
         Changed();
-        Desktop::Raise(OnChange);
+        Desktop::RaiseIfSet(OnChange);
     });
 }
 
@@ -272,7 +299,7 @@ Canvas* PictureBox::Canvas() {
 }
 
 bool TextBox::UserTyped(std::string text) {
-    return Deliver([&] { SetCaption(std::move(text)); });
+    return DeliverWithFocus([&] { SetCaption(std::move(text)); });
 }
 
 }  // namespace halvenmoor::forms

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/color.h"
+#include "forms/event.h"
 #include "forms/font.h"
 #include "forms/geometry.h"
 #include "forms/sorted_items.h"
@@ -90,7 +91,6 @@ public:
     std::function<void()> OnGotFocus;
     std::function<void()> OnLostFocus;
 
-    bool UserCanAct() const;
     bool UserFocused();
 
 protected:
@@ -98,7 +98,9 @@ protected:
     void Changed();
     void RaiseClick();
     /// Runs an event of the user; false when the user cannot act on the control.
-    bool Deliver(const std::function<void()>& event);
+    bool Deliver(Event event);
+    /// The same for an action that begins with moving the focus to the control.
+    bool DeliverWithFocus(Event event);
 
 private:
     Form& form_;
@@ -176,13 +178,13 @@ public:
 
     /// Raises the click when the selection changes. Selecting a row makes it the current one.
     void SetSelected(int index, bool selected);
-    /// Items beyond the limit of SortedItems are an error; those before it stay.
+    /// Items beyond the limit of SortedItems are an error; those before it stay. Any other failure adds none.
     void AddItems(std::vector<std::string> texts);
     void RemoveItem(int index);
     void Clear();
-    /// Removes in one pass all items that are wanted, and returns them in their order. The test is called
-    /// for each index before the first item goes, so a test that fails leaves the list as it was.
-    std::vector<std::string> TakeItemsIf(const std::function<bool(int)>& wanted);
+    /// Moves in one pass all items that are wanted to another list, where they are not selected. All or
+    /// nothing: a failure leaves both lists as they were. False when none was wanted.
+    bool MoveItemsTo(ListBox& target, const std::function<bool(int)>& wanted);
 
     DropMode OLEDropMode() const { return dropMode_; }
     void SetOLEDropMode(DropMode mode) { dropMode_ = mode; }
@@ -202,6 +204,9 @@ public:
     std::uint64_t ItemsVersion() const { return itemsVersion_; }
 
 private:
+    class KeptRow;
+
+    void ItemsGone(const std::vector<int>& positions, int selectedCount);
     void ItemsChanged();
 
     SortedItems items_;
@@ -249,8 +254,6 @@ public:
     PictureBox(Form& form, Design design);
 
     const forms::Font& Font() const { return font_; }
-    bool AutoRedraw() const { return autoRedraw_; }
-    void SetAutoRedraw(bool autoRedraw) { autoRedraw_ = autoRedraw; }
     bool Bordered() const { return bordered_; }
     void SetBordered(bool bordered);
     /// The persistent image; none while the window is not open.
@@ -258,7 +261,6 @@ public:
 
 private:
     forms::Font font_;
-    bool autoRedraw_ = false;
     bool bordered_;
 };
 

@@ -25,7 +25,7 @@ void Desktop::Open(Form& form) {
     form.view_ = toolkit_.CreateView(form);
     open_.push_back(&form);
     form.open_ = true;
-    Raise([&form] { form.Load(); });
+    if (!Raise([&form] { form.Load(); })) Close(form, CloseReason::Program);
     if (!Accepts(form)) return;
     if (form.active_ == nullptr) form.PassFocusOn();
     form.view_->Update();
@@ -64,19 +64,24 @@ void Desktop::Yield(double waitSeconds) {
     toolkit_.HandleEvents(waitSeconds);
 }
 
-bool Desktop::Deliver(Form& form, const std::function<void()>& event) {
+bool Desktop::Deliver(Form& form, Event event) {
     if (!Accepts(form)) return false;
     Raise(event);
-    Refresh();
+    Raise([this] { Refresh(); });
     return true;
 }
 
-void Desktop::Raise(const std::function<void()>& handler) noexcept {
+bool Desktop::Raise(Event event) noexcept {
     try {
-        if (handler) handler();
+        event();
+        return true;
     } catch (...) {
-        // What a handler does not catch ends its event, and nothing else.
+        return false;  // what a handler does not catch ends its event, and nothing else
     }
+}
+
+void Desktop::RaiseIfSet(const std::function<void()>& handler) noexcept {
+    if (handler) Raise(handler);
 }
 
 bool Desktop::Accepts(const Form& form) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/event.h"
 #include "forms/form.h"
 #include "forms/sorted_items.h"
 #include "forms/toolkit.h"
@@ -32,9 +33,11 @@ public:
 
     /// Runs an event of a form: only the topmost form takes events. What the event's handlers do not catch
     /// ends here, silently. Afterwards the views are brought up to date.
-    bool Deliver(Form& form, const std::function<void()>& event);
-    /// Runs a handler; a failure that it does not catch ends it silently.
-    static void Raise(const std::function<void()>& handler) noexcept;
+    bool Deliver(Form& form, Event event);
+    /// Runs an event; a failure that it does not catch ends it silently. False if there was one.
+    static bool Raise(Event event) noexcept;
+    /// The same for a handler that may be missing.
+    static void RaiseIfSet(const std::function<void()>& handler) noexcept;
     /// Whether the user can act on the form.
     bool Accepts(const Form& form) const;
 

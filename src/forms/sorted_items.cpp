@@ -29,19 +29,24 @@ int SortedItems::Add(std::string text) {
 }
 
 void SortedItems::Add(std::vector<std::string> texts) {
-    const auto room = static_cast<std::size_t>(kMaxCount - Count());
-    const std::size_t fitting = std::min(room, texts.size());
-    const auto oldCount = static_cast<std::ptrdiff_t>(items_.size());
-    items_.reserve(items_.size() + fitting);
+    const std::size_t fitting = std::min(static_cast<std::size_t>(kMaxCount - Count()), texts.size());
+    std::vector<Item> added;
+    added.reserve(fitting);
     for (std::size_t i = 0; i < fitting; ++i) {
         std::string key = sortKey_(texts[i]);
-        items_.push_back({std::move(texts[i]), std::move(key)});
+        added.push_back({std::move(texts[i]), std::move(key)});
     }
-    // Items that come from another list are in order already.
-    const auto added = items_.begin() + oldCount;
-    if (!std::is_sorted(added, items_.end(), StandsBefore)) std::sort(added, items_.end(), StandsBefore);
-    std::inplace_merge(items_.begin(), added, items_.end(), StandsBefore);
+    std::sort(added.begin(), added.end(), StandsBefore);
+    Merge(RoomFor(added.size()), added);
     if (fitting < texts.size()) FailFull();
+}
+
+/// Adds items that are in order. With room prepared for all items nothing can fail.
+void SortedItems::Merge(std::vector<Item> room, std::vector<Item>& added) {
+    std::merge(std::make_move_iterator(items_.begin()), std::make_move_iterator(items_.end()),
+               std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()),
+               std::back_inserter(room), StandsBefore);
+    items_.swap(room);
 }
 
 void SortedItems::Remove(int index) {
@@ -49,13 +54,17 @@ void SortedItems::Remove(int index) {
     items_.erase(items_.begin() + index);
 }
 
-std::vector<SortedItems::Item> SortedItems::Take(const std::vector<int>& positions) {
+void SortedItems::MoveTo(SortedItems& target, const std::vector<int>& positions) {
+    if (static_cast<std::size_t>(kMaxCount - target.Count()) < positions.size()) FailFull();
+    std::vector<Item> room = target.RoomFor(positions.size());
     std::vector<Item> taken;
     taken.reserve(positions.size());
+    // From here on nothing fails.
     auto next = positions.begin();
     std::size_t kept = 0;
     for (std::size_t i = 0; i < items_.size(); ++i) {
         if (next != positions.end() && static_cast<std::size_t>(*next) == i) {
+            items_[i].selected = false;
             taken.push_back(std::move(items_[i]));
             ++next;
         } else {
@@ -63,8 +72,14 @@ std::vector<SortedItems::Item> SortedItems::Take(const std::vector<int>& positio
             ++kept;
         }
     }
-    items_.resize(kept);
-    return taken;
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(kept), items_.end());
+    target.Merge(std::move(room), taken);
+}
+
+std::vector<SortedItems::Item> SortedItems::RoomFor(std::size_t addedCount) const {
+    std::vector<Item> room;
+    room.reserve(items_.size() + addedCount);
+    return room;
 }
 
 }  // namespace halvenmoor::forms

@@ -30,14 +30,19 @@ public:
 
     /// Adds the text and returns its position. Throws std::length_error when the list is full.
     int Add(std::string text);
-    /// Adds all texts with one sort. Throws std::length_error when the list is full; what fitted stays.
+    /// Adds all texts with one sort. Throws std::length_error when the list is full; what fitted stays. Any
+    /// other failure adds none.
     void Add(std::vector<std::string> texts);
     void Remove(int index);
-    /// Removes the items at these ascending positions in one pass and returns them.
-    std::vector<Item> Take(const std::vector<int>& positions);
+    /// Moves the items at these ascending positions to another list of the same order, unselected. All or
+    /// nothing. Throws std::length_error when that list would have too many.
+    void MoveTo(SortedItems& target, const std::vector<int>& positions);
     void Clear() { items_.clear(); }
 
 private:
+    std::vector<Item> RoomFor(std::size_t addedCount) const;
+    void Merge(std::vector<Item> room, std::vector<Item>& added);
+
     SortKey sortKey_;
     std::vector<Item> items_;
 };

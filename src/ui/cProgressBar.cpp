@@ -18,7 +18,6 @@ std::int32_t Difference(std::int32_t a, std::int32_t b) {
 
 void cProgressBar::SetPicBox(forms::PictureBox* box) {
     if (box == nullptr) return;
-    box->SetAutoRedraw(true);
     box->SetBordered(false);
     picBox_ = box;
 }

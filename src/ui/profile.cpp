@@ -15,8 +15,12 @@ std::string_view WithoutWhiteSpace(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-bool IsHeader(std::string_view line) {
-    return line.size() >= 2 && line.front() == '[' && line.back() == ']';
+/// The section that a header line names; what follows the bracket is a remark.
+std::optional<std::string_view> HeaderName(std::string_view line) {
+    if (line.empty() || line.front() != '[') return std::nullopt;
+    const std::size_t closing = line.find(']');
+    if (closing == std::string_view::npos) return std::nullopt;
+    return WithoutWhiteSpace(line.substr(1, closing - 1));
 }
 
 std::string ShownValue(std::string_view bytes, const text::CodePage& codePage) {
@@ -27,10 +31,8 @@ std::string ShownValue(std::string_view bytes, const text::CodePage& codePage) {
 
 bool SkipToSection(platform::TextReader& file, std::string_view section) {
     while (!file.AtEndOfStream()) {
-        const std::string_view line = WithoutWhiteSpace(file.ReadLine());
-        if (!IsHeader(line)) continue;
-        const std::string_view name = WithoutWhiteSpace(line.substr(1, line.size() - 2));
-        if (text::EqualIgnoringAsciiCase(name, section)) return true;
+        const auto name = HeaderName(WithoutWhiteSpace(file.ReadLine()));
+        if (name && text::EqualIgnoringAsciiCase(*name, section)) return true;
     }
     return false;
 }
@@ -39,7 +41,7 @@ std::optional<std::string> FindValue(platform::TextReader& file, std::string_vie
                                      const text::CodePage& codePage) {
     while (!file.AtEndOfStream()) {
         const std::string_view line = WithoutWhiteSpace(file.ReadLine());
-        if (IsHeader(line)) return std::nullopt;
+        if (HeaderName(line)) return std::nullopt;
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos) continue;
         if (!text::EqualIgnoringAsciiCase(WithoutWhiteSpace(line.substr(0, equals)), key)) continue;

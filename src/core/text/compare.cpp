@@ -65,10 +65,6 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b, const CodePage& p
     return EqualToTheEnd(readerA, readerB);
 }
 
-bool EndsWithIgnoringCase(std::string_view bytes, std::string_view ending, const CodePage& page) noexcept {
-    return WithoutEnding(bytes, ending, page).has_value();
-}
-
 std::optional<std::string_view> WithoutEnding(std::string_view bytes, std::string_view ending,
                                               const CodePage& page) noexcept {
     const std::size_t count = CharacterCount(bytes);

@@ -23,8 +23,6 @@ std::u32string FoldedCharacters(std::string_view bytes, const CodePage& page);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b, const CodePage& page) noexcept;
 
-bool EndsWithIgnoringCase(std::string_view bytes, std::string_view ending, const CodePage& page) noexcept;
-
 /// The text without its ending; nothing when it ends otherwise. An empty ending is found in every text.
 std::optional<std::string_view> WithoutEnding(std::string_view bytes, std::string_view ending,
                                               const CodePage& page) noexcept;

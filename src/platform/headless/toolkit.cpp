@@ -13,6 +13,11 @@ constexpr double kShortestTurn = 1e-6;
 
 }  // namespace
 
+void HeadlessView::Show() {
+    isShown_ = true;
+    form_.Painted();
+}
+
 void HeadlessView::Update() {
     if (const auto move = form_.TakeMove()) position_ = *move;
     form_.TakeChanges();

@@ -17,7 +17,7 @@ class HeadlessView : public forms::View {
 public:
     explicit HeadlessView(forms::Form& form) : form_(form) {}
 
-    void Show() override { isShown_ = true; }
+    void Show() override;
     void Hide() override { isShown_ = false; }
     void Update() override;
     forms::Point Position() const override { return position_; }
