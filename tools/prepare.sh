@@ -19,7 +19,7 @@ need() {
         exit 1
     fi
     echo "Installing:$missing"
-    $as_root apt-get update -q
+    $as_root apt-get update -q || true # the packages may be there all the same
     $as_root $install
 }
 
@@ -28,9 +28,12 @@ private_runtime_folder() {
     if [ -z "${XDG_RUNTIME_DIR:-}" ] || [ ! -w "${XDG_RUNTIME_DIR:-}" ]; then
         XDG_RUNTIME_DIR=${TMPDIR:-/tmp}/halvenmoor-runtime-$(id -u)
         mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+        # Somebody else's folder of this name is none of ours.
+        [ -O "$XDG_RUNTIME_DIR" ] || XDG_RUNTIME_DIR=$(mktemp -d)
+        chmod 700 "$XDG_RUNTIME_DIR"
         export XDG_RUNTIME_DIR
     fi
 }
 
 BUILD_PACKAGES="g++ cmake ninja-build"
-QT_PACKAGES="qt6-base-dev qt6-svg-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core"
+QT_PACKAGES="qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core"

@@ -7,7 +7,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <optional>
 
 namespace halvenmoor::text {
 namespace {
@@ -144,33 +143,6 @@ double ReadDecimal(Cursor& cursor) {
     return isNegative ? -decimal.Value() : decimal.Value();
 }
 
-/// The value of a short decimal without exponent and white space, which is what nearly all positions are;
-/// nothing for any other text.
-std::optional<double> PlainDecimal(std::string_view text) {
-    // Up to 15 digits and these powers of ten are exact in a double, so one division rounds correctly.
-    constexpr std::size_t mostCharacters = 16;
-    constexpr double powersOfTen[mostCharacters] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    const bool isNegative = text.starts_with('-');
-    if (isNegative) text.remove_prefix(1);
-    if (text.size() > mostCharacters) return std::nullopt;
-
-    long long digits = 0;
-    const char* point = nullptr;
-    for (const char& character : text) {
-        if (IsDigit(character)) {
-            digits = digits * 10 + (character - '0');
-        } else if (character == '.' && point == nullptr) {
-            point = &character;
-        } else {
-            return std::nullopt;
-        }
-    }
-    const auto places = point == nullptr ? 0 : text.data() + text.size() - point - 1;
-    const double number = static_cast<double>(digits) / powersOfTen[places];
-    return isNegative ? -number : number;
-}
-
 std::size_t SkipDigits(std::string_view& text) {
     std::size_t count = 0;
     while (count < text.size() && IsDigit(text[count])) ++count;
@@ -185,7 +157,6 @@ void SkipSign(std::string_view& text) {
 }  // namespace
 
 double LeadingNumber(std::string_view text) noexcept {
-    if (const auto plain = PlainDecimal(text)) return *plain;
     Cursor cursor(text);
     if (!cursor.Accept('&')) return ReadDecimal(cursor);
     if (cursor.Accept('H') || cursor.Accept('h')) return ReadBased(cursor, 16);
