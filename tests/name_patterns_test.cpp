@@ -20,7 +20,7 @@ Patterns Lists(Strings one, Strings two = {}, Strings three = {}, Strings four =
 }
 
 int TypeOf(std::string_view name, const Patterns& patterns) {
-    return NamePatterns(patterns, kPage).LowestTypeOf(name);
+    return NamePatterns(patterns, kPage).NameMatchesAnyPattern(name);
 }
 
 TEST(NamePatternsTest, FindsTextsAnywhereIgnoringCase) {
@@ -111,7 +111,7 @@ TEST(NamePatternsTest, AgreesWithASlowSearch) {
         NamePatterns matcher(patterns, kPage);
         for (int i = 0; i < 20; ++i) {
             const std::string name = texts.Text(12);
-            const int type = matcher.LowestTypeOf(name);
+            const int type = matcher.NameMatchesAnyPattern(name);
             ASSERT_EQ(type, SlowTypeOf(name, patterns))
                 << testing::PrintToString(name) << testing::PrintToString(patterns);
             ++results[static_cast<std::size_t>(type)];

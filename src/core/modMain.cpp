@@ -15,7 +15,7 @@ constexpr std::string_view kSettingsSection = "Settings";
 
 void modMain::Main(const FormMaker& makeMainForm) {
     if (platform_.application.PreviousInstance()) {
-        platform_.application.RaisePreviousInstance();
+        platform_.application.ActivatePreviousInstance();
         return;
     }
     MainForm = makeMainForm();

@@ -62,7 +62,7 @@ int ExportRun::TypeOf(std::string_view cameraName, int typeOfList) {
     if (!namePatterns_) {
         namePatterns_.emplace(settings_.TypeSearchPatterns(), exports_.Core().Services().locale.CodePage());
     }
-    const int type = namePatterns_->LowestTypeOf(cameraName);
+    const int type = namePatterns_->NameMatchesAnyPattern(cameraName);
     return type != 0 ? type : typeOfList;
 }
 

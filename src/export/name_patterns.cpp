@@ -116,7 +116,7 @@ int NamePatterns::LowestTypeIn(std::string_view text) const {
     return lowest;
 }
 
-int NamePatterns::LowestTypeOf(std::string_view name) {
+int NamePatterns::NameMatchesAnyPattern(std::string_view name) {
     if (name.empty()) return 0;
     std::string_view utf8 = name;
     // Characters beyond ASCII, in whatever encoding, matter only if a pattern holds one.

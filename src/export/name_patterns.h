@@ -26,7 +26,7 @@ public:
 
     /// The lowest type of which a pattern is found in the name, 0 when there is none. An empty pattern is
     /// found in every name that is not empty.
-    int LowestTypeOf(std::string_view name);
+    int NameMatchesAnyPattern(std::string_view name);
 
 private:
     static constexpr int kNoType = kLastType + 1;

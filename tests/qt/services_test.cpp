@@ -166,7 +166,7 @@ TEST_F(Window, IsRaisedAndRestored) {
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);
-    second.RaisePreviousInstance();
+    second.ActivatePreviousInstance();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Root().isMinimized(); }));
     EXPECT_EQ(first.ProgramFolder(), QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString());
     EXPECT_EQ(first.Version().major, 3);

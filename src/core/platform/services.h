@@ -28,7 +28,7 @@ public:
     /// Whether another instance of this program was running for this user at the start.
     virtual bool PreviousInstance() = 0;
     /// Brings the other instance's window to the front, restored. Says nothing when there is none.
-    virtual void RaisePreviousInstance() = 0;
+    virtual void ActivatePreviousInstance() = 0;
     /// The folder of the executable, without a separator at its end.
     virtual std::string ProgramFolder() const = 0;
     /// What stands between the folders of a path.

@@ -20,7 +20,7 @@ public:
     int RaisedPreviousInstance = 0;
 
     bool PreviousInstance() override { return HasPreviousInstance; }
-    void RaisePreviousInstance() override { ++RaisedPreviousInstance; }
+    void ActivatePreviousInstance() override { ++RaisedPreviousInstance; }
     std::string ProgramFolder() const override { return programFolder_; }
     char Separator() const override { return '/'; }
     platform::Version Version() const override { return kVersion; }

@@ -27,7 +27,7 @@ public:
     explicit QtApplication(const QString& runtimeFolder = InstanceGuard::RuntimeFolder());
 
     bool PreviousInstance() override { return !guard_.IsFirst(); }
-    void RaisePreviousInstance() override { guard_.RaiseOther(); }
+    void ActivatePreviousInstance() override { guard_.RaiseOther(); }
     std::string ProgramFolder() const override;
     char Separator() const override { return '/'; }
     platform::Version Version() const override;
