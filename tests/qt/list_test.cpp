@@ -80,6 +80,7 @@ TEST_F(Lists, TakeTwentyThousandItemsAtOnce) {
     form.left.AddItems(std::move(items));
     desktop.Yield();
     EXPECT_EQ(Left().model()->rowCount(), 20005);
+    ClickRow(0);
     Left().verticalScrollBar()->setValue(700);
     EXPECT_EQ(form.left.TopIndex(), 700);
     form.left.RemoveItem(20004);

@@ -113,6 +113,9 @@ TEST(Settings, LastAndNeverFail) {
         QtSettings settings(folder.path() + "/new");
         EXPECT_EQ(read(settings, "Name"), "default");
         settings.SaveSetting("App", "Section", "Name", "\xc3\x9c, \"x\" @1");
+        QFile file(folder.path() + "/new/halvenmoor.ini");
+        ASSERT_TRUE(file.open(QFile::ReadOnly)) << "stored at once";
+        EXPECT_TRUE(file.readAll().contains("Name="));
         settings.SaveSetting("App", "Section", "Empty", "");
         settings.SaveSetting("App", "Other", "Name", "other");
     }

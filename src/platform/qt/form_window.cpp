@@ -140,8 +140,6 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
-    if (painting_) return;
-    const QScopedValueRollback<bool> guard(painting_, true);
     form_.Painted();
 }
 

@@ -47,8 +47,8 @@ private:
     const text::CodePage& page_;
     std::unordered_map<const forms::Control*, std::unique_ptr<ControlView>> views_;
     std::function<void()> onHidden_;
+    /// What moves now was moved by the program.
     bool updating_ = false;
-    bool painting_ = false;
 };
 
 /// The program's topmost window; none before the first one shows.

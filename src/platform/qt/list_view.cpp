@@ -62,7 +62,7 @@ void ListWidget::ShowState() {
     }
     ShowSelection();
     ShowCurrentRow();
-    verticalScrollBar()->setValue(top);
+    verticalScrollBar()->setValue(top);  // the current row has scrolled into view
     selectionChanged_ = false;
 }
 
@@ -88,9 +88,7 @@ void ListWidget::ShowSelection() {
 
 void ListWidget::ShowCurrentRow() {
     if (currentIndex().row() == list_->ListIndex()) return;
-    setAutoScroll(false);
     selectionModel()->setCurrentIndex(rows_->index(list_->ListIndex()), QItemSelectionModel::NoUpdate);
-    setAutoScroll(true);
 }
 
 std::vector<int> ListWidget::SelectedRows() const {
