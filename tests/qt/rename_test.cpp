@@ -30,6 +30,11 @@ protected:
         return {List().viewport()->mapToGlobal(place.topLeft()), place.size()};
     }
 
+    /// Windows become active one after the other.
+    static bool GetsFocus(const QWidget& widget) {
+        return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
+    }
+
     /// Scrolls the list, clicks the row and the button, and acts in the dialog, which closes in any case.
     void Rename(int topRow, int row, const std::function<void(QWidget& dialog, QLineEdit& field)>& action) {
         List().verticalScrollBar()->setValue(topRow);
@@ -40,14 +45,16 @@ protected:
             QWidget* const dialog = QApplication::activeModalWidget();
             ASSERT_NE(dialog, nullptr);
             opened = true;
-            EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
-            action(*dialog, *dialog->findChild<QLineEdit*>("TextFileName"));
+            auto& field = *dialog->findChild<QLineEdit*>("TextFileName");
+            EXPECT_TRUE(GetsFocus(field));
+            action(*dialog, field);
             if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
             EXPECT_FALSE(dialog->isVisible());
         });
         QTest::mouseClick(Main().findChild<QWidget*>("ButtonRenameFile"), Qt::LeftButton);
         EXPECT_TRUE(opened);
-        EXPECT_EQ(QApplication::focusWidget(), &List());
+        Main().activateWindow();  // as a window manager does
+        EXPECT_TRUE(GetsFocus(List()));
     }
 
     headless::MemoryFiles memory;
@@ -85,7 +92,6 @@ TEST_F(RenameWindow, RenamesByKeysAlone) {
     Rename(40, 45, [](QWidget& dialog, QLineEdit& field) {
         EXPECT_EQ(dialog.windowTitle(), "Rename File");
         EXPECT_EQ(field.selectedText(), "camera 55");
-        EXPECT_EQ(QApplication::focusWidget(), &field);
         QTest::keyClicks(&field, "auto");
         EXPECT_EQ(field.text(), "auto") << "typing replaces the name";
         QTest::keyClick(&field, Qt::Key_Enter, Qt::KeypadModifier);
