@@ -2,6 +2,7 @@
 
 #include "catalogue/frmMain.h"
 #include "core/text/compare.h"
+#include "ui/frmRename.h"
 
 #include <memory>
 #include <string>
@@ -25,8 +26,16 @@ void Program::Start() {
         auto window = std::make_unique<frmMain>(core_);
         exports_.emplace(*window);
         exports_->AttachButtons();
+        AttachRename(*window);
         return window;
     });
+}
+
+void Program::AttachRename(frmMain& window) {
+    window.ButtonRenameFile.OnClick = [this, &list = window.MainList] {
+        RenameSelectedFile(core_, list);
+        list.SetFocus();
+    };
 }
 
 frmMain& Program::MainForm() {

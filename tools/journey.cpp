@@ -16,6 +16,7 @@
 #include "platform/headless/toolkit.h"
 #include "platform/headless/user.h"
 #include "program.h"
+#include "ui/frmRename.h"
 
 #include <cstdio>
 #include <iostream>
@@ -72,6 +73,7 @@ public:
         if (word == "reload") return OkIf(Window().ButtonReloadFiles.UserPress());
         if (word == "save-results") return Set(Window().CheckSaveResults, rest);
         if (word == "export") return Export(rest);
+        if (word == "rename") return Rename(rest);
         if (word == "lists") return PrintLists();
         if (word == "results") return PrintResults();
         return Outcome::NotUnderstood;
@@ -145,6 +147,23 @@ private:
         platform_.toolkit.ForgetScript();
         platform_.fileDialogs.Answers.clear();
         return OkIf(resultsShown);
+    }
+
+    /// The old and the new name, with a tab between them.
+    Outcome Rename(const std::string& names) {
+        const std::size_t tab = names.find('\t');
+        if (tab == std::string::npos) return Outcome::NotUnderstood;
+        const std::string oldName = names.substr(0, tab);
+        const std::string newName = names.substr(tab + 1);
+        platform_.toolkit.Script([&newName](forms::Form& form) {
+            auto& dialog = static_cast<frmRename&>(form);
+            dialog.TextFileName.UserTyped(newName);
+            dialog.ButtonRename.UserPress();
+            dialog.UserEscape();  // a refused name leaves it open
+        });
+        const bool pressed = headless::Select(List(0), {oldName}) && Window().ButtonRenameFile.UserPress();
+        platform_.toolkit.ForgetScript();
+        return OkIf(pressed && headless::IndexOf(List(0), oldName) < 0);
     }
 
     Outcome PrintLists() {

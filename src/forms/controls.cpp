@@ -154,14 +154,27 @@ int ListBox::TopIndex() const {
     return Owner().View() ? Owner().View()->TopIndex(*this) : 0;
 }
 
+Twips ListBox::RowHeight() const {
+    return Owner().View() ? Owner().View()->RowHeight(*this) : 0;
+}
+
 void ListBox::SetSelected(int index, bool selected) {
     SortedItems::Item& item = items_.At(index);
     if (item.selected == selected) return;
     item.selected = selected;
     selCount_ += selected ? 1 : -1;
-    if (selected) listIndex_ = index;
+    if (selected) {
+        listIndex_ = index;
+        mustScroll_ = true;
+    }
     Changed();
     RaiseClick();
+}
+
+int ListBox::AddItem(std::string text) {
+    const KeptRow kept(*this);
+    ItemsChanged();
+    return items_.Add(std::move(text));
 }
 
 void ListBox::AddItems(std::vector<std::string> texts) {
@@ -296,6 +309,11 @@ void PictureBox::SetBordered(bool bordered) {
 
 Canvas* PictureBox::Canvas() {
     return Owner().View() ? &Owner().View()->Canvas(*this) : nullptr;
+}
+
+void TextBox::SelectAll() {
+    mustSelect_ = true;
+    Changed();
 }
 
 bool TextBox::UserTyped(std::string text) {

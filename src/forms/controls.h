@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace halvenmoor::forms {
@@ -175,9 +176,16 @@ public:
     int ListIndex() const { return listIndex_; }
     /// The first row that shows; 0 while the window is not open.
     int TopIndex() const;
+    /// 0 while the window is not open.
+    Twips RowHeight() const;
 
-    /// Raises the click when the selection changes. Selecting a row makes it the current one.
+    /// Raises the click when the selection changes. Selecting a row makes it the current one and scrolls to
+    /// it.
     void SetSelected(int index, bool selected);
+    /// Whether the current row has to scroll into view since the last call.
+    bool TakeScroll() { return std::exchange(mustScroll_, false); }
+    /// Returns the row that the item gets. Fails as AddItems does.
+    int AddItem(std::string text);
     /// Items beyond the limit of SortedItems are an error; those before it stay. Any other failure adds none.
     void AddItems(std::vector<std::string> texts);
     void RemoveItem(int index);
@@ -212,6 +220,7 @@ private:
     SortedItems items_;
     int selCount_ = 0;
     int listIndex_ = -1;
+    bool mustScroll_ = false;
     DropMode dropMode_ = DropMode::None;
     std::uint64_t itemsVersion_ = 0;
 };
@@ -270,8 +279,15 @@ public:
 
     const std::string& Text() const { return Caption(); }
     void SetText(std::string text) { SetCaption(std::move(text)); }
+    /// Selects the whole text, so that typing replaces it.
+    void SelectAll();
+    /// Whether the text has to be selected since the last call.
+    bool TakeSelectAll() { return std::exchange(mustSelect_, false); }
 
     bool UserTyped(std::string text);
+
+private:
+    bool mustSelect_ = false;
 };
 
 /// Controls of one kind with an index, as TypeList(1) to TypeList(5).

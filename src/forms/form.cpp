@@ -23,6 +23,10 @@ Point Form::Position() const {
     return view_ && !moved_ ? view_->Position() : position_;
 }
 
+FrameMetrics Form::Frame() const {
+    return view_ ? view_->Frame() : FrameMetrics();
+}
+
 void Form::MoveTo(Point position) {
     position_ = position;
     moved_ = true;

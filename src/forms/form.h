@@ -43,6 +43,8 @@ public:
     /// Where the window's corner really is, also after the user has moved it.
     Point Position() const;
     void MoveTo(Point position);
+    /// What surrounds the windows of this window system; nothing before this one is built.
+    FrameMetrics Frame() const;
     /// Where the program moved the window since the last call.
     std::optional<Point> TakeMove();
     /// From its loading until it closes.

@@ -34,6 +34,15 @@ struct PixelRect {
     int bottom = 0;
 };
 
+/// What a window system draws around the client area of a window that is fixed in size, in pixels.
+struct FrameMetrics {
+    int frameWidth = 0;
+    int frameHeight = 0;
+    int captionHeight = 0;
+    /// The caption of a tool window.
+    int smallCaptionHeight = 0;
+};
+
 /// A point in pixels.
 struct PixelPoint {
     int x = 0;

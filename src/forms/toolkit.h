@@ -24,7 +24,9 @@ public:
     /// that it sets may come back as an action of the user.
     virtual void Update() = 0;
     virtual Point Position() const = 0;
+    virtual FrameMetrics Frame() const = 0;
     virtual int TopIndex(const ListBox& list) const = 0;
+    virtual Twips RowHeight(const ListBox& list) const = 0;
     /// The canvas lives as long as the view.
     virtual forms::Canvas& Canvas(PictureBox& box) = 0;
 };

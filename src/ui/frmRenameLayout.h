@@ -4,7 +4,7 @@
 
 namespace halvenmoor {
 
-/// The controls of the small window in which a file is renamed. PicBox is hidden; it measures text.
+/// The controls of the small window in which a file is renamed. PicBox stays hidden.
 class frmRenameLayout : public forms::Form {
 public:
     explicit frmRenameLayout(forms::Desktop& desktop)

@@ -12,7 +12,7 @@
 
 namespace halvenmoor::headless {
 
-/// A view without a window. Its form stands where the program put it, at its first rows.
+/// A view without a window. Its form stands where the program put it.
 class HeadlessView : public forms::View {
 public:
     explicit HeadlessView(forms::Form& form) : form_(form) {}
@@ -21,10 +21,16 @@ public:
     void Hide() override { isShown_ = false; }
     void Update() override;
     forms::Point Position() const override { return position_; }
-    int TopIndex(const forms::ListBox&) const override { return 0; }
+    forms::FrameMetrics Frame() const override {
+        return {.frameWidth = 3, .frameHeight = 4, .captionHeight = 22, .smallCaptionHeight = 17};
+    }
+    int TopIndex(const forms::ListBox&) const override { return TopRow; }
+    forms::Twips RowHeight(const forms::ListBox&) const override { return 13 * forms::kTwipsPerPixel; }
     forms::Canvas& Canvas(forms::PictureBox& box) override;
 
     bool IsShown() const { return isShown_; }
+    /// The first row that its lists show: the user scrolled.
+    int TopRow = 0;
 
 private:
     forms::Form& form_;

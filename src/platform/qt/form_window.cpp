@@ -98,8 +98,23 @@ forms::Point FormWindow::Position() const {
     return {pos().x() * forms::kTwipsPerPixel, pos().y() * forms::kTwipsPerPixel};
 }
 
+forms::FrameMetrics FormWindow::Frame() const {
+    const QRect outside = frameGeometry();
+    const QRect inside = geometry();
+    const int frameHeight = outside.bottom() - inside.bottom();
+    const int captionHeight = inside.top() - outside.top() - frameHeight;
+    return {.frameWidth = inside.left() - outside.left(),
+            .frameHeight = frameHeight,
+            .captionHeight = captionHeight,
+            .smallCaptionHeight = captionHeight};
+}
+
 int FormWindow::TopIndex(const forms::ListBox& list) const {
     return static_cast<const ListView&>(*views_.at(&list)).TopRow();
+}
+
+forms::Twips FormWindow::RowHeight(const forms::ListBox& list) const {
+    return static_cast<const ListView&>(*views_.at(&list)).RowHeight() * forms::kTwipsPerPixel;
 }
 
 forms::Canvas& FormWindow::Canvas(forms::PictureBox& box) {

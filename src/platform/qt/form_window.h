@@ -24,7 +24,10 @@ public:
     void Hide() override;
     void Update() override;
     forms::Point Position() const override;
+    /// Tool windows are taken to have the caption of all others: each window manager draws its own.
+    forms::FrameMetrics Frame() const override;
     int TopIndex(const forms::ListBox& list) const override;
+    forms::Twips RowHeight(const forms::ListBox& list) const override;
     forms::Canvas& Canvas(forms::PictureBox& box) override;
 
     /// Called when the form has closed.

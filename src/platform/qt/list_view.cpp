@@ -62,7 +62,8 @@ void ListWidget::ShowState() {
     }
     ShowSelection();
     ShowCurrentRow();
-    verticalScrollBar()->setValue(top);  // the current row has scrolled into view
+    verticalScrollBar()->setValue(top);  // the current row has scrolled into view, wanted or not
+    if (list_->TakeScroll()) scrollTo(currentIndex());
     selectionChanged_ = false;
 }
 

@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 #include <QMimeData>
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -77,6 +78,8 @@ public:
     ListView(forms::ListBox& list, QWidget& parent, const text::CodePage& page);
 
     int TopRow() const { return Widget().TopRow(); }
+    /// In pixels; 0 where there is no row.
+    int RowHeight() const { return std::max(Widget().sizeHintForRow(0), 0); }
 
 private:
     void ShowState() override { Widget().ShowState(); }

@@ -57,6 +57,7 @@ TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodeP
 void TextBoxView::ShowState() {
     const QString text = ToText(Control().Text(), CodePage());
     if (text != Widget().text()) Widget().setText(text);  // setting moves the cursor
+    if (Control().TakeSelectAll()) Widget().selectAll();
 }
 
 }  // namespace halvenmoor::qt

@@ -1,0 +1,142 @@
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_files.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "program.h"
+#include "window_fixture.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+/// The real windows over files in memory, with 80 of them in the list: "camera 10" to "camera 89".
+class RenameWindow : public testing::Test {
+protected:
+    RenameWindow() {
+        for (int i = 10; i < 90; ++i) memory.Put(PathOf("camera " + std::to_string(i)), "");
+        program.Start();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+    }
+    ~RenameWindow() override { program.MainForm().UserClose(); }
+
+    static std::string PathOf(const std::string& entry) { return "/p/demo/asc_demo/" + entry + ".asc"; }
+    QWidget& Main() { return *dynamic_cast<QWidget*>(program.MainForm().View()); }
+    QListView& List() { return *Main().findChild<QListView*>("MainList"); }
+    QRect RowOnScreen(int row) {
+        const QRect place = List().visualRect(List().model()->index(row, 0));
+        return {List().viewport()->mapToGlobal(place.topLeft()), place.size()};
+    }
+
+    /// Windows become active one after the other.
+    static bool GetsFocus(const QWidget& widget) {
+        return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
+    }
+
+    /// Scrolls the list, clicks the row and the button, and acts in the dialog, which closes in any case.
+    void Rename(int topRow, int row, const std::function<void(QWidget& dialog, QLineEdit& field)>& action) {
+        List().verticalScrollBar()->setValue(topRow);
+        QTest::mouseClick(List().viewport(), Qt::LeftButton, {},
+                          List().visualRect(List().model()->index(row, 0)).center());
+        bool opened = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            opened = true;
+            auto& field = *dialog->findChild<QLineEdit*>("TextFileName");
+            EXPECT_TRUE(GetsFocus(field));
+            action(*dialog, field);
+            if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
+            EXPECT_FALSE(dialog->isVisible());
+        });
+        QTest::mouseClick(Main().findChild<QWidget*>("ButtonRenameFile"), Qt::LeftButton);
+        EXPECT_TRUE(opened);
+        Main().activateWindow();  // as a window manager does
+        EXPECT_TRUE(GetsFocus(List()));
+    }
+
+    headless::MemoryFiles memory;
+    headless::FixedApplication application{"/p"};
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    WesternLocale locale;
+    QtToolkit toolkit{locale};
+    Program program{{memory, memory, application, clock, settings, messages, fileDialogs, theme, locale},
+                    toolkit};
+};
+
+TEST_F(RenameWindow, OpensBesideTheRowOfAScrolledList) {
+    const auto expectBeside = [this](int topRow, int row) {
+        Rename(topRow, row, [&](QWidget& dialog, QLineEdit& field) {
+            const QRect rowPlace = RowOnScreen(row);
+            const int listLeft = List().mapToGlobal(QPoint(0, 0)).x();
+            EXPECT_LT(dialog.frameGeometry().right(), listLeft);
+            EXPECT_GE(dialog.frameGeometry().right(), listLeft - 10);
+            const int fieldMiddle = field.mapToGlobal(field.rect().center()).y();
+            EXPECT_NEAR(fieldMiddle, rowPlace.center().y(), 4) << "row " << row << " from " << topRow;
+        });
+    };
+    expectBeside(0, 0);
+    expectBeside(0, 20);
+    expectBeside(30, 31);
+    expectBeside(30, 60);
+    expectBeside(1000, 79);
+}
+
+TEST_F(RenameWindow, RenamesByKeysAlone) {
+    Rename(40, 45, [](QWidget& dialog, QLineEdit& field) {
+        EXPECT_EQ(dialog.windowTitle(), "Rename File");
+        EXPECT_EQ(field.selectedText(), "camera 55");
+        QTest::keyClicks(&field, "auto");
+        EXPECT_EQ(field.text(), "auto") << "typing replaces the name";
+        QTest::keyClick(&field, Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_TRUE(memory.Has(PathOf("auto")));
+    EXPECT_EQ(List().currentIndex().data().toString(), "auto");
+    EXPECT_EQ(List().selectionModel()->selectedRows(), QModelIndexList{List().currentIndex()});
+    EXPECT_TRUE(List().viewport()->rect().contains(List().visualRect(List().currentIndex())));
+    EXPECT_EQ(List().verticalScrollBar()->value(), 0) << "the new place is far above";
+}
+
+TEST_F(RenameWindow, EnterConfirmsAndEscapeCancelsOnItsButtons) {
+    Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
+        QTest::keyClicks(&field, "zebra");
+        QTest::keyClick(&field, Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), "ButtonCancel");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_TRUE(memory.Has(PathOf("zebra")));
+    EXPECT_TRUE(List().viewport()->rect().contains(List().visualRect(List().currentIndex())));
+    Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
+        QTest::keyClicks(&field, "other");
+        QTest::keyClick(&field, Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_FALSE(memory.Has(PathOf("other")));
+}
+
+TEST_F(RenameWindow, ARefusedNameGivesWayToTheOldOne) {
+    Rename(0, 0, [](QWidget& dialog, QLineEdit& field) {
+        for (const char* const name : {"camera 11", "what?"}) {
+            QTest::keyClicks(&field, name);
+            QTest::mouseClick(dialog.findChild<QWidget*>("ButtonRename"), Qt::LeftButton);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_EQ(field.selectedText(), "camera 10");
+            EXPECT_EQ(QApplication::focusWidget(), &field);
+        }
+    });
+    EXPECT_TRUE(memory.Has(PathOf("camera 10")));
+}
+
+}  // namespace
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,281 @@
+#include "files_test_helpers.h"
+#include "program.h"
+#include "ui/frmRename.h"
+
+namespace halvenmoor {
+namespace {
+
+const Failure kFault(failure::PermissionDenied, "Permission denied");
+
+class RenameTest : public testing::Test {
+protected:
+    using Action = std::function<void(frmRename&)>;
+
+    /// A camera file for each of these entries, which holds the entry's name.
+    void Start(const Strings& entries = {"a", "b", "c", "d", "e"}) {
+        for (const std::string& entry : entries) program.AddCameraFile(entry, entry);
+        program.Start();
+        program.memory.ForgetCalls();
+    }
+    frmMain& Window() { return program.Window(); }
+    forms::ListBox& List() { return Window().MainList; }
+
+    /// Selects the entry and clicks the button. False when no dialog opened; one that the action leaves open
+    /// is cancelled.
+    bool Open(const std::string& entry, const Action& action = {}) {
+        program.Select(0, {entry});
+        return OpenForSelection(action);
+    }
+    bool OpenForSelection(const Action& action = {}) {
+        bool opened = false;
+        program.toolkit.Script([&](forms::Form& form) {
+            opened = true;
+            if (action) action(static_cast<frmRename&>(form));
+            form.UserEscape();
+        });
+        program.Click(Window().ButtonRenameFile);
+        program.toolkit.ForgetScript();
+        EXPECT_TRUE(List().HasFocus());
+        return opened;
+    }
+    /// True when the dialog closed by itself.
+    static bool Enter(frmRename& dialog, const std::string& name) {
+        EXPECT_TRUE(dialog.TextFileName.UserTyped(name));
+        EXPECT_TRUE(dialog.UserKeyPress(U'\r')) << "the key is consumed";
+        return !dialog.IsOpen();
+    }
+    bool Rename(const std::string& entry, const std::string& name) {
+        bool closed = false;
+        EXPECT_TRUE(Open(entry, [&](frmRename& dialog) { closed = Enter(dialog, name); }));
+        return closed;
+    }
+    std::string TextOf(const std::string& entry) { return program.Text(program.CameraPath(entry)); }
+    void ExpectNothingChanged() {
+        EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "d", "e"}));
+        for (const std::string& entry : program.Items(0)) EXPECT_EQ(TextOf(entry), entry);
+        EXPECT_TRUE(program.messages.Messages.empty());
+    }
+
+    TestProgram program;
+};
+
+TEST_F(RenameTest, TheEntryTakesItsSortedPlace) {
+    Start();
+    EXPECT_TRUE(Rename("b", "D2"));
+    EXPECT_EQ(program.Items(0), (Strings{"a", "c", "d", "D2", "e"}));
+    EXPECT_EQ(TextOf("D2"), "b");
+    EXPECT_EQ(TextOf("b"), "(none)");
+    EXPECT_EQ(List().ListIndex(), 3);
+    EXPECT_TRUE(List().Selected(3));
+    EXPECT_EQ(List().SelCount(), 1);
+    EXPECT_TRUE(List().TakeScroll());
+    EXPECT_TRUE(Window().ButtonRenameFile.Enabled());
+    EXPECT_EQ(program.memory.Calls(), Strings{"rename /p/demo/asc_demo/b.asc > /p/demo/asc_demo/D2.asc"});
+}
+
+TEST_F(RenameTest, WorksOnTheFolderOfTheMode) {
+    program.SetOption("DemoMode", "0");
+    Start();
+    EXPECT_TRUE(Rename("a", "new"));
+    EXPECT_EQ(program.Text("/p/asc/new.asc"), "a");
+}
+
+TEST_F(RenameTest, OffersTheOldNameSelected) {
+    program.AddLanguage("Deutsch", "ButtonRenameFile=Datei #umbenennen\n");
+    program.SetOption("Language", "Deutsch");
+    Start();
+    EXPECT_TRUE(Open("c", [](frmRename& dialog) {
+        EXPECT_EQ(dialog.Caption(), "Datei umbenennen");
+        EXPECT_EQ(dialog.TextFileName.Text(), "c");
+        EXPECT_TRUE(dialog.TextFileName.TakeSelectAll());
+        EXPECT_TRUE(dialog.TextFileName.HasFocus());
+    }));
+    ExpectNothingChanged();
+}
+
+TEST_F(RenameTest, OpensBesideTheRow) {
+    Start();
+    // The main window stands at 3600, 2955. To the right it goes on by a frame of 3 pixels and the list's
+    // 384, less 45 twips and the dialog's 3495 with two frames; down by the list's 32 pixels and a caption
+    // that is 5 pixels higher than the dialog's, less the field's 8. A row has 13 pixels.
+    const auto expectTop = [this](const std::string& entry, int top) {
+        EXPECT_TRUE(Open(entry, [&](frmRename& dialog) {
+            EXPECT_EQ(dialog.Position().left, 5775) << entry;
+            EXPECT_EQ(dialog.Position().top, top) << entry;
+        }));
+    };
+    expectTop("a", 3390);
+    expectTop("e", 3390 + 4 * 195);
+    static_cast<headless::HeadlessView&>(*Window().View()).TopRow = 2;
+    expectTop("e", 3390 + 2 * 195);
+    expectTop("c", 3390);
+    expectTop("a", 3390 - 2 * 195);
+}
+
+TEST_F(RenameTest, EnterConfirmsAnywhere) {
+    Start();
+    EXPECT_TRUE(Open("a", [](frmRename& dialog) {
+        EXPECT_TRUE(dialog.TextFileName.UserTyped("x"));
+        EXPECT_FALSE(dialog.UserKeyPress(U'x')) << "other keys pass";
+        EXPECT_FALSE(dialog.UserKeyPress(U'\t'));
+        EXPECT_FALSE(dialog.UserKeyPress(U'\n'));
+        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_TRUE(dialog.ButtonCancel.UserFocused());
+        EXPECT_TRUE(dialog.UserKeyPress(U'\r'));
+        EXPECT_FALSE(dialog.IsOpen());
+    }));
+    EXPECT_EQ(TextOf("x"), "a");
+    EXPECT_TRUE(Open("x", [](frmRename& dialog) {
+        EXPECT_FALSE(dialog.UserClose()) << "there is no close box";
+        EXPECT_TRUE(dialog.TextFileName.UserTyped("y"));
+        EXPECT_TRUE(dialog.ButtonRename.UserPress());
+        EXPECT_FALSE(dialog.IsOpen());
+    }));
+    EXPECT_EQ(TextOf("y"), "a");
+}
+
+TEST_F(RenameTest, CancellingChangesNothing) {
+    Start();
+    EXPECT_TRUE(Open("a", [](frmRename& dialog) {
+        EXPECT_TRUE(dialog.TextFileName.UserTyped("x"));
+        EXPECT_TRUE(dialog.ButtonCancel.UserPress());
+        EXPECT_FALSE(dialog.IsOpen());
+    }));
+    EXPECT_TRUE(Open("a", [](frmRename& dialog) {
+        EXPECT_TRUE(dialog.TextFileName.UserTyped("x"));
+        EXPECT_TRUE(dialog.UserEscape());
+        EXPECT_FALSE(dialog.IsOpen());
+    }));
+    ExpectNothingChanged();
+}
+
+TEST_F(RenameTest, AnEqualOrEmptyNameClosesOnly) {
+    Start();
+    for (const char* name : {"", "b", "B"}) EXPECT_TRUE(Rename("b", name)) << name;
+    ExpectNothingChanged();
+    program.AddCameraFile("K\xF6ln");
+    program.Click(Window().CheckAuto[1]);
+    EXPECT_TRUE(Rename("K\xF6ln", "K\u00d6LN")) << "each name is read in its own code";
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "d", "e", "K\xF6ln"}));
+    EXPECT_EQ(program.memory.Calls().back(), "search /p/demo/asc_demo/") << "no rename";
+}
+
+TEST_F(RenameTest, RefusesTakenNamesAndTwelveCharacters) {
+    Start();
+    program.memory.Put("/p/demo/asc_demo/Other.ASC", "other");
+    Strings refused{"c", "C", "other", "OTHER", "a/../b", "*"};
+    for (const char character : std::string("\\/:\"<>|;!#*?")) {
+        refused.push_back(std::string("x") + character);
+    }
+    ASSERT_EQ(refused.size(), 18u);
+    for (const std::string& name : refused) {
+        EXPECT_TRUE(Open("b", [&](frmRename& dialog) {
+            dialog.TextFileName.TakeSelectAll();
+            EXPECT_TRUE(dialog.TextFileName.UserTyped(name));
+            EXPECT_TRUE(dialog.ButtonRename.UserPress());
+            EXPECT_TRUE(dialog.IsOpen()) << name;
+            EXPECT_EQ(dialog.TextFileName.Text(), "b");
+            EXPECT_TRUE(dialog.TextFileName.TakeSelectAll());
+            EXPECT_TRUE(dialog.TextFileName.HasFocus());
+        }));
+    }
+    ExpectNothingChanged();
+    EXPECT_EQ(program.memory.Calls(), Strings()) << "nothing was tried";
+    EXPECT_EQ(program.Text("/p/demo/asc_demo/Other.ASC"), "other");
+}
+
+TEST_F(RenameTest, TakesTheNameAsItWasTyped) {
+    Start({"a"});
+    std::string entry = "a";
+    for (const std::string name : {" x ", "x.asc", "1.5, M\u00fcnchen (&)", "x'[$]%~"}) {
+        EXPECT_TRUE(Rename(entry, name)) << name;
+        EXPECT_EQ(program.Items(0), Strings{name});
+        EXPECT_EQ(TextOf(name), "a");
+        entry = name;
+    }
+}
+
+TEST_F(RenameTest, FindsTheOldFileInAnyLetterCase) {
+    program.memory.Put("/p/demo/asc_demo/Berlin.ASC", "text");
+    Start({});
+    EXPECT_TRUE(Rename("Berlin", "Bonn"));
+    EXPECT_EQ(TextOf("Bonn"), "text");
+    EXPECT_FALSE(program.memory.Has("/p/demo/asc_demo/Berlin.ASC"));
+}
+
+TEST_F(RenameTest, AFailureLeavesWhatWasTyped) {
+    Start();
+    // Making the file-system object, the test, the renaming: the last one as if the name were taken
+    // meanwhile.
+    for (int call = 1; call <= 3; ++call) {
+        EXPECT_TRUE(Open("b", [&](frmRename& dialog) {
+            program.files.FailCall(call, Failure(failure::FileExists, "File already exists"));
+            EXPECT_FALSE(Enter(dialog, "x")) << call;
+            EXPECT_EQ(dialog.TextFileName.Text(), "x");
+        }));
+        ExpectNothingChanged();
+    }
+    program.memory.AddFolder("/p/demo/asc_demo/folder.asc");
+    EXPECT_FALSE(Rename("b", "folder"));
+    ExpectNothingChanged();
+    EXPECT_TRUE(Open("b", [&](frmRename& dialog) {
+        program.memory.Remove(program.CameraPath("b"));
+        EXPECT_FALSE(Enter(dialog, "x"));
+        EXPECT_EQ(dialog.TextFileName.Text(), "x");
+        program.AddCameraFile("b", "new");
+        EXPECT_TRUE(Enter(dialog, "x")) << "the next try succeeds";
+    }));
+    EXPECT_EQ(TextOf("x"), "new");
+}
+
+TEST_F(RenameTest, ReportsAFileThatHasGone) {
+    Start({"a", "K\xF6ln"});
+    program.memory.Remove(program.CameraPath("K\xF6ln"));
+    EXPECT_FALSE(Open("K\xF6ln"));
+    ASSERT_EQ(program.messages.Messages.size(), 1u);
+    EXPECT_EQ(program.messages.Messages[0].text,
+              "Error renaming K\u00f6ln.asc: The system cannot find the file specified.          ");
+    EXPECT_EQ(program.messages.Messages[0].title, "Rename Speed Camera File");
+    EXPECT_EQ(program.Items(0), (Strings{"a", "K\xF6ln"}));
+    program.Click(Window().CheckAuto[1]);
+    EXPECT_EQ(program.Items(0), Strings{"a"}) << "until the next reload";
+}
+
+TEST_F(RenameTest, AFailureBeforeTheDialogShowsNothing) {
+    Start();
+    for (int call = 1; call <= 2; ++call) {
+        program.Select(0, {"b"});
+        program.files.FailCall(call, kFault);
+        EXPECT_FALSE(OpenForSelection()) << call;
+        ExpectNothingChanged();
+    }
+}
+
+TEST_F(RenameTest, NeedsOneSelectedRow) {
+    Start();
+    program.toolkit.OnStuck = [](const forms::Form&) { ADD_FAILURE() << "no dialog may open"; };
+    program.Select(0, {"a", "b"});
+    RenameSelectedFile(program.core, List());
+    program.Select(0, {});
+    RenameSelectedFile(program.core, List());
+    EXPECT_TRUE(List().UserSelect({1}, -1));
+    RenameSelectedFile(program.core, List());  // a selected row, but no current one
+    ExpectNothingChanged();
+}
+
+TEST_F(RenameTest, WorksOnTheCurrentRowNotOnTheSelection) {
+    Start();
+    EXPECT_TRUE(List().UserSelect({0}, 3));
+    EXPECT_TRUE(OpenForSelection([](frmRename& dialog) {
+        EXPECT_EQ(dialog.TextFileName.Text(), "d");
+        EXPECT_TRUE(Enter(dialog, "B2"));
+    }));
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "B2", "c", "e"}));
+    EXPECT_EQ(TextOf("B2"), "d");
+    EXPECT_EQ(List().ListIndex(), 2);
+    EXPECT_TRUE(List().Selected(0) && List().Selected(2));
+    EXPECT_FALSE(Window().ButtonRenameFile.Enabled()) << "the click of the list has counted two rows";
+}
+
+}  // namespace
+}  // namespace halvenmoor
