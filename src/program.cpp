@@ -25,6 +25,8 @@ void Program::Start() {
         auto window = std::make_unique<frmMain>(core_);
         exports_.emplace(*window);
         exports_->AttachButtons();
+        imports_.emplace(*window);
+        imports_->AttachButtons();
         return window;
     });
 }

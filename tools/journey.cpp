@@ -6,6 +6,7 @@
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
 #include "catalogue/frmMain.h"
+#include "import/frmImport.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
@@ -59,6 +60,7 @@ public:
         : programFolder_(programFolder),
           platform_(programFolder),
           program_(platform_.Services(), platform_.toolkit) {
+        platform_.toolkit.SkipsTurns = true;
         program_.Start();
     }
 
@@ -72,6 +74,7 @@ public:
         if (word == "reload") return OkIf(Window().ButtonReloadFiles.UserPress());
         if (word == "save-results") return Set(Window().CheckSaveResults, rest);
         if (word == "export") return Export(rest);
+        if (word == "import") return Import(rest);
         if (word == "lists") return PrintLists();
         if (word == "results") return PrintResults();
         return Outcome::NotUnderstood;
@@ -145,6 +148,21 @@ private:
         platform_.toolkit.ForgetScript();
         platform_.fileDialogs.Answers.clear();
         return OkIf(resultsShown);
+    }
+
+    Outcome Import(const std::string& source) {
+        if (source != "ov2" && source != "txt") return Outcome::NotUnderstood;
+        bool finished = false;
+        platform_.toolkit.Script([&](forms::Form& form) {
+            auto& dialog = static_cast<frmImport&>(form);
+            dialog.OptionSource[source == "ov2" ? 1 : 2].UserPress();
+            dialog.ButtonStart.UserPress();
+            finished = dialog.PictureFinished.Visible();
+            dialog.ButtonFinish.UserPress();
+        });
+        Window().ButtonImportFiles.UserPress();
+        platform_.toolkit.ForgetScript();
+        return OkIf(finished);
     }
 
     Outcome PrintLists() {
