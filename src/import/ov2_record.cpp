@@ -90,16 +90,31 @@ void CleanPoiName(std::string& out, std::string_view name) {
     name.remove_suffix(1);
     while (!name.empty() && IsBlankOrZero(name.front())) name.remove_prefix(1);
     while (!name.empty() && IsBlankOrZero(name.back())) name.remove_suffix(1);
-    out += '"';
+    // Names are most of an OV2 file: the room is made once, for commas that grow to two characters.
+    const std::size_t begin = out.size();
+    out.resize(begin + 2 * name.size() + 2);
+    char* end = out.data() + begin;
+    *end++ = '"';
     for (const char character : name) {
-        if (character == '\0' || (character == ' ' && out.back() == ' ')) continue;
-        if (character == ',') {
-            out += "; ";
-        } else {
-            out += character == '"' ? '\'' : character;
+        switch (character) {
+            case '\0':
+                break;
+            case ' ':
+                if (end[-1] != ' ') *end++ = ' ';
+                break;
+            case ',':
+                *end++ = ';';
+                *end++ = ' ';
+                break;
+            case '"':
+                *end++ = '\'';
+                break;
+            default:
+                *end++ = character;
         }
     }
-    out += '"';
+    *end++ = '"';
+    out.resize(static_cast<std::size_t>(end - out.data()));
 }
 
 }  // namespace halvenmoor
