@@ -1,6 +1,5 @@
 #include "files_test_helpers.h"
 #include "import_program.h"
-#include "ui/cNamesClass.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -224,26 +223,20 @@ TEST(ImportDialogTest, StopAtEveryTurn) {
     }
 }
 
-TEST(ImportDialogTest, ShutdownInTheMiddleOfARun) {
+TEST(ImportDialogTest, ShutdownOrFailureAtATurn) {
     for (const int source : {kOv2, kTxt}) {
         for (int turn = 1; turn <= 4; ++turn) {
-            PreparedProgram program;
+            PreparedProgram failing;
             ActAtTurn(
-                program, source, turn, [&](frmImport&) { EXPECT_TRUE(program.desktop.CloseAll()); },
-                [](frmImport& dialog) { EXPECT_FALSE(dialog.IsOpen()); });
-            EXPECT_TRUE(program.desktop.Ended());
-        }
-    }
-}
+                failing, source, turn, [](frmImport&) { throw std::runtime_error("turn"); },
+                [&](frmImport& dialog) { failing.ExpectDone(dialog); });
+            failing.ExpectImportWorks(source);
 
-TEST(ImportDialogTest, TurnThatFailsStillEndsInDone) {
-    for (const int source : {kOv2, kTxt}) {
-        for (int turn = 1; turn <= 4; ++turn) {
-            PreparedProgram program;
+            PreparedProgram closed;
             ActAtTurn(
-                program, source, turn, [](frmImport&) { throw std::runtime_error("turn"); },
-                [&](frmImport& dialog) { program.ExpectDone(dialog); });
-            program.ExpectImportWorks(source);
+                closed, source, turn, [&](frmImport&) { EXPECT_TRUE(closed.desktop.CloseAll()); },
+                [](frmImport& dialog) { EXPECT_FALSE(dialog.IsOpen()); });
+            EXPECT_TRUE(closed.desktop.Ended());
         }
     }
 }
@@ -304,23 +297,6 @@ TEST(ImportDialogTest, HeadingsTakeTheColourOfGroupBoxes) {
         EXPECT_EQ(dialog.LabelSourceName.ForeColor(), forms::Rgb(1, 2, 3));
         EXPECT_EQ(dialog.LabelTargetName.ForeColor(), forms::Rgb(1, 2, 3));
     });
-}
-
-TEST(ImportDialogTest, SpeaksTheChosenLanguage) {
-    PreparedProgram program;
-    program.AddLanguage("deutsch",
-                        "LabelNumberOfFiles=Datei\nLabelNumberOfCameras=Kamera\nButtonStart=Los\n");
-    program.core.Names->SetLanguage("deutsch");
-    program.core.Names->SetEnabled(true);
-    program.AddTxt("bad", "a,b,c,d\n");
-    EXPECT_EQ(program.Import(kTxt,
-                             [](frmImport& dialog) {
-                                 EXPECT_EQ(dialog.ButtonStart.Caption(), "Los");
-                                 EXPECT_EQ(dialog.LabelSourceFiles.Caption(), "3 Datei(s)");
-                                 EXPECT_EQ(dialog.LabelAddedRecords.Caption(), "3 Kamera(s)");
-                                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "1 Kamera(s)");
-                             }),
-              "PictureIncomplete");
 }
 
 }  // namespace

@@ -41,36 +41,6 @@ std::string TestData(const std::string& name) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(Ov2RecordTest, TellsKindAndSize) {
-    struct Case {
-        std::string bytes;
-        Kind kind;
-        std::size_t size;
-    };
-    const Case cases[] = {
-        {"", Kind::Cut, 1},
-        {kSkipper, Kind::Skipper, 21},
-        {kSkipper.substr(0, 20), Kind::Cut, 21},
-        {kDeleted + "more", Kind::Deleted, 9},
-        {kDeleted.substr(0, 8), Kind::Cut, 9},
-        {kDeleted.substr(0, 4), Kind::Cut, 5},
-        {Record(0, 5), Kind::Deleted, 5},
-        {Point("n"), Kind::Point, 15},
-        {Point("n").substr(0, 14), Kind::Cut, 15},
-        {"\4", Kind::Other, 0},
-        {"\xff", Kind::Other, 0},
-    };
-    for (const Case& test : cases) {
-        const Ov2Record record = DecodeOv2Record("skipped" + test.bytes, 7);
-        EXPECT_EQ(record.kind, test.kind) << testing::PrintToString(test.bytes);
-        EXPECT_EQ(record.size, test.size) << testing::PrintToString(test.bytes);
-    }
-    const Ov2Record point = DecodeOv2Record(Point("", -1, 2147483647, 3), 0);
-    EXPECT_EQ(point.x, -1);
-    EXPECT_EQ(point.y, 2147483647);
-    EXPECT_EQ(point.name.size(), 1u);
-}
-
 TEST(Ov2RecordTest, LengthsAtTheirLimits) {
     const std::int64_t most = std::numeric_limits<std::int32_t>::max();
     for (const char type : {'\0', '\2', '\3'}) {
