@@ -27,6 +27,8 @@ void Program::Start() {
         exports_.emplace(*window);
         exports_->AttachButtons();
         AttachRename(*window);
+        imports_.emplace(*window);
+        imports_->AttachButtons();
         return window;
     });
 }

@@ -4,6 +4,7 @@
 #include "core/platform/platform.h"
 #include "export/modExport.h"
 #include "forms/desktop.h"
+#include "import/modImport.h"
 
 #include <optional>
 
@@ -32,6 +33,7 @@ private:
     forms::Desktop desktop_;
     modMain core_;
     std::optional<modExport> exports_;
+    std::optional<modImport> imports_;
 };
 
 }  // namespace halvenmoor

@@ -6,6 +6,7 @@
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
 #include "catalogue/frmMain.h"
+#include "import/frmImport.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
@@ -60,6 +61,7 @@ public:
         : programFolder_(programFolder),
           platform_(programFolder),
           program_(platform_.Services(), platform_.toolkit) {
+        platform_.toolkit.SkipsTurns = true;
         program_.Start();
     }
 
@@ -74,6 +76,7 @@ public:
         if (word == "save-results") return Set(Window().CheckSaveResults, rest);
         if (word == "export") return Export(rest);
         if (word == "rename") return Rename(rest);
+        if (word == "import") return Import(rest);
         if (word == "lists") return PrintLists();
         if (word == "results") return PrintResults();
         return Outcome::NotUnderstood;
@@ -164,6 +167,21 @@ private:
         const bool pressed = headless::Select(List(0), {oldName}) && Window().ButtonRenameFile.UserPress();
         platform_.toolkit.ForgetScript();
         return OkIf(pressed && headless::IndexOf(List(0), oldName) < 0);
+    }
+
+    Outcome Import(const std::string& source) {
+        if (source != "ov2" && source != "txt") return Outcome::NotUnderstood;
+        bool finished = false;
+        platform_.toolkit.Script([&](forms::Form& form) {
+            auto& dialog = static_cast<frmImport&>(form);
+            dialog.OptionSource[source == "ov2" ? 1 : 2].UserPress();
+            dialog.ButtonStart.UserPress();
+            finished = dialog.PictureFinished.Visible();
+            dialog.ButtonFinish.UserPress();
+        });
+        Window().ButtonImportFiles.UserPress();
+        platform_.toolkit.ForgetScript();
+        return OkIf(finished);
     }
 
     Outcome PrintLists() {

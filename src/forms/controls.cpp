@@ -42,6 +42,12 @@ void Control::SetForeColor(Color color) {
     Changed();
 }
 
+void Control::SetToolTip(std::string toolTip) {
+    if (toolTip == toolTip_) return;
+    toolTip_ = std::move(toolTip);
+    Changed();
+}
+
 bool Control::CanTakeFocus() const {
     const bool takesKeys = kind_ != Kind::Label && kind_ != Kind::Frame && kind_ != Kind::PictureBox;
     return takesKeys && enabled_ && visible_;

@@ -82,6 +82,10 @@ public:
     /// The text colour; none: the toolkit's own.
     std::optional<Color> ForeColor() const { return foreColor_; }
     void SetForeColor(Color color);
+    /// What the control says of itself beside its caption, to the mouse and to screen readers. UTF-8; shown
+    /// as plain text.
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string toolTip);
 
     bool CanTakeFocus() const;
     bool HasFocus() const;
@@ -111,6 +115,7 @@ private:
     bool enabled_;
     bool visible_;
     std::optional<Color> foreColor_;
+    std::string toolTip_;
 };
 
 class Label : public Control {

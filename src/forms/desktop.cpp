@@ -64,6 +64,10 @@ void Desktop::Yield(double waitSeconds) {
     toolkit_.HandleEvents(waitSeconds);
 }
 
+void Desktop::Turn() {
+    if (TurnIsDue()) Yield();
+}
+
 bool Desktop::Deliver(Form& form, Event event) {
     if (!Accepts(form)) return false;
     Raise(event);

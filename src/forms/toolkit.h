@@ -43,6 +43,8 @@ public:
     /// Handles the events that are waiting; then waits for more, but not longer than the given seconds (0:
     /// not at all).
     virtual void HandleEvents(double waitSeconds) = 0;
+    /// Whether so much time has passed since HandleEvents that the user would notice another call.
+    virtual bool TurnIsDue() const { return true; }
 };
 
 }  // namespace halvenmoor::forms

@@ -57,11 +57,15 @@ public:
     /// process is aborted with a message.
     std::function<void(const forms::Form&)> OnStuck;
 
+    /// No turn is ever due, so that a long run is not slowed down by an interface that nobody sees.
+    bool SkipsTurns = false;
+
     int Turns() const { return turns_; }
 
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
+    bool TurnIsDue() const override { return !SkipsTurns; }
 
 private:
     void ReportStuck(forms::Form& form) const;

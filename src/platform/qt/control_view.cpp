@@ -7,6 +7,8 @@
 #include "platform/qt/picture_view.h"
 #include "platform/qt/text_views.h"
 
+#include <QTextDocument>
+
 namespace halvenmoor::qt {
 
 namespace {
@@ -51,6 +53,10 @@ void ControlView::Update() {
         colors.setColor(widget_.foregroundRole(), ToQColor(*color));
         widget_.setPalette(colors);
     }
+    const QString toolTip = QString::fromStdString(control_.ToolTip());
+    // Qt shows as markup what looks like it, so plain text is made markup that shows it.
+    widget_.setToolTip(toolTip.isEmpty() ? toolTip : Qt::convertFromPlainText(toolTip));
+    widget_.setAccessibleDescription(toolTip);
     ShowState();
 }
 

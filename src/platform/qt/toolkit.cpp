@@ -15,6 +15,9 @@ namespace {
 // A shorter wait is not worth a sleep, which may come back late.
 constexpr double kShortestSleep = 0.002;
 
+// Milliseconds between two turns of a loop that offers many. A click is answered within a few of these.
+constexpr qint64 kTurnInterval = 10;
+
 void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
     window.SetOnHidden([&loop] { loop.quit(); });
     loop.exec();
@@ -41,6 +44,15 @@ void QtToolkit::RunModal(forms::Form& form, const std::function<void()>& first) 
 }
 
 void QtToolkit::HandleEvents(double waitSeconds) {
+    Pump(waitSeconds);
+    sinceTurn_.start();
+}
+
+bool QtToolkit::TurnIsDue() const {
+    return !sinceTurn_.isValid() || sinceTurn_.hasExpired(kTurnInterval);
+}
+
+void QtToolkit::Pump(double waitSeconds) {
     if (waitSeconds < kShortestSleep) {
         QCoreApplication::processEvents();
         return;

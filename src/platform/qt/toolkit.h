@@ -4,6 +4,7 @@
 #include "forms/desktop.h"
 #include "forms/toolkit.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <functional>
 #include <memory>
@@ -21,12 +22,16 @@ public:
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
+    bool TurnIsDue() const override;
 
     /// The main loop; returns when the desktop has ended.
     void Run(forms::Desktop& desktop);
 
 private:
+    void Pump(double waitSeconds);
+
     const text::CodePage& page_;
+    QElapsedTimer sinceTurn_;
     QPointer<FormWindow> mainWindow_;
 };
 

@@ -1,0 +1,228 @@
+#include "import/frmImport.h"
+
+#include "import/ov2_import.h"
+#include "import/txt_import.h"
+#include "ui/cNamesClass.h"
+#include "ui/group_text_color.h"
+
+#include <array>
+#include <exception>
+
+namespace halvenmoor {
+
+namespace {
+
+constexpr forms::Point kPlaceInMainForm{1200, 1580};
+constexpr forms::Color kRed = forms::Rgb(255, 0, 0);
+constexpr std::string_view kCameraExtension = ".asc";
+
+/// A kind of source, by its option button.
+struct Source {
+    std::string_view folderWord;
+    std::string_view extension;
+};
+constexpr std::array<Source, 3> kSources{{{}, {"ov2", ".ov2"}, {"txt", ".txt"}}};
+constexpr int kOv2 = 1;
+
+const Source& SourceOf(int option) {
+    return kSources[static_cast<std::size_t>(option)];
+}
+
+std::string CountOf(std::int32_t count, const std::string& word) {
+    return std::to_string(count) + " " + word + "(s)";
+}
+
+}  // namespace
+
+frmImport::frmImport(frmMain& mainForm)
+    : frmImportLayout(mainForm.Core().Desktop()), mainForm_(mainForm), core_(mainForm.Core()) {
+    CheckDelete.OnClick = [this] { CheckDelete.SetValue(true); };  // the run deletes, whatever happens
+    for (int option = 1; option <= 2; ++option) {
+        OptionSource[option].OnClick = [this, option] { ChooseSource(option); };
+    }
+    ButtonStart.OnClick = [this] { StartImport(); };
+    ButtonCancel.OnClick = [this] { Unload(); };
+    ButtonFinish.OnClick = [this] { Unload(); };
+}
+
+void frmImport::Load() {
+    const forms::Point main = mainForm_.Position();
+    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    ApplyImportTexts();
+    UpdateDisplay(Display::Ready);
+}
+
+void frmImport::ApplyImportTexts() {
+    const cNamesClass& names = *core_.Names;
+    SetCaption(names.TitleImportFiles());
+    FrameSelections.SetCaption(names.FrameSelections());
+    LabelSourceName.SetCaption(names.LabelSourceFolder());
+    LabelTargetName.SetCaption(names.LabelTargetFolder());
+    FrameActions.SetCaption(names.FrameActions());
+    CheckDelete.SetCaption(names.CheckDeleteExistingFiles() + " ...");
+    OptionSource[1].SetCaption(names.OptionSourceOV2Files());
+    OptionSource[2].SetCaption(names.OptionSourceTXTFiles());
+    ButtonStart.SetCaption(names.ButtonStart());
+    ButtonCancel.SetCaption(names.ButtonCancel());
+    ButtonFinish.SetCaption(names.ButtonFinish());
+    filesWord_ = names.LabelNumberOfFiles();
+    camerasWord_ = names.LabelNumberOfCameras();
+}
+
+void frmImport::Paint() {
+    const forms::Color color = HeadingColor(core_.Services().theme);
+    LabelSourceName.SetForeColor(color);
+    LabelTargetName.SetForeColor(color);
+}
+
+bool frmImport::QueryClose(forms::CloseReason reason) {
+    const bool isRunning = !ButtonStart.Enabled() && !ButtonFinish.Enabled();
+    if (!isRunning) return true;
+    stopRequested_ = true;
+    return reason == forms::CloseReason::System;
+}
+
+void frmImport::ChooseSource(int option) {
+    if (!ButtonStart.Enabled()) {
+        OptionSource[sourceOption_].SetValue(true);
+        return;
+    }
+    sourceOption_ = option;
+    UpdateDisplay(Display::Ready);
+}
+
+void frmImport::StartImport() {
+    ButtonStart.SetEnabled(false);
+    SetCancelButton(nullptr);
+    try {
+        RunImport();
+    } catch (const std::exception&) {
+        // Whatever happened, the user gets out by Finish.
+    }
+    ButtonCancel.SetEnabled(false);
+    ButtonFinish.SetEnabled(true);
+    ButtonFinish.SetFocus();
+    SetCancelButton(&ButtonFinish);
+}
+
+void frmImport::RunImport() {
+    if (!DeleteAllFiles(TargetFolder())) return;
+    filesModified_ = true;
+    UpdateDisplay(Display::Ready);
+    mainForm_.ClearListBoxes();
+    UpdateDisplay(ConvertSources() ? Display::Finished : Display::Incomplete);
+}
+
+/// Whether nothing failed and nobody stopped it.
+bool frmImport::ConvertSources() {
+    const ImportTask task{core_.Services(), *this, SourceFolder(), TargetFolder(),
+                          core_.ClassificationSettings->SourceStructure()};
+    try {
+        const bool isSound = sourceOption_ == kOv2 ? ConvertOv2(task) : ConvertTxt(task);
+        return isSound && !StopRequested();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+bool frmImport::ConvertOv2(const ImportTask& task) {
+    const std::int16_t failedFiles = ConvertOv2Files(task);
+    if (failedFiles > 0) PictureIncomplete.SetToolTip(CountOf(failedFiles, filesWord_));
+    return failedFiles == 0;
+}
+
+bool frmImport::ConvertTxt(const ImportTask& task) {
+    TxtImport import(task);
+    if (!StopRequested()) import.ReadTxtFiles();
+    if (!StopRequested()) UpdateDisplay(Display::Ready);
+    if (!StopRequested()) import.CollectAllSpeeds();
+    if (!StopRequested()) import.WriteAllTypes();
+    if (import.BadLines() > 0) PictureIncomplete.SetToolTip(CountOf(import.BadLines(), camerasWord_));
+    return import.BadLines() == 0;
+}
+
+bool frmImport::DeleteAllFiles(const std::string& path) const {
+    try {
+        const auto files = core_.Services().fileSystem.CreateFileSystemObject();
+        if (!files->FolderExists(path)) return false;
+        const auto folder = files->GetFolder(path);
+        for (const std::string& name : folder->Files()) {
+            try {
+                folder->Delete(name);
+            } catch (const std::exception&) {
+                // The files left over tell.
+            }
+        }
+        return folder->Files().empty();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+std::int32_t frmImport::CountFiles(const std::string& path, std::string_view extension) const {
+    try {
+        const auto files = core_.Services().fileSystem.CreateFileSystemObject();
+        if (!files->FolderExists(path)) return 0;
+        std::int32_t count = 0;
+        for (const std::string& name : files->GetFolder(path)->Files()) {
+            if (HasExtension(name, extension)) ++count;
+        }
+        return count;
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+void frmImport::UpdateDisplay(Display display) {
+    const std::int32_t targetFileCount = CountFiles(TargetFolder(), kCameraExtension);
+    if (display != Display::Counts) {
+        ShowSource();
+        ShowPicture(display, targetFileCount);
+    }
+    LabelSourceFiles.SetCaption(CountOf(sourceFileCount_, filesWord_));
+    LabelTargetFiles.SetCaption(CountOf(targetFileCount, filesWord_));
+    // The end of a run: no other colour comes after it.
+    if (display == Display::Incomplete) LabelTargetFiles.SetForeColor(kRed);
+    Owner().Turn();
+}
+
+void frmImport::ShowSource() {
+    const Source& source = SourceOf(sourceOption_);
+    LabelSourceFolder.SetCaption(
+        std::string(".\\import\\").append(source.folderWord).append("\\*").append(source.extension));
+    LabelTargetFolder.SetCaption(".\\asc\\*.asc");
+    sourceFileCount_ = CountFiles(SourceFolder(), source.extension);
+}
+
+void frmImport::ShowPicture(Display display, std::int32_t targetFileCount) {
+    PictureNoDelete.SetVisible(display == Display::Ready && targetFileCount == 0);
+    PictureDelete.SetVisible(display == Display::Ready && targetFileCount > 0);
+    PictureFinished.SetVisible(display == Display::Finished);
+    PictureIncomplete.SetVisible(display == Display::Incomplete);
+}
+
+bool frmImport::StopRequested() const {
+    return stopRequested_ || !IsOpen();  // the system may have closed the dialog in the middle of its run
+}
+
+void frmImport::FileDone() {
+    // Nobody sees the counts between two turns, and in a large folder they are not cheap.
+    if (Owner().TurnIsDue()) UpdateDisplay(Display::Counts);
+}
+
+void frmImport::RecordsAdded(std::int32_t count) {
+    LabelAddedRecords.SetCaption(CountOf(count, camerasWord_));
+}
+
+std::string frmImport::Folder(std::initializer_list<std::string_view> words) const {
+    const char separator = core_.Services().application.Separator();
+    std::string path = core_.WorkspaceRoot + separator;
+    for (const std::string_view word : words) path.append(word) += separator;
+    return path;
+}
+
+std::string frmImport::SourceFolder() const {
+    return Folder({"import", SourceOf(sourceOption_).folderWord});
+}
+
+}  // namespace halvenmoor
