@@ -149,7 +149,7 @@ def print_table(figures, rows, quick):
         print(" | ".join(str(cell).ljust(width) for cell, width in zip(row, widths)).rstrip())
         if row is table[0]:
             print("-|-".join("-" * width for width in widths))
-    print("Nothing is subtracted: every figure of the program includes its start. Outputs were the same to the byte.")
+    print("The start of the program is in every figure but those said to be without. Outputs were the same to the byte.")
     if quick:
         print("Quick sizes: they show that the bench works, not whether targets are reached.")
 
@@ -168,7 +168,8 @@ def main():
     if not os.access(journey, os.X_OK):
         fail(f"{journey} is not there; build it first")
     figures = {}
-    benches = [ExportBench(options.build, journey, figures, records, per_file), ImportBench(journey, figures, records)]
+    benches = [ExportBench(options.build, journey, figures, records, per_file),
+               ImportBench(options.build, journey, figures, records)]
     for bench in benches:
         bench.prepare()
     for number in range(rounds):
