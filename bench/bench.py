@@ -149,7 +149,7 @@ def print_table(figures, rows, quick):
         print(" | ".join(str(cell).ljust(width) for cell, width in zip(row, widths)).rstrip())
         if row is table[0]:
             print("-|-".join("-" * width for width in widths))
-    print("The start of the program is in every figure but those said to be without. Outputs were the same to the byte.")
+    print("Every program figure includes its start unless its row says otherwise. Outputs were the same to the byte.")
     if quick:
         print("Quick sizes: they show that the bench works, not whether targets are reached.")
 

@@ -26,9 +26,8 @@ using namespace halvenmoor;
 
 namespace {
 
-/// CPU seconds of the import in the dialog that is open.
-double RunImport(const QString& sourceOption) {
-    const QWidget& dialog = *QApplication::activeModalWidget();
+/// CPU seconds of one import in the dialog, which is closed afterwards.
+double RunImport(const QWidget& dialog, const QString& sourceOption) {
     const auto click = [&dialog](const QString& button) {
         dialog.findChild<QAbstractButton*>(button)->click();
     };
@@ -62,7 +61,15 @@ int main(int argc, char** argv) {
         qt.toolkit);
     program.Start();
     program.MainForm().CheckDemoMode.UserPress();
-    QTimer::singleShot(0, [&sourceOption] { std::cout << RunImport(sourceOption) << std::endl; });
+    // The dialog takes turns before it is shown, so the first turn may come too early.
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) return;
+        timer.stop();
+        std::cout << RunImport(*dialog, sourceOption) << std::endl;
+    });
+    timer.start(0);
     program.MainForm().ButtonImportFiles.UserPress();
     program.MainForm().UserClose();
     return 0;
