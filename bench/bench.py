@@ -168,14 +168,15 @@ def main():
     if not os.access(journey, os.X_OK):
         fail(f"{journey} is not there; build it first")
     figures = {}
-    benches = [ExportBench(options.build, journey, figures, records, per_file),
-               ImportBench(options.build, journey, figures, records)]
+    imports = ImportBench(options.build, journey, figures, records)
+    benches = [ExportBench(options.build, journey, figures, records, per_file), imports]
     for bench in benches:
         bench.prepare()
     for number in range(rounds):
         print(f"round {number + 1} of {rounds}", file=sys.stderr)
         for bench in benches:
             bench.round(number)
+    imports.tidy()
     print_table(figures, [row for bench in benches for row in bench.rows()], options.quick)
 
 
