@@ -1,7 +1,7 @@
-"""Makes program folders full of camera files for the benchmark, the same ones on every machine.
+"""Makes program folders full of camera files or import sources for the benchmark, the same ones on every machine.
 
-A set is a folder with two things in it: `program`, a complete program folder, and `plan.tsv`, what the baseline
-scripts are told instead of working it out (both in UTF-8, one entry a line):
+A set is a folder with `program` in it, a complete program folder. A set for exports also has `plan.tsv`, what the
+baseline scripts are told instead of working it out (UTF-8, one entry a line):
 
     pattern<TAB>TYPE<TAB>TEXT       a search pattern, trimmed and in small letters, types in ascending order
     file<TAB>TYPE<TAB>SPEED<TAB>PATH    a camera file, in the order in which an export visits it
@@ -11,6 +11,7 @@ import hashlib
 import itertools
 import random
 import shutil
+import struct
 from pathlib import Path
 
 TYPE_WORDS = ["Fixed", "RedSpeed", "RedLight", "Section", "Mobile"]
@@ -41,25 +42,45 @@ ODD_LINES = [
     '5.5, 50.25, "Ampel" left over, 1, 90', "5.5, 50.25, Plain Section name, 1, 90", "5.5, 50.25, plain",
     '   5.50 ,50.25,"Trailer",2 , 180   ', '5.5, 50.25, "quoted end", 1, "9,0"', "5.5, 50.25, , 1, 90", "5.5,50.25,"]
 
+ODD_NAMES = [b"", b"   ", b",", b'the "old" mill', b" a,b, c,", b"two  blanks     five", b"Gro\xdfe Allee"]
+# Neither records nor bad lines, but for the last two.
+ODD_TXT_LINES = ["", "   ", "no comma", "5.5,50.25,1", "5.5,50.25,1,50,1", "5.5,50.25,1,50,1,90,7", "x,y,type,speed",
+                 "  X , Y , Type , Speed , DirType , Direction ", "+5.5,,1,50", "not a number,50.25, 5 ,30,1,90 "]
+
 
 def program_set(root, records, files, patterns, seed=1):
     """Returns the folder of the set with these sizes below root; makes it if it is not there yet."""
+    return made_once(root, f"records{records}-files{files}-patterns{patterns}-seed{seed}",
+                     lambda new, ready: write_set(new / "program", ready / "program", records, files, patterns, seed))
+
+
+def import_set(root, kind, records, files, speeds, seed=1):
+    """The same for a set of sources of the kind "ov2" or "txt"; only TXT sources have speeds."""
+    return made_once(root, f"{kind}{records}-files{files}-speeds{speeds}-seed{seed}",
+                     lambda new, _: write_sources(new / "program", kind, records, files, speeds, seed))
+
+
+def made_once(root, name, write):
     version = hashlib.sha256(Path(__file__).read_bytes()).hexdigest()[:8]
     for stale in root.glob("*"):
         if stale.name != version:
             shutil.rmtree(stale)
-    ready = root / version / f"records{records}-files{files}-patterns{patterns}-seed{seed}"
+    ready = root / version / name
     if not ready.exists():
         unfinished = ready.with_suffix(".unfinished")
         shutil.rmtree(unfinished, ignore_errors=True)
-        write_set(unfinished / "program", ready / "program", records, files, patterns, seed)
+        write(unfinished, ready)
         unfinished.rename(ready)
     return ready
 
 
-def write_set(program, final_program, records, files, pattern_count, seed):
+def make_folders(program):
     for folder in FOLDERS:
         (program / folder).mkdir(parents=True)
+
+
+def write_set(program, final_program, records, files, pattern_count, seed):
+    make_folders(program)
     vocabulary = make_vocabulary(random.Random(seed))
     patterns = [(KEYWORDS + vocabulary)[i::5] for i in range(5)]
     patterns = [of_type[:pattern_count // 5] for of_type in patterns]
@@ -126,3 +147,56 @@ def camera_name(rng, vocabulary):
     place = rng.choice([", ", " ", "/"]).join(rng.choices(vocabulary, k=rng.randint(2, 4)))
     name = f"{keyword}{place} {rng.choice('ABLN')}{rng.randint(1, 999)} km {rng.randint(0, 4000) / 10}"
     return name.encode().decode("latin-1")
+
+
+def write_sources(program, kind, records, files, speeds, seed):
+    make_folders(program)
+    (program / "Settings.ini").write_text(settings_text([[]] * 5), encoding="utf-8")
+    rng = random.Random(seed)
+    entries = ov2_points(rng) if kind == "ov2" else txt_lines(rng, speeds)
+    for number in range(files):
+        count = records * (number + 1) // files - records * number // files
+        part = itertools.islice(entries, count)
+        data = b"".join(part) if kind == "ov2" else txt_source(number, part)
+        (program / "import" / kind / f"Source {number:02d}.{kind}").write_bytes(data)
+
+
+def ov2_points(rng):
+    """Endless point records, now and then behind a deleted or a skipper record."""
+    vocabulary = make_vocabulary(rng)
+    names = [camera_name(rng, vocabulary).encode("latin-1") for _ in range(20000)] + ODD_NAMES * 20
+    while True:
+        for name in rng.choices(names, k=1000):
+            chance = rng.random()
+            longitude, latitude = int(rng.random() * 4000000) - 1000000, int(rng.random() * 3500000) - 100000
+            point = b"\2" + struct.pack("<iii", 14 + len(name), longitude, latitude) + name + b"\0"
+            if chance < 0.03:
+                gap = rng.randrange(40)
+                yield b"\0" + struct.pack("<i", 5 + gap) + b"\2" * gap + point
+            elif chance < 0.05:
+                yield b"\1" + b"\3" * 20 + point
+            else:
+                yield point
+
+
+def txt_lines(rng, speeds):
+    """Endless lines of TXT sources without their ends."""
+    speed_texts = [str(5 * number) for number in range(1, speeds + 1)]
+    while True:
+        kinds = rng.choices("12345", weights=[5, 1, 2, 1, 3], k=1000)
+        for kind, speed in zip(kinds, rng.choices(speed_texts, k=1000)):
+            chance = rng.random()
+            if chance < 0.02:
+                yield rng.choice(ODD_TXT_LINES)
+                continue
+            comma = " , " if chance < 0.05 else ","
+            fields = [f"{rng.random() * 40 - 10:.5f}", f"{rng.random() * 35 + 35:.5f}", kind, speed]
+            if chance < 0.7:
+                fields += [str(rng.randint(0, 2)), str(rng.randrange(0, 360, 5))]
+            yield comma.join(fields)
+
+
+def txt_source(number, lines):
+    line_end = "\n" if number % 10 == 9 else "\r\n"
+    text = line_end.join(["X,Y,TYPE,SPEED,DirType,Direction", *lines])
+    return (text + ("" if number % 7 == 3 else line_end)).encode()

@@ -1,0 +1,76 @@
+// Measures an import in the real dialog off-screen, with the turns that it gives the interface:
+//
+//     import_bench PROGRAM_FOLDER ov2|txt
+//
+// Prints the CPU seconds from the click on Start to its end; the start of the program is not in them.
+
+#include "catalogue/frmMain.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/disk/locale.h"
+#include "platform/disk/path_finder.h"
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "platform/qt/qt_platform.h"
+#include "program.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTimer>
+#include <ctime>
+#include <iostream>
+#include <string_view>
+
+using namespace halvenmoor;
+
+namespace {
+
+/// CPU seconds of one import in the dialog, which is closed afterwards.
+double RunImport(const QWidget& dialog, const QString& sourceOption) {
+    const auto click = [&dialog](const QString& button) {
+        dialog.findChild<QAbstractButton*>(button)->click();
+    };
+    click(sourceOption);
+    const std::clock_t start = std::clock();
+    click("ButtonStart");
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    click("ButtonFinish");
+    return seconds;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::cerr << "usage: import_bench PROGRAM_FOLDER ov2|txt\n";
+        return 2;
+    }
+    const QString sourceOption = std::string_view(argv[2]) == "ov2" ? "OptionSource(1)" : "OptionSource(2)";
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
+    qt::QtPlatform qt(argv[0], locale);
+    disk::PathFinder finder(locale.CodePage());
+    disk::DiskFileSystem fileSystem(finder);
+    disk::DiskHostFiles hostFiles(finder);
+    headless::FixedApplication application(argv[1]);
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    Program program(
+        {fileSystem, hostFiles, application, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
+        qt.toolkit);
+    program.Start();
+    program.MainForm().CheckDemoMode.UserPress();
+    // The dialog takes turns before it is shown, so the first turn may come too early.
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) return;
+        timer.stop();
+        std::cout << RunImport(*dialog, sourceOption) << std::endl;
+    });
+    timer.start(0);
+    program.MainForm().ButtonImportFiles.UserPress();
+    program.MainForm().UserClose();
+    return 0;
+}
