@@ -127,7 +127,7 @@ void TxtImport::ReadLines(platform::TextReader& file) {
         task_.progress.Turn();
         if (task_.progress.StopRequested()) return;
         TakeLine(file.ReadLine());
-        if (addedRecords_ < shownRecords_ + kRecordsPerRefresh) continue;
+        if (addedRecords_ - shownRecords_ < kRecordsPerRefresh) continue;
         task_.progress.RecordsAdded(addedRecords_);
         shownRecords_ = addedRecords_;
         task_.progress.Turn();
