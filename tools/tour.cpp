@@ -20,7 +20,9 @@
 #include <QWidget>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -77,10 +79,10 @@ public:
         return first.data().toString();
     }
 
-    void Photograph(const QString& window) {
+    void Photograph(const QString& window, const std::string& state = {}) {
         for (QWidget* top : QApplication::topLevelWidgets()) {
             if (top->objectName() != window || !top->isVisible()) continue;
-            const fs::path file = pictures_ / (window.toStdString() + ".png");
+            const fs::path file = pictures_ / (window.toStdString() + state + ".png");
             if (top->grab().save(QString::fromStdString(file.string()))) Say("picture of " + file.string());
         }
     }
@@ -97,35 +99,35 @@ void Print(const fs::path& file, int lines) {
     if (!text.eof()) std::cout << "    ...\n";
 }
 
-/// Takes pictures of the windows that an export opens, and closes the results.
-class ExportWatcher {
+/// Does something in a modal window once it has been there for so many looks.
+class Expecting {
 public:
-    explicit ExportWatcher(Visitor& visitor) : visitor_(visitor) {
+    Expecting(QString window, std::function<void()> act, int looks = 1)
+        : window_(std::move(window)), act_(std::move(act)), looks_(looks) {
         QObject::connect(&timer_, &QTimer::timeout, [this] { Look(); });
         timer_.start(40);
     }
 
-    bool SawResults() const { return sawResults_; }
+    /// Ends the tour if the window never came.
+    void Check() const {
+        if (looks_ > 0) throw std::runtime_error(window_.toStdString() + " did not show up");
+    }
 
 private:
     void Look() {
         const QWidget* const modal = QApplication::activeModalWidget();
-        if (modal == nullptr) return;
-        if (modal->objectName() == "frmExport" && ++looksAtExport_ == 4) visitor_.Photograph("frmExport");
-        if (modal->objectName() != "frmResults" || sawResults_) return;
-        sawResults_ = true;
-        visitor_.Photograph("frmResults");
-        visitor_.Say("close the results");
-        visitor_.Click("frmResults", "ButtonCloseResults");
+        if (modal == nullptr || modal->objectName() != window_ || looks_ == 0) return;
+        if (--looks_ == 0) act_();
     }
 
-    Visitor& visitor_;
+    QString window_;
+    std::function<void()> act_;
+    int looks_;
     QTimer timer_;
-    int looksAtExport_ = 0;
-    bool sawResults_ = false;
 };
 
-void Visit(Visitor& visitor) {
+/// Demonstration mode: classify, move a file by hand, export.
+void ShowExport(Visitor& visitor) {
     visitor.Photograph("frmMain");
     for (const char* language : {"Deutsch", "English"}) {
         visitor.Say(std::string("choose the language ") + language);
@@ -137,10 +139,51 @@ void Visit(Visitor& visitor) {
     visitor.Say("move \"" + moved.toStdString() + "\" to type 1 by hand");
     visitor.Click("frmMain", "ButtonAdd(1)");
     visitor.Say("export");
-    ExportWatcher watcher(visitor);
+    const Expecting run(
+        "frmExport", [&] { visitor.Photograph("frmExport"); }, 4);
+    const Expecting results("frmResults", [&] {
+        visitor.Photograph("frmResults");
+        visitor.Say("close the results");
+        visitor.Click("frmResults", "ButtonCloseResults");
+    });
     visitor.Click("frmMain", "ButtonExportCameras");
-    if (!watcher.SawResults()) throw std::runtime_error("the export showed no results");
+    results.Check();
     visitor.Photograph("frmMain");
+}
+
+/// Normal mode: import what was just exported, rename one of the new files.
+void ShowImport(Visitor& visitor) {
+    visitor.Say("leave demonstration mode");
+    visitor.Click("frmMain", "CheckDemoMode");
+    const Expecting import("frmImport", [&] {
+        visitor.Say("import the file that was just exported");
+        visitor.Click("frmImport", "OptionSource(2)");
+        visitor.Photograph("frmImport");
+        visitor.Click("frmImport", "ButtonStart");
+        visitor.Photograph("frmImport", "-finished");
+        visitor.Click("frmImport", "ButtonFinish");
+    });
+    visitor.Click("frmMain", "ButtonImportFiles");
+    import.Check();
+    const QString renamed = visitor.SelectFirst("MainList");
+    const Expecting rename("frmRename", [&] {
+        visitor.Say("rename \"" + renamed.toStdString() + "\"");
+        visitor.Photograph("frmRename");
+        QWidget& name = visitor.Find("frmRename", "TextFileName");
+        QTest::keyClicks(&name, "Town cameras_050");
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+    visitor.Click("frmMain", "ButtonRenameFile");
+    rename.Check();
+    visitor.Photograph("frmMain", "-imported");
+}
+
+void PrintNames(const fs::path& folder) {
+    std::set<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+        names.insert(entry.path().filename());
+    std::cout << "\n" << folder.filename().string() << "/:\n";
+    for (const std::string& name : names) std::cout << "    " << name << '\n';
 }
 
 int Tour(char* programName, const fs::path& source, const fs::path& output) {
@@ -150,8 +193,11 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     fs::create_directories(runtime);
     fs::permissions(runtime, fs::perms::owner_all);
     fs::copy(source, folder, fs::copy_options::recursive);
-    fs::remove_all(folder / "demo/txt_demo");
-    fs::create_directories(folder / "demo/txt_demo");
+    // The tour starts with what is installed, whatever has been done in the program folder.
+    for (const char* used : {"demo/txt_demo", "asc", "import/txt"}) {
+        fs::remove_all(folder / used);
+        fs::create_directories(folder / used);
+    }
 
     const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
     disk::PathFinder finder(locale.CodePage());
@@ -169,10 +215,13 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     if (program.Core().MainForm == nullptr) throw std::runtime_error("another tour is running");
 
     Visitor visitor(output);
-    Visit(visitor);
+    ShowExport(visitor);
+    fs::copy(folder / "demo/txt_demo/SpeedCamText.txt", folder / "import/txt");
+    ShowImport(visitor);
     program.MainForm().UserClose();
     Print(folder / "demo/Export Results.txt", 20);
     Print(folder / "demo/txt_demo/SpeedCamText.txt", 8);
+    PrintNames(folder / "asc");
     std::cout << "\nThe pictures and the program folder of this tour are in " << output.string() << "\n";
     return 0;
 }
