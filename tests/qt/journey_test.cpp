@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace halvenmoor {
@@ -24,7 +25,9 @@ namespace {
 class JourneyTest : public testing::Test {
 protected:
     JourneyTest() {
-        for (const char* name : {"asc", "txt", "lang", "demo/txt_demo"}) folder.AddFolder(name);
+        for (const char* name : {"asc", "txt", "lang", "demo/txt_demo", "import/ov2", "import/txt"}) {
+            folder.AddFolder(name);
+        }
         folder.Put("Settings.ini", "[Type1]\nfixed*\n[Mobile]\n(mobile)\n[Units]\nmph\n");
         folder.Put("lang/klingon.ini", "[Halvenmoor]\nButtonExportCameras=nob\n");
         folder.Put("demo/asc_demo/Fixed 50 mph.asc",
@@ -56,6 +59,45 @@ protected:
     QString Focused() { return Window("frmMain")->focusWidget()->objectName(); }
     QString Words(const char* window, const char* control) {
         return Widget(window, control).property("text").toString();
+    }
+
+    /// Does something in a window once it shows.
+    class Meeting {
+    public:
+        Meeting(JourneyTest& test, const char* window, std::function<void()> act) {
+            QObject::connect(&timer_, &QTimer::timeout, [this, &test, window, act = std::move(act)] {
+                if (test.Window(window) == nullptr) return;
+                timer_.stop();
+                act();
+            });
+            timer_.start(20);
+        }
+
+    private:
+        QTimer timer_;
+    };
+
+    /// Imports from OV2 (1) or TXT (2) and tells how many camera files the dialog counted at its end.
+    QString Import(int source) {
+        QString count;
+        const Meeting dialog(*this, "frmImport", [&] {
+            const std::string option = "OptionSource(" + std::to_string(source) + ")";
+            QTest::mouseClick(&Widget("frmImport", option.c_str()), Qt::LeftButton, {}, {8, 14});
+            QTest::mouseClick(&Widget("frmImport", "ButtonStart"), Qt::LeftButton);
+            EXPECT_TRUE(Widget("frmImport", "PictureFinished").isVisible());
+            count = Words("frmImport", "LabelTargetFiles");
+            QTest::keyClick(Window("frmImport"), Qt::Key_Escape);
+        });
+        Click("ButtonImportFiles");
+        return count;
+    }
+    /// Classifies by name and exports; the target's text.
+    std::string ClassifyAndExport() {
+        const Meeting results(*this, "frmResults",
+                              [this] { QTest::keyClick(Window("frmResults"), Qt::Key_Escape); });
+        Click("ButtonClassifyFiles");
+        Click("ButtonExportCameras");
+        return folder.Text("txt/SpeedCamText.txt");
     }
 
     TemporaryFolder folder;
@@ -90,16 +132,13 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
 
     bool sawRun = false;
     bool sawResults = false;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, [&] {
-        sawRun |= Window("frmExport") != nullptr;
-        if (Window("frmResults") == nullptr || sawResults) return;
+    const Meeting run(*this, "frmExport", [&] { sawRun = true; });
+    const Meeting results(*this, "frmResults", [&] {
         sawResults = true;
         EXPECT_EQ(Words("frmResults", "LabelExportedResult(0)"), "3");
         EXPECT_EQ(Words("frmResults", "LabelSkippedResult(1)"), "1");
         QTest::keyClick(Window("frmResults"), Qt::Key_Escape);
     });
-    watch.start(20);
     Click("ButtonExportCameras");
 
     EXPECT_TRUE(sawRun && sawResults);
@@ -112,6 +151,50 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
     Click("ButtonExitApplication");
     EXPECT_TRUE(program.Desktop().Ended());
     EXPECT_EQ(Window("frmMain"), nullptr);
+}
+
+TEST_F(JourneyTest, Ov2SourceIsImportedRenamedAndExported) {
+    // A skipper record, then one point, 0.5 degrees west and 51.25 north, named "Mill Lane".
+    const std::string skipper("\x01" + std::string(20, '\0'));
+    const std::string point("\x02\x17\0\0\0\xB0\x3C\xFF\xFF\x88\x33\x4E\0Mill Lane\0", 23);
+    folder.Put("import/ov2/lanes.OV2", skipper + point);
+    folder.Put("asc/old.asc", "1.5,2.5,\"old\"\n");
+    Click("CheckDemoMode");
+    EXPECT_EQ(Import(1), "1 File(s)");
+    ClickFirstRow("MainList");
+    const Meeting rename(*this, "frmRename", [this] {
+        QWidget& name = Widget("frmRename", "TextFileName");
+        QTest::keyClicks(&name, "Fixed 40 mph");
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+    Click("ButtonRenameFile");
+    EXPECT_EQ(Focused(), "MainList");
+    EXPECT_EQ(ClassifyAndExport(),
+              "X,Y,TYPE,SPEED,DirType,Direction\r\n"
+              "-0.50000,51.25000,1,40,0,0\r\n");
+}
+
+TEST_F(JourneyTest, TxtSourceComesBackAsItWas) {
+    folder.Put("Settings.ini",
+               "[Type1]\nFixed_*\n[Type3]\nRedLight_*\n[Type4]\nSection_*\n[Settings]\nSourceStructure=3\n");
+    folder.Put("import/txt/SpeedCamText.txt",
+               "X,Y,TYPE,SPEED,DirType,Direction\r\n"
+               "13.37700,52.51600,4,80,1,270\r\n"
+               "-0.5,51.25,1,50,2,90\r\n"
+               "1.5,41.5,3,70,1,180\r\n"
+               "11.5,48.1,1,50,0,45\r\n");
+    folder.Put("import/txt/short.txt", "2.25,41.75,1,120\n3.5,42.5,4,80\n");
+    Click("CheckDemoMode");
+    EXPECT_EQ(Import(2), "4 File(s)");
+    // By type and speed; a red light has no speed, and where DirType is 0 there is no direction.
+    EXPECT_EQ(ClassifyAndExport(),
+              "X,Y,TYPE,SPEED,DirType,Direction\r\n"
+              "-0.5,51.25,1,50,2,90\r\n"
+              "11.5,48.1,1,50,0,0\r\n"
+              "2.25,41.75,1,120,0,0\r\n"
+              "1.5,41.5,3,0,1,180\r\n"
+              "13.37700,52.51600,4,80,1,270\r\n"
+              "3.5,42.5,4,80,0,0\r\n");
 }
 
 }  // namespace
