@@ -169,19 +169,20 @@ private:
         return OkIf(pressed && headless::IndexOf(List(0), oldName) < 0);
     }
 
+    /// Also ok when the import ended as incomplete.
     Outcome Import(const std::string& source) {
         if (source != "ov2" && source != "txt") return Outcome::NotUnderstood;
-        bool finished = false;
+        bool hasRun = false;
         platform_.toolkit.Script([&](forms::Form& form) {
             auto& dialog = static_cast<frmImport&>(form);
             dialog.OptionSource[source == "ov2" ? 1 : 2].UserPress();
             dialog.ButtonStart.UserPress();
-            finished = dialog.PictureFinished.Visible();
+            hasRun = dialog.FilesModified();
             dialog.ButtonFinish.UserPress();
         });
         Window().ButtonImportFiles.UserPress();
         platform_.toolkit.ForgetScript();
-        return OkIf(finished);
+        return OkIf(hasRun);
     }
 
     Outcome PrintLists() {
