@@ -122,6 +122,14 @@ TYPED_TEST(FilesContract, CreatingTakesTheNameAsItIs) {
     EXPECT_EQ(this->world.Text("a.asc"), "small\r\n");
 }
 
+TYPED_TEST(FilesContract, NewFilesGoIntoTheFolderThatIsFound) {
+    this->world.Put("ASC/old.asc", "old");
+    this->object->CreateTextFile(this->At("asc/New.asc"))->WriteLine("new");
+    EXPECT_EQ(this->world.Text("ASC/New.asc"), "new\r\n");
+    this->host.Rename(this->At("asc/OLD.asc"), this->At("asc/b.asc"));
+    EXPECT_EQ(this->world.Text("ASC/b.asc"), "old");
+}
+
 TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
     this->world.Put("Asc/M\xC3\xBCnchen 50.ASC", "utf-8");
     this->world.Put("Asc/K\xF6ln.asc", "code page");

@@ -12,7 +12,7 @@
 namespace halvenmoor::platform {
 
 // Paths and names are bytes as the file system has them. A path is found without regard to letter case, the
-// exact one first; only creating a file takes the path as it is. Every failed call throws Failure.
+// exact one first; a new file gets its own name as it is given. Every failed call throws Failure.
 
 /// A text file being read. A line ends at CR LF or LF; a UTF-8 byte-order mark at the start is skipped.
 class TextReader {

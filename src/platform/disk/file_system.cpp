@@ -58,7 +58,7 @@ public:
     }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
-        return std::make_unique<DiskTextWriter>(OpenForWriting(std::string(path), WriteMode::Replace));
+        return std::make_unique<DiskTextWriter>(OpenForWriting(finder_.FindPlace(path), WriteMode::Replace));
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {

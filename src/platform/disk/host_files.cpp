@@ -48,7 +48,7 @@ std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view 
 
 void DiskHostFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     const std::string from = finder_.Find(oldPath);
-    const std::string to(newPath);
+    const std::string to = finder_.FindPlace(newPath);
     if (::renameat2(AT_FDCWD, SystemPath(from), AT_FDCWD, SystemPath(to), RENAME_NOREPLACE) == 0) return;
     const bool canTellItself = errno != EINVAL && errno != ENOSYS;
     if (canTellItself) throw SystemFailure(errno);

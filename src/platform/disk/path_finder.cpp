@@ -38,6 +38,12 @@ std::string PathFinder::Find(std::string_view path) {
     return found.empty() ? given : Join(folder, found);
 }
 
+std::string PathFinder::FindPlace(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string_view::npos || slash == 0) return std::string(path);
+    return Join(Find(path.substr(0, slash)), path.substr(slash + 1));
+}
+
 std::string PathFinder::FindName(const std::string& folder, std::string_view name) {
     Index& index = indexes_[folder];
     const std::string key = text::FoldedKey(name, page_);

@@ -150,9 +150,9 @@ public:
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         files_.Record("create", path);
-        if (!files_.IsFolder(FolderOf(path))) ThrowPathNotFound();
-        if (files_.IsFolder(path)) ThrowPermissionDenied();
-        Bytes& bytes = files_.entries_[std::string(path)];
+        const std::string place = files_.FindPlace(path);
+        if (files_.Has(place) && files_.IsFolder(place)) ThrowPermissionDenied();
+        Bytes& bytes = files_.entries_[place];
         if (!bytes) bytes = std::make_shared<std::string>();
         bytes->clear();
         return std::make_unique<MemoryWriter>(bytes);
@@ -227,10 +227,10 @@ void MemoryFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     Record("rename", std::string(oldPath).append(" > ").append(newPath));
     const std::string real = Find(oldPath);
     const Bytes bytes = RequireFile(oldPath);
-    if (!IsFolder(FolderOf(newPath))) ThrowPathNotFound();
-    if (Has(newPath)) throw Failure(failure::FileExists, "File already exists");
+    const std::string place = FindPlace(newPath);
+    if (Has(place)) throw Failure(failure::FileExists, "File already exists");
     entries_.erase(real);
-    entries_.emplace(newPath, bytes);
+    entries_.emplace(place, bytes);
 }
 
 void MemoryFiles::Record(std::string_view call, std::string_view path) {
@@ -247,6 +247,12 @@ std::string MemoryFiles::Find(std::string_view path) const {
         if (text::EqualIgnoringCase(name, NameOf(path), page_)) return Join(folder, name);
     }
     return std::string(path);
+}
+
+std::string MemoryFiles::FindPlace(std::string_view path) const {
+    const std::string folder = Find(FolderOf(path));
+    if (!IsFolder(folder)) ThrowPathNotFound();
+    return Join(folder, NameOf(path));
 }
 
 bool MemoryFiles::IsFile(std::string_view path) const {
