@@ -14,7 +14,6 @@ constexpr double kShortestTurn = 1e-6;
 }  // namespace
 
 void HeadlessView::Show() {
-    isShown_ = true;
     form_.Painted();
 }
 

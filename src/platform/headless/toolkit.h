@@ -18,7 +18,7 @@ public:
     explicit HeadlessView(forms::Form& form) : form_(form) {}
 
     void Show() override;
-    void Hide() override { isShown_ = false; }
+    void Hide() override {}
     void Update() override;
     forms::Point Position() const override { return position_; }
     forms::FrameMetrics Frame() const override {
@@ -28,14 +28,12 @@ public:
     forms::Twips RowHeight(const forms::ListBox&) const override { return 13 * forms::kTwipsPerPixel; }
     forms::Canvas& Canvas(forms::PictureBox& box) override;
 
-    bool IsShown() const { return isShown_; }
     /// The first row that its lists show: the user scrolled.
     int TopRow = 0;
 
 private:
     forms::Form& form_;
     forms::Point position_;
-    bool isShown_ = false;
     std::map<const forms::PictureBox*, MemoryCanvas> canvases_;
 };
 
