@@ -4,8 +4,10 @@
 #include "core/text/decode.h"
 #include "core/text/numbers.h"
 #include "core/text/trim.h"
+#include "core/text/words.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -16,50 +18,44 @@ namespace {
 
 constexpr std::size_t kMaxPosition = std::numeric_limits<std::int16_t>::max();
 
-/// Fails when the comma or quote behind that many bytes has no 16-bit position. Positions count characters,
-/// of which there are never more than bytes.
-void CheckPosition(std::string_view rest, std::size_t bytesBefore) {
-    if (bytesBefore < kMaxPosition) return;
-    if (text::CharacterCount(rest.substr(0, bytesBefore)) >= kMaxPosition) text::ThrowOverflow();
+/// Fails when the comma or quote behind that text has no 16-bit position. Positions count characters, of
+/// which there are never more than bytes.
+void CheckPosition(std::string_view before) {
+    if (before.size() < kMaxPosition) return;
+    if (text::CharacterCount(before) >= kMaxPosition) text::ThrowOverflow();
 }
 
-// Plain loops: what they look for is near.
-
-/// The bytes in front of the first comma. The end of the line counts as one.
-std::size_t BytesToComma(std::string_view rest) {
-    std::size_t bytes = 0;
-    while (bytes < rest.size() && rest[bytes] != ',') ++bytes;
-    CheckPosition(rest, bytes);
-    return bytes;
+/// The end of the line counts as a comma.
+std::string_view UpToComma(std::string_view rest) {
+    return rest.substr(0, std::min(rest.find(','), rest.size()));
 }
 
-std::size_t BytesToCommaOrQuote(std::string_view rest) {
-    std::size_t bytes = 0;
-    while (bytes < rest.size() && rest[bytes] != ',' && rest[bytes] != '"') ++bytes;
-    return bytes;
-}
-
-bool SplitFields(FieldList& fields, std::string_view rest) {
+/// Plain loops, since what they look for is near, except in a name.
+bool SplitFields(FieldList& fields, std::string_view line) {
+    const char* at = line.data();
+    const char* const end = at + line.size();
     while (fields.count < FieldList::kMaxCount) {
-        rest = text::TrimLeft(rest);
-        // The comma's position counts even where quotes hide the comma, but only a long line can break its
-        // limit.
-        if (rest.size() >= kMaxPosition) BytesToComma(rest);
-        std::size_t bytesToComma = 0;
+        while (at != end && *at == ' ') ++at;
+        const std::string_view rest(at, end);
+        // The comma's position counts even where quotes hide the comma.
+        if (rest.size() >= kMaxPosition) CheckPosition(UpToComma(rest));
+        const char* pastField = at;
         if (!rest.empty() && rest.front() == '"') {
             const std::size_t closingQuote = rest.find('"', 1);
             if (closingQuote == std::string_view::npos) return false;
-            CheckPosition(rest, closingQuote);
-            fields.Append(rest.substr(0, closingQuote + 1));
-            rest.remove_prefix(closingQuote + 1);
-            bytesToComma = BytesToComma(rest);
+            CheckPosition(rest.substr(0, closingQuote));
+            at = pastField += closingQuote + 1;
+            while (at != end && *at != ',') ++at;
+            CheckPosition({pastField, at});
         } else {
-            bytesToComma = BytesToCommaOrQuote(rest);
-            if (bytesToComma < rest.size() && rest[bytesToComma] == '"') return false;
-            fields.Append(text::Trim(rest.substr(0, bytesToComma)));
+            while (at != end && *at != ',' && *at != '"') ++at;
+            if (at != end && *at == '"') return false;
+            pastField = at;
+            while (pastField != rest.data() && pastField[-1] == ' ') --pastField;
         }
-        if (bytesToComma == rest.size()) return true;
-        rest.remove_prefix(bytesToComma + 1);
+        fields.Append({rest.data(), pastField});
+        if (at == end) return true;
+        ++at;
     }
     return true;
 }
@@ -76,32 +72,43 @@ bool SplitCameraLine(FieldList& fields, std::string_view& line) {
 
 namespace {
 
-/// A coordinate of the usual form: a sign, up to three digits, a point, up to twelve digits.
+/// A coordinate of the usual form: a sign or none, one to three digits, a point, digits or none.
 struct PlainDegrees {
-    int whole = 0;
+    unsigned whole = 0;
     bool hasFraction = false;
 
-    bool IsWithin(int limit) const { return whole < limit || (whole == limit && !hasFraction); }
+    bool IsWithin(unsigned limit) const { return whole < limit || (whole == limit && !hasFraction); }
     bool IsZero() const { return whole == 0 && !hasFraction; }
 };
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
+/// The values of up to eight digits, one in a byte. What is no digit gives more than 9.
+text::Word Digits(std::string_view text) {
+    return text::FirstBytes(text::LoadShort(text) ^ text::RepeatByte('0'), text.size());
 }
 
-/// Nothing for any other form, number or not. So many digits are never lost in a double, so the result tells
-/// the same as the number.
+bool AreDigits(text::Word digits) {
+    constexpr char upToHighBit = 0x80 - 10;
+    return (((digits + text::RepeatByte(upToHighBit)) | digits) & text::RepeatByte('\x80')) == 0;
+}
+
+/// Nothing for any other form, number or not. So few digits are never lost in a double, so the result tells
+/// the same as the number. Every coordinate comes here, so its characters are taken eight at a time.
 std::optional<PlainDegrees> ReadPlainDegrees(std::string_view text) {
-    PlainDegrees degrees;
-    std::size_t at = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
-    const std::size_t firstDigit = at;
-    const std::size_t pastWhole = std::min(firstDigit + 3, text.size());
-    for (; at < pastWhole && IsDigit(text[at]); ++at) degrees.whole = degrees.whole * 10 + (text[at] - '0');
-    if (at == firstDigit || at == text.size() || text[at] != '.') return std::nullopt;
-    const std::size_t firstDecimal = ++at;
-    for (; at < text.size() && IsDigit(text[at]); ++at) degrees.hasFraction |= text[at] != '0';
-    if (at < text.size() || at > firstDecimal + 12) return std::nullopt;
-    return degrees;
+    constexpr std::size_t most = sizeof(text::Word);
+    if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+    if (text.size() > 2 * most) return std::nullopt;
+    text::Word digits = Digits(text.substr(0, most));
+    const text::Word moreDigits = text.size() > most ? Digits(text.substr(most)) : 0;
+
+    const text::Word point = text::FirstZeroByte(digits ^ text::RepeatByte('.' ^ '0'));
+    const int wholeBits = std::countr_zero(point) / 8 * 8;
+    if (point == 0 || wholeBits < 8 || wholeBits > 24) return std::nullopt;
+    digits &= ~(text::Word{0xFF} << wholeBits);
+    if (!AreDigits(digits) || !AreDigits(moreDigits)) return std::nullopt;
+
+    const auto whole = static_cast<unsigned>(digits << (24 - wholeBits));
+    return PlainDegrees{.whole = (whole & 0xFF) * 100 + (whole >> 8 & 0xFF) * 10 + (whole >> 16 & 0xFF),
+                        .hasFraction = (digits >> wholeBits | moreDigits) != 0};
 }
 
 /// The point is what the user's decimal separator stands for here: a number with another separator beside the

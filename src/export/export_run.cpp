@@ -43,8 +43,8 @@ void ExportRun::Run(const ExportFile& file) {
 
 void ExportRun::ExportLine(std::string_view line, int typeOfList) {
     if (line.empty()) return;
-    FieldList fields;
-    const bool isSound = SplitCameraLine(fields, line);
+    const FieldList& fields = fields_;
+    const bool isSound = SplitCameraLine(fields_, line);
     if (!isSound || (fields.count != kFieldsOfRecord && fields.count != kFieldsOfExtendedRecord)) {
         if (fields.count >= 2) CountOne(exports_.CamerasSkipped, typeOfList);
         return;

@@ -39,6 +39,7 @@ private:
     std::optional<NamePatterns> namePatterns_;
     /// The two columns of the present file with the commas around them, by type.
     TypeTable<std::string> typeAndSpeed_;
+    FieldList fields_;
     std::string targetLine_;
 };
 

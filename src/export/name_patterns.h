@@ -2,22 +2,19 @@
 
 #include "core/patterns.h"
 #include "core/text/codepage.h"
+#include "core/text/decode.h"
+#include "export/pattern_filter.h"
 
-#include <array>
 #include <cstdint>
-#include <string>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace halvenmoor {
 
 /// The texts that set a camera's type by its name, prepared so that one pass over a name looks for all of
-/// them at once, ignoring case.
-///
-/// The patterns stand in a tree of bytes in which all spellings of a letter, capital or small, lead to the
-/// same state. A table tells by three bytes whether they can be the first bytes of a pattern, or those behind
-/// its first one; asking it at every other place of a name is enough to find where the tree has to be
-/// entered.
+/// them at once, ignoring case: a filter finds the places where one may begin, and a tree of their characters
+/// tells which does.
 class NamePatterns {
 public:
     /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page
@@ -26,45 +23,35 @@ public:
 
     /// The lowest type of which a pattern is found in the name, 0 when there is none. An empty pattern is
     /// found in every name that is not empty.
-    int NameMatchesAnyPattern(std::string_view name);
+    int NameMatchesAnyPattern(std::string_view name) const;
 
 private:
     static constexpr int kNoType = kLastType + 1;
-    /// Of each byte the table uses five bits, which capital and small ASCII letters have in common.
-    static constexpr unsigned kBitsOfByte = 5;
-    static constexpr std::size_t kKeyLength = 3;
 
-    struct State {
+    static constexpr std::uint32_t kRoot = 0xFFFFFFFF;
+    static constexpr std::uint32_t kNone = 0xFFFFFFFE;
+
+    /// A node of the tree, with the character that leads to it from its parent. Nodes go by their places in
+    /// the table.
+    struct Node {
+        /// kNone in a free place.
+        std::uint32_t parent = kNone;
+        char32_t character = 0;
         /// The lowest type of which a pattern ends here.
         int type = kNoType;
-        /// By byte class; 0 for none, since no state leads back to the root.
-        std::vector<std::uint32_t> next;
     };
 
-    static unsigned WithByte(unsigned key, char byte) {
-        return key << kBitsOfByte | (static_cast<unsigned char>(byte) & ((1u << kBitsOfByte) - 1));
-    }
-    static unsigned KeyAt(const char* bytes) {
-        return WithByte(WithByte(WithByte(0, bytes[0]), bytes[1]), bytes[2]);
-    }
-
     void Add(std::u32string_view foldedPattern, int type);
-    std::uint32_t StateBehind(std::uint32_t state, char32_t character);
-    std::uint32_t& Link(std::uint32_t state, char byte);
-    std::uint32_t LinkOrNew(std::uint32_t state, char byte);
-    void MarkKeys(std::uint32_t state, unsigned key, std::size_t length);
-    int LowestTypeAt(std::string_view text) const;
-    int LowestTypeIn(std::string_view text) const;
+    /// The place of the child, which is free if there is no such child.
+    std::uint32_t PlaceOfChild(std::uint32_t parent, char32_t character) const;
+    int LowestTypeIn(std::string_view name) const;
+    int LowestTypeAt(text::CharacterReader text) const;
 
     const text::CodePage& codePage_;
-    /// Bytes that no pattern holds share class 0; a capital ASCII letter has the class of its small letter.
-    std::array<std::uint8_t, 256> classOfByte_{};
-    std::size_t classCount_ = 1;
-    std::vector<State> states_{1};
-    /// By key: whether a pattern may be near.
-    std::vector<char> isNear_;
-    bool hasPatternBeyondAscii_ = false;
-    std::string folded_;
+    std::optional<PatternFilter> filter_;
+    /// A hash table with a power of two places, half of them free.
+    std::vector<Node> nodes_;
+    int typeOfEmptyPattern_ = kNoType;
 };
 
 }  // namespace halvenmoor

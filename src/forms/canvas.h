@@ -18,7 +18,7 @@ public:
     virtual void FillRect(const PixelRect& area, Color color) = 0;
     /// One line of UTF-8 text without a background, centred both ways in the area.
     virtual void DrawText(std::string_view text, const PixelRect& area, const Font& font, Color color) = 0;
-    /// A line one pixel wide. The pixel at its end is not drawn.
+    /// A horizontal or vertical line one pixel wide. The pixel at its end is not drawn.
     virtual void DrawLine(PixelPoint from, PixelPoint to, Color color) = 0;
     /// Limits all drawing to the area, until ClearClip. An empty area lets nothing through.
     virtual void SetClip(const PixelRect& area) = 0;

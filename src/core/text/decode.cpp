@@ -62,6 +62,14 @@ bool IsValidUtf8(std::string_view bytes) noexcept {
     }
 }
 
+std::optional<CharacterReader> CharacterReader::SkipBytes(std::size_t count) const noexcept {
+    CharacterReader rest = *this;
+    rest.at_ += count;
+    if (isUtf8_ && !rest.AtEnd() && IsContinuation(static_cast<unsigned char>(*rest.at_)))
+        return std::nullopt;
+    return rest;
+}
+
 char32_t CharacterReader::FinishSequence(unsigned char lead) noexcept {
     const int following = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
     char32_t character = lead & (0x3FU >> following);

@@ -3,6 +3,7 @@
 #include "core/text/codepage.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,9 @@ public:
 
     /// Where the next character begins.
     const char* Position() const noexcept { return at_; }
+
+    /// A reader of what begins so many bytes further on; nothing where no character begins.
+    std::optional<CharacterReader> SkipBytes(std::size_t count) const noexcept;
 
 private:
     char32_t FinishSequence(unsigned char lead) noexcept;

@@ -3,9 +3,19 @@
 #include "core/text/decode.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 namespace halvenmoor::headless {
+
+namespace {
+
+/// Which places a line covers along one axis, the second one excluded.
+std::pair<int, int> Covered(int from, int to) {
+    if (to < from) return {to + 1, from + 1};
+    return {from, std::max(to, from + 1)};
+}
+
+}  // namespace
 
 MemoryCanvas::MemoryCanvas(const forms::Place& place)
     : width_(forms::ToPixels(place.width)),
@@ -33,12 +43,9 @@ void MemoryCanvas::DrawText(std::string_view text, const forms::PixelRect& area,
 }
 
 void MemoryCanvas::DrawLine(forms::PixelPoint from, forms::PixelPoint to, forms::Color color) {
-    const int steps = std::max(std::abs(to.x - from.x), std::abs(to.y - from.y));
-    for (int i = 0; i < steps; ++i) {
-        const int x = from.x + (to.x - from.x) * i / steps;
-        const int y = from.y + (to.y - from.y) * i / steps;
-        FillRect({x, y, x + 1, y + 1}, color);
-    }
+    const auto [left, right] = Covered(from.x, to.x);
+    const auto [top, bottom] = Covered(from.y, to.y);
+    FillRect({left, top, right, bottom}, color);
 }
 
 }  // namespace halvenmoor::headless
