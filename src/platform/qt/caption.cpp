@@ -31,6 +31,8 @@ FittedCaption FitCaption(const QString& caption, QFont font, const QSize& room, 
     for (const int stretch : kStretches) {
         font.setStretch(stretch);
         if (Fits(caption, font, room, lines)) return {caption, font};
+        // Hints would round the width of each letter to whole pixels, by far more than these steps.
+        font.setHintingPreference(QFont::PreferNoHinting);
     }
     return {Elided(caption, font, room, lines), font};
 }
