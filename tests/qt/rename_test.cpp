@@ -1,9 +1,4 @@
-#include "platform/headless/manual_clock.h"
-#include "platform/headless/memory_files.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "program.h"
-#include "window_fixture.h"
+#include "program_fixture.h"
 
 #include <QLineEdit>
 #include <QScrollBar>
@@ -12,18 +7,16 @@ namespace halvenmoor::qt {
 
 namespace {
 
-/// The real windows over files in memory, with 80 of them in the list: "camera 10" to "camera 89".
-class RenameWindow : public testing::Test {
+/// The main window with 80 files in its list: "camera 10" to "camera 89".
+class RenameWindow : public ProgramWindows {
 protected:
     RenameWindow() {
         for (int i = 10; i < 90; ++i) memory.Put(PathOf("camera " + std::to_string(i)), "");
         program.Start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
     }
-    ~RenameWindow() override { program.MainForm().UserClose(); }
 
     static std::string PathOf(const std::string& entry) { return "/p/demo/asc_demo/" + entry + ".asc"; }
-    QWidget& Main() { return *dynamic_cast<QWidget*>(program.MainForm().View()); }
     QListView& List() { return *Main().findChild<QListView*>("MainList"); }
     QRect RowOnScreen(int row) {
         const QRect place = List().visualRect(List().model()->index(row, 0));
@@ -56,18 +49,6 @@ protected:
         Main().activateWindow();  // as a window manager does
         EXPECT_TRUE(GetsFocus(List()));
     }
-
-    headless::MemoryFiles memory;
-    headless::FixedApplication application{"/p"};
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    WesternLocale locale;
-    QtToolkit toolkit{locale};
-    Program program{{memory, memory, application, clock, settings, messages, fileDialogs, theme, locale},
-                    toolkit};
 };
 
 TEST_F(RenameWindow, OpensBesideTheRowOfAScrolledList) {

@@ -8,7 +8,6 @@
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 #include <algorithm>
-#include <type_traits>
 
 namespace halvenmoor::qt {
 
@@ -37,6 +36,13 @@ bool IsFilled(forms::Glyph glyph) {
 
 }  // namespace
 
+QRect GlyphButton::CaptionRoom() const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    constexpr int kGap = 3;  // between the words and the border
+    return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).adjusted(kGap, 0, -kGap, 0);
+}
+
 void GlyphButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     if (glyph_ == forms::Glyph::None) return;
@@ -57,8 +63,15 @@ void GlyphButton::paintEvent(QPaintEvent* event) {
 }
 
 template <class Base>
+QRect WrappingToggle<Base>::CaptionRoom() const {
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    return this->style()->subElementRect(
+        kIsCheckBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option, this);
+}
+
+template <class Base>
 void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
-    constexpr bool isCheckBox = std::is_same_v<Base, QCheckBox>;
     QStyleOptionButton option;
     this->initStyleOption(&option);
     const QString words = std::exchange(option.text, {});
@@ -66,9 +79,8 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
     option.state &= ~QStyle::State_HasFocus;
 
     QStylePainter painter(this);
-    painter.drawControl(isCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
-    const QRect contents = this->style()->subElementRect(
-        isCheckBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option, this);
+    painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
+    const QRect contents = CaptionRoom();
     const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap | Qt::TextShowMnemonic;
     painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
     if (!hasFocus) return;
@@ -93,8 +105,8 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
 }
 
 void CommandButtonView::ShowState() {
-    const bool hasWords = Control().AtDesign().glyph == forms::Glyph::None;
-    Widget().setText(hasWords ? ToCaption(Control().Caption(), CodePage()) : QString());
+    if (Control().AtDesign().glyph != forms::Glyph::None) return;
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextSingleLine)));
 }
 
 CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::CodePage& page)
@@ -106,7 +118,7 @@ CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::Co
 }
 
 void CheckBoxView::ShowState() {
-    Widget().setText(ToCaption(Control().Caption(), CodePage()));
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
     Widget().setChecked(Control().Value());
 }
 
@@ -119,7 +131,7 @@ OptionButtonView::OptionButtonView(forms::OptionButton& button, QWidget& parent,
 }
 
 void OptionButtonView::ShowState() {
-    Widget().setText(ToCaption(Control().Caption(), CodePage()));
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
     Widget().setAutoExclusive(false);  // a group would not let its last button go off
     Widget().setChecked(Control().Value());
     Widget().setAutoExclusive(true);

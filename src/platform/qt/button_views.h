@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <type_traits>
 
 namespace halvenmoor::qt {
 
@@ -14,6 +15,8 @@ public:
     explicit GlyphButton(QWidget* parent) : QPushButton(parent) {}
 
     void SetGlyph(forms::Glyph glyph) { glyph_ = glyph; }
+    /// Where the words may stand.
+    QRect CaptionRoom() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,9 +31,15 @@ class WrappingToggle : public Base {
 public:
     explicit WrappingToggle(QWidget* parent) : Base(parent) {}
 
+    /// Where the words may stand.
+    QRect CaptionRoom() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     bool hitButton(const QPoint& position) const override { return this->rect().contains(position); }
+
+private:
+    static constexpr bool kIsCheckBox = std::is_same_v<Base, QCheckBox>;
 };
 
 class CommandButtonView : public ViewOf<forms::CommandButton, GlyphButton> {

@@ -1,6 +1,7 @@
 #include "platform/qt/control_view.h"
 
 #include "platform/qt/button_views.h"
+#include "platform/qt/caption.h"
 #include "platform/qt/combo_view.h"
 #include "platform/qt/conversions.h"
 #include "platform/qt/list_view.h"
@@ -16,6 +17,11 @@ namespace {
 template <class View>
 std::unique_ptr<ControlView> Make(forms::Control& control, QWidget& parent, const text::CodePage& page) {
     return std::make_unique<View>(static_cast<typename View::ControlType&>(control), parent, page);
+}
+
+/// Qt shows as markup what looks like it, so plain text is made markup that shows it.
+QString ToToolTip(const QString& text) {
+    return text.isEmpty() ? text : Qt::convertFromPlainText(text);
 }
 
 std::unique_ptr<ControlView> MakeByKind(forms::Control& control, QWidget& parent,
@@ -54,10 +60,17 @@ void ControlView::Update() {
         widget_.setPalette(colors);
     }
     const QString toolTip = QString::fromStdString(control_.ToolTip());
-    // Qt shows as markup what looks like it, so plain text is made markup that shows it.
-    widget_.setToolTip(toolTip.isEmpty() ? toolTip : Qt::convertFromPlainText(toolTip));
+    widget_.setToolTip(ToToolTip(toolTip));
     widget_.setAccessibleDescription(toolTip);
     ShowState();
+}
+
+QString ControlView::ShownCaption(const QSize& room, Qt::TextFlag lines) {
+    const QString caption = ToText(control_.Caption(), page_);
+    const FittedCaption fitted = FitCaption(caption, ToFont({}), room, lines);
+    widget_.setFont(fitted.font);
+    if (fitted.text != caption && control_.ToolTip().empty()) widget_.setToolTip(ToToolTip(caption));
+    return fitted.text;
 }
 
 std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& parent,

@@ -21,7 +21,13 @@ public:
     void Update();
 
 protected:
-    ControlView(const forms::Control& control, QWidget& widget) : control_(control), widget_(widget) {}
+    ControlView(const forms::Control& control, QWidget& widget, const text::CodePage& page)
+        : control_(control), widget_(widget), page_(page) {}
+
+    /// The control's caption as it fits its room, for one line or for several; the widget takes the font in
+    /// which it does. What is cut off can be read in the tool tip.
+    QString ShownCaption(const QSize& room, Qt::TextFlag lines);
+    const text::CodePage& CodePage() const { return page_; }
 
 private:
     /// The part of the state that only this kind of control has.
@@ -29,25 +35,24 @@ private:
 
     const forms::Control& control_;
     QWidget& widget_;
+    const text::CodePage& page_;
 };
 
-/// What the views of all kinds share: the control, its widget, and the code page, which outlives the view.
+/// What the views of all kinds share: control and widget by their kinds. The code page outlives the view.
 template <class ControlKind, class WidgetKind>
 class ViewOf : public ControlView {
 public:
     using ControlType = ControlKind;
 
     ViewOf(ControlKind& control, QWidget& parent, const text::CodePage& page)
-        : ControlView(control, *new WidgetKind(&parent)), control_(control), page_(page) {}
+        : ControlView(control, *new WidgetKind(&parent), page), control_(control) {}
 
 protected:
     ControlKind& Control() const { return control_; }
     WidgetKind& Widget() const { return static_cast<WidgetKind&>(ControlView::Widget()); }
-    const text::CodePage& CodePage() const { return page_; }
 
 private:
     ControlKind& control_;
-    const text::CodePage& page_;
 };
 
 /// Builds the view that fits the control's kind. The code page outlives the view.

@@ -30,8 +30,8 @@ QString ToRow(std::string_view bytes, const text::CodePage& page) {
     return row;
 }
 
-QString ToCaption(std::string_view bytes, const text::CodePage& page) {
-    return ToText(bytes, page).replace(u'&', QStringLiteral("&&"));
+QString WithoutShortcut(QString text) {
+    return text.replace(u'&', QStringLiteral("&&"));
 }
 
 std::string ToUtf8(const QString& text) {

@@ -20,8 +20,8 @@ QString ToText(std::string_view bytes, const text::CodePage& page);
 /// The same for one row of a list: characters that would break the line show as their signs.
 QString ToRow(std::string_view bytes, const text::CodePage& page);
 
-/// The same for a control that would take an & for the mark of a shortcut.
-QString ToCaption(std::string_view bytes, const text::CodePage& page);
+/// A text for a control that would take an & for the mark of a shortcut.
+QString WithoutShortcut(QString text);
 
 std::string ToUtf8(const QString& text);
 

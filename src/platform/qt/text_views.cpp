@@ -18,15 +18,17 @@ LabelView::LabelView(forms::Label& label, QWidget& parent, const text::CodePage&
 }
 
 void LabelView::ShowState() {
-    Widget().setText(ToText(Control().Caption(), CodePage()));
+    Widget().setText(ShownCaption(Widget().contentsRect().size(), Qt::TextWordWrap));
+}
+
+QRect TitledFrame::TitleRoom() const {
+    return rect().adjusted(kIndent + kGap, 0, -kIndent - kGap, 0);
 }
 
 void TitledFrame::paintEvent(QPaintEvent*) {
-    constexpr int kIndent = 8;
-    constexpr int kGap = 3;
     constexpr float kBorderStrength = 0.25F;
     const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
-    const QRect room = rect().adjusted(kIndent + kGap, 0, -kIndent - kGap, 0);
+    const QRect room = TitleRoom();
     const QRect words = style()->itemTextRect(fontMetrics(), room, flags, isEnabled(), title()) & room;
 
     QStylePainter painter(this);
@@ -43,7 +45,7 @@ void TitledFrame::paintEvent(QPaintEvent*) {
 }
 
 void FrameView::ShowState() {
-    Widget().setTitle(ToCaption(Control().Caption(), CodePage()));
+    Widget().setTitle(WithoutShortcut(ShownCaption(Widget().TitleRoom().size(), Qt::TextSingleLine)));
 }
 
 TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page)

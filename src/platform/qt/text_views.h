@@ -22,8 +22,15 @@ class TitledFrame : public QGroupBox {
 public:
     explicit TitledFrame(QWidget* parent) : QGroupBox(parent) {}
 
+    /// Where the title may stand.
+    QRect TitleRoom() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    static constexpr int kIndent = 8;
+    static constexpr int kGap = 3;
 };
 
 class FrameView : public ViewOf<forms::Frame, TitledFrame> {

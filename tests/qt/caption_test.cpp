@@ -1,0 +1,210 @@
+// Captions that are too wide for their controls, and whether those of the languages fit.
+
+#include "platform/qt/caption.h"
+
+#include "export/frmExport.h"
+#include "export/frmResults.h"
+#include "import/frmImport.h"
+#include "platform/qt/conversions.h"
+#include "program_fixture.h"
+#include "ui/cNamesClass.h"
+#include "ui/frmRename.h"
+
+#include <QFontInfo>
+#include <QTextDocumentFragment>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <utility>
+
+namespace halvenmoor::qt {
+namespace {
+
+QWidget& WidgetOf(const forms::Control& control) {
+    auto& window = dynamic_cast<QWidget&>(*control.Owner().View());
+    return *window.findChild<QWidget*>(QString::fromStdString(control.Name()));
+}
+
+QString ShownText(const forms::Control& control) {
+    return WidgetOf(control).property(control.Kind() == forms::Kind::Frame ? "title" : "text").toString();
+}
+
+QString ToolTipText(const QWidget& widget) {
+    return QTextDocumentFragment::fromHtml(widget.toolTip()).toPlainText();
+}
+
+TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
+    const std::pair<forms::Control*, const char*> cases[] = {{&form.label, "label"},
+                                                             {&form.frame, "frame"},
+                                                             {&form.first, "button"},
+                                                             {&form.check, "check box"},
+                                                             {&form.optionA, "option button"}};
+    for (const auto& [control, kind] : cases) {
+        SCOPED_TRACE(kind);
+        const QWidget& widget = WidgetOf(*control);
+        std::string caption;
+        const auto lengthen = [&, shown = control] {
+            shown->SetCaption(caption += "i");
+            desktop.Yield();
+        };
+        const auto isWhole = [&, shown = control] { return ShownText(*shown).toStdString() == caption; };
+        do lengthen();
+        while (widget.font().stretch() == 100 && caption.size() < 80);
+        EXPECT_TRUE(isWhole());
+        EXPECT_EQ(widget.toolTip(), "");
+        const std::size_t atFirst = caption.size();
+        do lengthen();
+        while (isWhole() && caption.size() < 99);
+        EXPECT_GT(caption.size(), atFirst + 2);
+        EXPECT_EQ(widget.font().stretch(), 85);
+        EXPECT_TRUE(ShownText(*control).endsWith(u"i\u2026"));
+        EXPECT_EQ(ToolTipText(widget).toStdString(), caption);
+
+        control->SetToolTip("own");
+        desktop.Yield();
+        EXPECT_EQ(ToolTipText(widget), "own");
+        control->SetToolTip("");
+        control->SetCaption("i");
+        desktop.Yield();
+        EXPECT_EQ(widget.font().stretch(), 100);
+        EXPECT_EQ(widget.toolTip(), "");
+    }
+}
+
+TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
+    const QFont font = ToFont({});
+    const QString caption = "four words in two lines and then some more";
+    const FittedCaption twoLines = FitCaption(caption, font, {100, 26}, Qt::TextWordWrap);
+    EXPECT_TRUE(twoLines.text.startsWith("four words in two lines"));
+    EXPECT_TRUE(twoLines.text.endsWith(u"\u2026"));
+    const FittedCaption tooLow = FitCaption(caption, font, {100, 2}, Qt::TextWordWrap);
+    EXPECT_TRUE(tooLow.text.startsWith("four words")) << "the height of a line is always there";
+    EXPECT_EQ(FitCaption(caption, font, {1, 26}, Qt::TextSingleLine).text, u"\u2026");
+}
+
+/// A window that is looked at and closes, in place of what it does otherwise.
+template <class Window>
+class Shown : public Window {
+public:
+    template <class... Arguments>
+    explicit Shown(std::function<void(Window&)> look, Arguments&&... arguments)
+        : Window(std::forward<Arguments>(arguments)...), look_(std::move(look)) {}
+
+protected:
+    void Activate() override {
+        look_(*this);
+        this->Unload();
+    }
+
+private:
+    std::function<void(Window&)> look_;
+};
+
+/// The place of a caption in its control, estimated with care.
+QRect RoomOf(const forms::Control& control) {
+    const QWidget& widget = WidgetOf(control);
+    switch (control.Kind()) {
+        case forms::Kind::Frame:
+            return widget.rect().adjusted(11, 0, -11, 0);
+        case forms::Kind::CommandButton:
+            return widget.rect().adjusted(4, 4, -4, -4);
+        case forms::Kind::CheckBox:
+        case forms::Kind::OptionButton:
+            return widget.rect().adjusted(20, 0, 0, 0);
+        default:
+            return widget.contentsRect();
+    }
+}
+
+bool IsOneLine(forms::Kind kind) {
+    return kind == forms::Kind::Frame || kind == forms::Kind::CommandButton;
+}
+
+bool HasCaption(const forms::Control& control) {
+    const forms::Kind kind = control.Kind();
+    return (IsOneLine(kind) || kind == forms::Kind::Label || kind == forms::Kind::CheckBox ||
+            kind == forms::Kind::OptionButton) &&
+           control.AtDesign().glyph == forms::Glyph::None;
+}
+
+void ExpectAllFits(forms::Form& form) {
+    form.Owner().Yield();
+    for (const forms::Control* control : form.Controls()) {
+        if (!HasCaption(*control)) continue;
+        const QWidget& widget = WidgetOf(*control);
+        const QRect room = RoomOf(*control);
+        const auto lines = IsOneLine(control->Kind()) ? Qt::TextSingleLine : Qt::TextWordWrap;
+        const QRect words = QFontMetrics(widget.font()).boundingRect(room, lines, ShownText(*control));
+        EXPECT_EQ(ShownText(*control).toStdString(), control->Caption()) << control->Name();
+        EXPECT_TRUE(room.contains(words))
+            << control->Caption() << " is " << words.width() << " x " << words.height() << ", has "
+            << room.width() << " x " << room.height();
+        EXPECT_GE(widget.font().stretch(), 85) << control->Caption();
+    }
+    const auto& window = dynamic_cast<QWidget&>(*form.View());
+    EXPECT_LE(window.fontMetrics().horizontalAdvance(window.windowTitle()), window.width());
+}
+
+class LanguageWindows : public ProgramWindows {
+protected:
+    LanguageWindows() {
+        for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
+            std::ifstream bytes(file.path(), std::ios::binary);
+            memory.Put("/p/lang/" + file.path().filename().string(),
+                       std::string(std::istreambuf_iterator<char>(bytes), {}));
+        }
+        memory.Put("/p/demo/asc_demo/camera.asc", "");
+        program.Start();
+        Form().MainList.UserSelect({0}, 0);
+    }
+
+    frmMain& Form() { return program.MainForm(); }
+
+    template <class Window, class... Arguments>
+    void Look(const std::function<void(Window&)>& prepare, Arguments&&... arguments) {
+        bool shown = false;
+        Shown<Window> window(
+            [&](Window& form) {
+                shown = true;
+                prepare(form);
+                ExpectAllFits(form);
+            },
+            std::forward<Arguments>(arguments)...);
+        program.Desktop().ShowModal(window);
+        EXPECT_TRUE(shown);
+    }
+
+    void LookAtAllWindows() {
+        const cNamesClass& names = *program.Core().Names;
+        ExpectAllFits(Form());
+        for (const std::int16_t mode : {kReplaceFile, kAppendToFile}) {
+            program.Core().ExportMode = mode;
+            Look<frmExport>([](auto&) {}, program.Exports());
+            Look<frmResults>([](auto&) {}, program.Exports());
+        }
+        Look<frmImport>(
+            [&](frmImport& form) {
+                form.LabelSourceFiles.SetCaption("32767 " + names.LabelNumberOfFiles() + "(s)");
+                form.LabelAddedRecords.SetCaption("1000000 " + names.LabelNumberOfCameras() + "(s)");
+            },
+            Form());
+        Look<frmRename>([](auto&) {}, program.Core(), Form().MainList);
+    }
+};
+
+TEST_F(LanguageWindows, EveryCaptionFits) {
+    const std::string font = QFontInfo(ToFont({})).family().toStdString();
+    EXPECT_TRUE(font == "Verdana" || font == "DejaVu Sans") << font;
+    std::set<std::string> words;
+    for (int i = 0; i < Form().LanguageList.ListCount(); ++i) {
+        EXPECT_TRUE(Form().LanguageList.UserChoose(i));
+        SCOPED_TRACE(Form().LanguageList.Text());
+        words.insert(Form().LabelSelectLanguage.Caption());
+        LookAtAllWindows();
+    }
+    EXPECT_EQ(words.size(), 16U) << "each language showed";
+}
+
+}  // namespace
+}  // namespace halvenmoor::qt
