@@ -4,6 +4,7 @@
 #include "core/text/lettercase.h"
 
 #include <algorithm>
+#include <bit>
 #include <set>
 
 namespace halvenmoor {
@@ -38,7 +39,9 @@ std::vector<std::string> CodePageSpellings(char32_t folded, const text::CodePage
 
 }  // namespace
 
-PatternFilter::PatternFilter(std::span<const std::u32string> patterns, const text::CodePage& codePage) {
+PatternFilter::PatternFilter(std::span<const std::u32string> patterns, const text::CodePage& codePage)
+    : bucketShift_(64 - static_cast<int>(std::bit_width(4 * patterns.size() + 1))) {
+    buckets_.resize(std::size_t{1} << (64 - bucketShift_));
     // A character has one byte at least, and the second part of a pattern lacks the first one.
     for (const std::u32string& pattern : patterns) fewestBytes_ = std::min(fewestBytes_, pattern.size() - 1);
     bucketMask_ = text::FirstBytes(kComparedBits, fewestBytes_);

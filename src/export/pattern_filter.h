@@ -28,10 +28,8 @@ public:
     template <typename Visit>
     void ForEachPlace(std::string_view text, Visit visit) const {
         std::size_t place = 1;
-        for (; place + sizeof(Word) <= text.size(); place += 2) {
-            const Word bytes = text::Load<Word>(text.data() + place);
-            if (IsKnown(bytes)) VisitNear(bytes, place, visit);
-        }
+        for (; place + sizeof(Word) <= text.size(); place += 2)
+            VisitNear(text::Load<Word>(text.data() + place), place, visit);
         // Zeros behind the end disturb no part that ends there, since its mask leaves them out.
         for (; place + fewestBytes_ <= text.size(); place += 2)
             VisitNear(text::LoadShort(text.substr(place)), place, visit);
@@ -44,7 +42,6 @@ private:
 
     static constexpr std::size_t kLongestKey = 5;
     static constexpr int kHashBits = 15;
-    static constexpr int kBucketBits = 10;
 
     struct Part {
         Word bytes;
@@ -56,10 +53,10 @@ private:
     };
 
     static std::uint64_t Hash(Word bytes) { return bytes * 0x9E3779B97F4A7C15u; }
-    bool IsKnown(Word bytes) const { return isKnown_[Hash(bytes & keyMask_) >> (64 - kHashBits)]; }
-    std::size_t BucketOf(Word bytes) const { return Hash(bytes & bucketMask_) >> (64 - kBucketBits); }
+    std::size_t BucketOf(Word bytes) const { return Hash(bytes & bucketMask_) >> bucketShift_; }
     template <typename Visit>
     void VisitNear(Word bytes, std::size_t place, Visit& visit) const {
+        if (!isKnown_[Hash(bytes & keyMask_) >> (64 - kHashBits)]) return;
         std::array<bool, 2> mayBegin{};
         for (std::uint32_t part = buckets_[BucketOf(bytes)]; part != 0; part = parts_[part].next)
             mayBegin[parts_[part].offset] |= (bytes & parts_[part].mask) == parts_[part].bytes;
@@ -78,7 +75,8 @@ private:
     /// By hash of the key: whether there is such a part. Small enough for the fastest memory.
     std::array<bool, std::size_t{1} << kHashBits> isKnown_{};
     /// The first part with such bytes, 0 for none.
-    std::array<std::uint32_t, std::size_t{1} << kBucketBits> buckets_{};
+    std::vector<std::uint32_t> buckets_;
+    int bucketShift_;
     std::vector<Part> parts_{1};
 };
 

@@ -43,6 +43,15 @@ Ov2Record Point(std::string_view bytes) {
     return record;
 }
 
+/// What each character of a name becomes.
+constexpr std::array<char, 256> kCleanCharacters = [] {
+    std::array<char, 256> clean{};
+    for (std::size_t i = 0; i < clean.size(); ++i) clean[i] = static_cast<char>(i);
+    clean[','] = ';';
+    clean['"'] = '\'';
+    return clean;
+}();
+
 bool IsBlankOrZero(char character) {
     return character == ' ' || character == '\0';
 }
@@ -90,28 +99,21 @@ void CleanPoiName(std::string& out, std::string_view name) {
     name.remove_suffix(1);
     while (!name.empty() && IsBlankOrZero(name.front())) name.remove_prefix(1);
     while (!name.empty() && IsBlankOrZero(name.back())) name.remove_suffix(1);
-    // Names are most of an OV2 file: the room is made once, for commas that grow to two characters.
+    // Names are most of an OV2 file: the room is made once, for commas that grow to two characters, and no
+    // branch depends on what is frequent in a name.
     const std::size_t begin = out.size();
-    out.resize(begin + 2 * name.size() + 2);
+    out.resize(begin + 2 * name.size() + 3);
     char* end = out.data() + begin;
     *end++ = '"';
+    bool isBehindBlank = false;
     for (const char character : name) {
-        switch (character) {
-            case '\0':
-                break;
-            case ' ':
-                if (end[-1] != ' ') *end++ = ' ';
-                break;
-            case ',':
-                *end++ = ';';
-                *end++ = ' ';
-                break;
-            case '"':
-                *end++ = '\'';
-                break;
-            default:
-                *end++ = character;
-        }
+        if (character == '\0') continue;
+        const bool isBlank = character == ' ';
+        const bool isComma = character == ',';
+        end[0] = kCleanCharacters[static_cast<unsigned char>(character)];
+        end[1] = ' ';
+        end += 1 + isComma - (isBlank & isBehindBlank);
+        isBehindBlank = isBlank | isComma;
     }
     *end++ = '"';
     out.resize(static_cast<std::size_t>(end - out.data()));
