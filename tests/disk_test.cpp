@@ -59,6 +59,8 @@ TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
     const std::string longLine(5 * bufferSize + 7, 'x');
     folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
     EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
+    folder.Put("a", std::string(bufferSize, 'z'));
+    EXPECT_TRUE(LinesOf("a") == Strings{std::string(bufferSize, 'z')});
 
     const auto writer = object->CreateTextFile(folder / "b");
     writer->WriteLine("short");
