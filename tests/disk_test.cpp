@@ -5,14 +5,18 @@
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
+#include "platform/disk/streams.h"
 #include "temporary_folder.h"
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace halvenmoor {
 namespace {
@@ -68,6 +72,17 @@ TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
     writer->WriteLine(std::string(bufferSize, 'y'));
     writer->Close();
     EXPECT_TRUE(folder.Text("b") == "short\r\n" + longLine + "\r\n" + std::string(bufferSize, 'y') + "\r\n");
+}
+
+TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_DIRECT), 0);  // one read gives what one write put in
+    disk::DiskTextReader reader{disk::FileDescriptor(ends[0])};
+    disk::FileDescriptor out(ends[1]);
+    EXPECT_EQ(out.Write("\xEF\xBB\xBF"), 0);
+    EXPECT_EQ(out.Write("line"), 0);
+    out.Close();
+    EXPECT_EQ(ReadLines(reader), Strings{"line"});
 }
 
 TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {

@@ -79,7 +79,7 @@ bool DiskTextReader::Fill() {
     }
     isStarted_ = true;
     if (input_.Unread().starts_with(byteOrderMark)) input_.Take(byteOrderMark.size());
-    return !input_.Unread().empty();
+    return !input_.Unread().empty() || input_.Fill();
 }
 
 std::size_t DiskByteReader::Read(std::span<char> buffer) {
