@@ -179,6 +179,15 @@ TEST_F(Bounded, RecordsOfTxtSourcesAreKeptUntilTheyAreWritten) {
     ExpectTakesAtMost(20 * manySpeeds.size(), [&] { TxtImport(task).ReadTxtFiles(); });
 }
 
+TEST_F(Bounded, SettingsTakeNoStringForEachComma) {
+    const std::string text = "[Type1]\n" + std::string(16 * kMegabyte, ',');
+    folder.Put("Settings.ini", text);
+    ExpectTakesAtMost(5 * text.size(), [this] {
+        const cSettingsClass read(fileSystem, folder / "Settings.ini");
+        EXPECT_EQ(read.TypeFileNamePatterns()[1]->size(), kMaxPatterns + 1);
+    });
+}
+
 /// One that tries every way would not come to an end.
 TEST(WildcardTime, StarsDoNotMultiply) {
     std::string pattern;
