@@ -57,6 +57,7 @@ protected:
     static void PlayWithFault(int call, bool isLasting) {
         JourneyProgram program;
         if (!GetParam().isStart) program.Start();
+        program.faultLasts = isLasting;
         isLasting ? program.files.FailFromCall(call, kFault) : program.files.FailCall(call, kFault);
         Play(program);
         EXPECT_GE(program.files.Calls(), call) << "the fault was never met";

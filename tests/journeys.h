@@ -54,6 +54,8 @@ struct JourneyProgram : TestProgram {
     static constexpr const char* kOldTarget = "X,Y,TYPE,SPEED,DirType,Direction\r\n9.5,59.5,1,50,0,0\r\n";
 
     Disk installed;
+    /// The disk stays broken: what was begun cannot be taken away again.
+    bool faultLasts = false;
     /// The picture with which the import dialog ended.
     std::string picture;
 };
