@@ -122,6 +122,7 @@ protected:
             hasActed = true;
             wasBusy = IsBusy(program);
             act.run(program);
+            EXPECT_TRUE(IsBusy(program) || !wasBusy || act.endsProgram) << "the dialog has closed";
         };
         GetParam().play(program);
         program.toolkit.OnTurn = nullptr;
