@@ -61,7 +61,7 @@ forms::Form* Dialog(JourneyProgram& program) {
 
 /// An export or an import is going on. Before that its dialog, or the main window, takes what the user does.
 bool IsBusy(JourneyProgram& program) {
-    if (Dialog(program) == nullptr) return false;
+    if (Dialog(program) == nullptr || !Dialog(program)->IsOpen()) return false;
     const auto* import = dynamic_cast<frmImport*>(Dialog(program));
     return import == nullptr || !import->ButtonStart.Enabled();
 }
