@@ -5,14 +5,18 @@
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
+#include "platform/disk/streams.h"
 #include "temporary_folder.h"
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace halvenmoor {
 namespace {
@@ -59,6 +63,8 @@ TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
     const std::string longLine(5 * bufferSize + 7, 'x');
     folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
     EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
+    folder.Put("a", std::string(bufferSize, 'z'));
+    EXPECT_TRUE(LinesOf("a") == Strings{std::string(bufferSize, 'z')});
 
     const auto writer = object->CreateTextFile(folder / "b");
     writer->WriteLine("short");
@@ -66,6 +72,17 @@ TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
     writer->WriteLine(std::string(bufferSize, 'y'));
     writer->Close();
     EXPECT_TRUE(folder.Text("b") == "short\r\n" + longLine + "\r\n" + std::string(bufferSize, 'y') + "\r\n");
+}
+
+TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_DIRECT), 0);  // one read gives what one write put in
+    disk::DiskTextReader reader{disk::FileDescriptor(ends[0])};
+    disk::FileDescriptor out(ends[1]);
+    EXPECT_EQ(out.Write("\xEF\xBB\xBF"), 0);
+    EXPECT_EQ(out.Write("line"), 0);
+    out.Close();
+    EXPECT_EQ(ReadLines(reader), Strings{"line"});
 }
 
 TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {

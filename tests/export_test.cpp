@@ -206,6 +206,14 @@ TEST_F(ExportTest, AsksForTheTarget) {
     }
 }
 
+TEST_F(ExportTest, ReplacesNoFileThatWasChosenToAppendTo) {
+    StartWithOneCamera();
+    program.memory.Put("/p/a.txt", kHeader + "old\r\n");
+    program.toolkit.OnTurn = [this] { Window().OptionExportMode[1].UserPress(); };  // right behind the dialog
+    EXPECT_FALSE(program.ExportTo(3, "/p/a.txt"));
+    EXPECT_EQ(program.Text("/p/a.txt"), kHeader + "old\r\n");
+}
+
 TEST_F(ExportTest, DoesNothingWithoutSettingsOrFiles) {
     StartWithOneCamera();
     EXPECT_TRUE(program.Export());

@@ -59,6 +59,7 @@ TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
         {"one", {"one"}},
         {"one\r\ntwo\nthree", {"one", "two", "three"}},
         {"one\n\n\r\n", {"one", "", ""}},
+        {"1\nlonger than that", {"1", "longer than that"}},
         {"a\rb\r\n", {"a\rb"}},
         {"a\r\r\n", {"a\r"}},
         {"a\r", {"a\r"}},

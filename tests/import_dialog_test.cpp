@@ -241,36 +241,6 @@ TEST(ImportDialogTest, ShutdownOrFailureAtATurn) {
     }
 }
 
-TEST(ImportDialogTest, EveryCallFailsOnce) {
-    for (const int source : {kOv2, kTxt}) {
-        for (const bool forGood : {false, true}) {
-            for (int call = 1;; ++call) {
-                PreparedProgram program;
-                int calls = 0;
-                if (forGood) {
-                    program.files.FailFromCall(call, kFault);
-                } else {
-                    program.files.FailCall(call, kFault);
-                }
-                const std::string picture = program.Import(source, [&](frmImport&) {
-                    calls = program.files.Calls();
-                    program.files.FailCall(0, kFault);
-                });
-                EXPECT_FALSE(picture.empty());
-                EXPECT_TRUE(program.List(0).Enabled());
-                EXPECT_TRUE(program.messages.Messages.empty());
-                // Whatever became of it, an OV2 file that is finished is whole.
-                if (picture == "PictureFinished" && source == kOv2 && program.memory.Has("/p/asc/two.asc")) {
-                    program.ExpectImported(source);
-                }
-                program.ExpectImportWorks(source);
-                if (calls < call) break;
-                ASSERT_LT(call, 500);
-            }
-        }
-    }
-}
-
 TEST(ImportDialogTest, RunThatNobodyWatchesGivesTheSameFiles) {
     for (const int source : {kOv2, kTxt}) {
         PreparedProgram program;

@@ -61,11 +61,15 @@ SectionTexts ReadSections(platform::TextReader& file) {
     return texts;
 }
 
+/// A list with too many elements ends with one too many, which holds the rest: nobody walks over such a list,
+/// and a string for each comma would take a hundred times the room of the file.
 std::vector<std::string> SplitList(std::string_view source) {
     source = text::Trim(source);
     std::vector<std::string> list;
     if (source.empty()) return list;
-    for (std::size_t comma; (comma = source.find(',')) != std::string_view::npos;) {
+    while (list.size() < kMaxPatterns) {
+        const std::size_t comma = source.find(',');
+        if (comma == std::string_view::npos) break;
         list.emplace_back(source.substr(0, comma));
         source.remove_prefix(comma + 1);
     }

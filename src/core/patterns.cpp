@@ -7,7 +7,7 @@ namespace halvenmoor {
 
 const std::vector<std::string>& Elements(const PatternList& list) {
     if (IsArrayEmpty(list)) throw Failure(failure::TypeMismatch, "Type mismatch");
-    text::CheckedInt16(static_cast<long long>(list->size()));
+    if (list->size() > kMaxPatterns) text::ThrowOverflow();
     return *list;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,6 +16,9 @@ inline constexpr int kLastType = 5;
 template <class Value>
 using TypeTable = std::array<Value, kLastType + 1>;
 
+/// Positions in a list are 16-bit numbers.
+inline constexpr std::size_t kMaxPatterns = 32767;
+
 /// Patterns in their order, possibly none; without a value when the settings file could not be read.
 using PatternList = std::optional<std::vector<std::string>>;
 
@@ -24,7 +28,7 @@ inline bool IsArrayEmpty(const PatternList& list) {
 }
 
 /// The patterns for a walk from the first to the last. Throws Failure(TypeMismatch) when there is no list,
-/// and Failure(Overflow) for more than 32767 patterns.
+/// and Failure(Overflow) for more than kMaxPatterns.
 const std::vector<std::string>& Elements(const PatternList& list);
 
 }  // namespace halvenmoor

@@ -29,10 +29,12 @@ void modExport::ShowResults() {
 
 bool modExport::ExportSpeedCameras(bool& resultsValid) {
     if (!BuildExportFileList()) return false;
+    const std::int16_t mode = core_.ExportMode;
     std::string target;
     if (!ChooseTarget(target)) return false;
-    // The dialogs let waiting events in, and one of those may have been an export of its own.
-    if (ExportFileTable.empty()) return false;
+    // The dialogs let waiting events in. One of those may have been an export of its own, or a change of the
+    // mode, and a file that was chosen to be appended to must not be replaced.
+    if (ExportFileTable.empty() || core_.ExportMode != mode) return false;
     frmExport window(*this);
     window.SetExportFileName(std::move(target));
     core_.Desktop().ShowModal(window);

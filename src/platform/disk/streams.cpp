@@ -65,9 +65,10 @@ std::string_view DiskTextReader::ReadLine() {
         }
         searched = unread.size();
         if (Fill()) continue;
-        if (unread.empty()) throw Failure(failure::InputPastEnd, "Input past end of file");
-        input_.Take(unread.size());
-        return unread;
+        const std::string_view last = input_.Unread();  // it has moved
+        if (last.empty()) throw Failure(failure::InputPastEnd, "Input past end of file");
+        input_.Take(last.size());
+        return last;
     }
 }
 
@@ -78,7 +79,7 @@ bool DiskTextReader::Fill() {
     }
     isStarted_ = true;
     if (input_.Unread().starts_with(byteOrderMark)) input_.Take(byteOrderMark.size());
-    return !input_.Unread().empty();
+    return !input_.Unread().empty() || input_.Fill();
 }
 
 std::size_t DiskByteReader::Read(std::span<char> buffer) {

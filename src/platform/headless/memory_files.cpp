@@ -199,6 +199,14 @@ std::string MemoryFiles::Text(std::string_view path) const {
     return *entries_.find(path)->second;
 }
 
+std::map<std::string, std::string> MemoryFiles::Everything() const {
+    std::map<std::string, std::string> files;
+    for (const auto& [path, bytes] : entries_) {
+        if (bytes) files.emplace(path, *bytes);
+    }
+    return files;
+}
+
 std::unique_ptr<platform::FileSystemObject> MemoryFiles::CreateFileSystemObject() {
     return std::make_unique<Object>(*this);
 }

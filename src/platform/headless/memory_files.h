@@ -30,6 +30,8 @@ public:
     bool Has(std::string_view path) const;
     /// The bytes of a file. Throws Failure(FileNotFound) when there is none.
     std::string Text(std::string_view path) const;
+    /// The bytes of all files by their paths.
+    std::map<std::string, std::string> Everything() const;
 
     /// What the program asked for, in order and with its own paths: "open P", "create P", "append P",
     /// "delete P", "bytes P", "search P", "rename P > Q". Tests for existence are left out.

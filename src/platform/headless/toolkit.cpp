@@ -31,7 +31,13 @@ std::unique_ptr<forms::View> HeadlessToolkit::CreateView(forms::Form& form) {
 }
 
 void HeadlessToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {
+    dialogs_.push_back(&form);
     first();
+    PlayScript(form);
+    dialogs_.pop_back();
+}
+
+void HeadlessToolkit::PlayScript(forms::Form& form) {
     while (form.IsOpen()) {
         if (script_.empty()) {
             ReportStuck(form);

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace halvenmoor::headless {
 
@@ -59,6 +60,8 @@ public:
     bool SkipsTurns = false;
 
     int Turns() const { return turns_; }
+    /// The topmost modal window, none while the main window has the user.
+    forms::Form* OpenDialog() const { return dialogs_.empty() ? nullptr : dialogs_.back(); }
 
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
@@ -66,10 +69,12 @@ public:
     bool TurnIsDue() const override { return !SkipsTurns; }
 
 private:
+    void PlayScript(forms::Form& form);
     void ReportStuck(forms::Form& form) const;
 
     ManualClock& clock_;
     std::deque<Step> script_;
+    std::vector<forms::Form*> dialogs_;
     int turns_ = 0;
 };
 

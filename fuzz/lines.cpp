@@ -1,0 +1,58 @@
+// The lines of a text file: read in one piece, and byte by byte.
+
+#include "fuzz/property.h"
+#include "fuzz/world.h"
+#include "platform/disk/streams.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+using namespace halvenmoor;
+using fuzz::Require;
+
+namespace {
+
+using Strings = std::vector<std::string>;
+
+Strings ReadAll(platform::TextReader& reader) {
+    Strings lines;
+    while (!reader.AtEndOfStream()) lines.emplace_back(reader.ReadLine());
+    return lines;
+}
+
+Strings ReadInOnePiece(std::string_view bytes) {
+    disk::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
+    Require(file.Write(bytes) == 0 && lseek(file.Get(), 0, SEEK_SET) == 0, "there is memory for the text");
+    disk::DiskTextReader reader(std::move(file));
+    return ReadAll(reader);
+}
+
+/// A pipe in packet mode hands over one packet a read. It holds so many of them.
+constexpr std::size_t kMostPackets = 256;
+
+Strings ReadByteByByte(std::string_view bytes) {
+    int ends[2];
+    Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
+    const int room = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
+    disk::FileDescriptor out(ends[1]);
+    disk::DiskTextReader reader{disk::FileDescriptor(ends[0])};
+    Require(room >= 1 << 20, "the pipe has room");
+    for (const char byte : bytes) Require(out.Write({&byte, 1}) == 0, "a byte fits into the pipe");
+    out.Close();
+    return ReadAll(reader);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes = fuzz::Text(data, size).substr(0, kMostPackets);
+    const Strings lines = fuzz::Lines(bytes);
+    Require(ReadInOnePiece(bytes) == lines, "lines read in one piece are the lines");
+    Require(ReadByteByByte(bytes) == lines, "lines read byte by byte are the lines");
+    headless::MemoryFiles memory;
+    memory.Put("/a", bytes);
+    Require(ReadAll(*memory.CreateFileSystemObject()->OpenTextFile("/a")) == lines,
+            "the twin reads the same");
+    return 0;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "import/import_task.h"
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_files.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "platform/headless/toolkit.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvenmoor::fuzz {
+
+/// The platform in memory.
+struct World {
+    headless::MemoryFiles memory;
+    headless::FixedApplication application{"/p"};
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    headless::FixedLocale locale;
+    headless::HeadlessToolkit toolkit{clock};
+    platform::Platform services{memory,   memory,      application, clock, settings,
+                                messages, fileDialogs, theme,       locale};
+};
+
+/// An import from /source to /target that nobody watches.
+struct ImportWorld : World, ImportProgress {
+    explicit ImportWorld(int sourceStructure)
+        : task{services, *this, "/source/", "/target/", sourceStructure} {
+        memory.AddFolder("/source");
+        memory.AddFolder("/target");
+    }
+
+    void Turn() override {}
+    bool StopRequested() const override { return false; }
+    void FileDone() override {}
+    void RecordsAdded(std::int32_t) override {}
+
+    ImportTask task;
+};
+
+/// The lines of a text with their ends at CR LF or LF, as every text file is read.
+inline std::vector<std::string> Lines(std::string_view text) {
+    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        std::string line(text.substr(0, end));
+        if (end != std::string_view::npos && line.ends_with('\r')) line.pop_back();
+        lines.push_back(line);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return lines;
+}
+
+}  // namespace halvenmoor::fuzz

@@ -1,0 +1,223 @@
+// At each turn that an export or an import gives the interface, the user or the system does something:
+// presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
+// start over, and nothing may be lost.
+
+#include "files_test_helpers.h"
+#include "journeys.h"
+
+#include <iostream>
+
+namespace halvenmoor {
+namespace {
+
+void UseControl(forms::Control& control) {
+    switch (control.Kind()) {
+        case forms::Kind::CommandButton:
+            static_cast<forms::CommandButton&>(control).UserPress();
+            break;
+        case forms::Kind::CheckBox:
+            static_cast<forms::CheckBox&>(control).UserPress();
+            break;
+        case forms::Kind::OptionButton:
+            static_cast<forms::OptionButton&>(control).UserPress();
+            break;
+        case forms::Kind::ListBox: {
+            auto& list = static_cast<forms::ListBox&>(control);
+            if (list.ListCount() > 0) list.UserSelect({0}, 0);
+            break;
+        }
+        case forms::Kind::ComboBox:
+            static_cast<forms::ComboBox&>(control).UserTyped("x");
+            break;
+        default:
+            control.UserFocused();
+    }
+}
+
+/// Something that happens at a bad moment, with the windows that are open then.
+struct Act {
+    std::string name;
+    std::function<void(JourneyProgram&)> run;
+    /// Asks the running journey to stop, if it can be stopped.
+    bool stops = false;
+    bool endsProgram = false;
+};
+
+void AddControls(std::vector<Act>& acts, const forms::Form& form,
+                 const std::function<forms::Form*(JourneyProgram&)>& find) {
+    for (std::size_t i = 0; i < form.Controls().size(); ++i) {
+        const std::string name = form.AtDesign().name + " " + form.Controls()[i]->Name();
+        const auto run = [find, i](JourneyProgram& program) {
+            forms::Form* const found = find(program);
+            if (found != nullptr && i < found->Controls().size()) UseControl(*found->Controls()[i]);
+        };
+        acts.push_back({name, run, name == "frmImport ButtonCancel"});
+    }
+}
+
+forms::Form* Dialog(JourneyProgram& program) {
+    return program.toolkit.OpenDialog();
+}
+
+/// An export or an import is going on. Before that its dialog, or the main window, takes what the user does.
+bool IsBusy(JourneyProgram& program) {
+    if (Dialog(program) == nullptr || !Dialog(program)->IsOpen()) return false;
+    const auto* import = dynamic_cast<frmImport*>(Dialog(program));
+    return import == nullptr || !import->ButtonStart.Enabled();
+}
+
+void StartAgain(JourneyProgram& program) {
+    program.application.HasPreviousInstance = true;
+    Program second(program.core.Services(), program.toolkit);
+    second.Start();
+    EXPECT_EQ(second.Core().MainForm, nullptr);
+    program.application.HasPreviousInstance = false;
+}
+
+void DragFirst(JourneyProgram& program) {
+    for (int number = 0; number <= kLastType; ++number) {
+        if (program.List(number).ListCount() == 0) continue;
+        program.List(number).UserSelect({0}, 0);
+        headless::Drag(program.List(number), program.List((number + 1) % (kLastType + 1)));
+    }
+}
+
+std::vector<Act> ActsDuring(const Journey& journey) {
+    std::vector<Act> acts{
+        {"dialog close", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserClose(); },
+         true},
+        {"dialog Escape", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserEscape(); }},
+        {"dialog Enter",
+         [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserKeyPress(13); }},
+        {"main close", [](JourneyProgram& program) { program.Window().UserClose(); }},
+        {"main Escape", [](JourneyProgram& program) { program.Window().UserEscape(); }},
+        {"second start", StartAgain},
+        {"drag", DragFirst},
+        {"language", [](JourneyProgram& program) { program.Window().LanguageList.UserChoose(1); }},
+        {"shutdown", [](JourneyProgram& program) { program.desktop.CloseAll(); }, false, true},
+    };
+    JourneyProgram program;
+    program.Start();
+    AddControls(acts, program.Window(), [](JourneyProgram& running) { return &running.Window(); });
+    program.toolkit.OnTurn = [&, isAdded = false]() mutable {
+        if (Dialog(program) == nullptr || isAdded) return;
+        AddControls(acts, *Dialog(program), Dialog);
+        isAdded = true;
+    };
+    journey.play(program);
+    return acts;
+}
+
+class BadMoments : public testing::TestWithParam<Journey> {
+protected:
+    /// Plays the journey with the act at one turn; 1 is the first. False when there are no so many turns.
+    static bool ActAtTurn(const Act& act, int turn) {
+        JourneyProgram program;
+        program.Start();
+        program.memory.ForgetCalls();
+        bool hasActed = false;
+        bool wasBusy = false;
+        program.toolkit.OnTurn = [&, left = turn]() mutable {
+            if (--left != 0) return;
+            hasActed = true;
+            wasBusy = IsBusy(program);
+            act.run(program);
+            EXPECT_TRUE(IsBusy(program) || !wasBusy || act.endsProgram) << "the dialog has closed";
+        };
+        GetParam().play(program);
+        program.toolkit.OnTurn = nullptr;
+        if (!hasActed) return false;
+        wasBusy ? ExpectUndisturbed(program, act) : ExpectNothingLost(program);
+        ExpectWorksAgain(program);
+        return true;
+    }
+
+    /// Only a stop and the end of the system come through.
+    static void ExpectUndisturbed(JourneyProgram& program, const Act& act) {
+        ExpectSoundProgram(program, GetParam());
+        EXPECT_EQ(program.desktop.Ended(), act.endsProgram);
+        if (act.endsProgram) return;
+        GetParam().expectSound(program);
+        if (act.stops && GetParam().name.starts_with("Import")) return;
+        EXPECT_EQ(program.memory.Calls(), UndisturbedCalls()) << "something else was run";
+        GetParam().expectDone(program);
+    }
+
+    /// Before the run, as at the turn behind a file dialog, the user is free to do everything.
+    static void ExpectNothingLost(JourneyProgram& program) {
+        Journey anything = GetParam();
+        const bool isExport = anything.name.starts_with("Export");
+        if (isExport) anything.targets = {"/p/txt/", "/p/demo/", "/p/Export Results.txt"};
+        ExpectSoundProgram(program, anything);
+        const std::string old = program.Text("/p/txt/old.txt");
+        EXPECT_TRUE(old.starts_with(JourneyProgram::kOldTarget)) << old;
+    }
+
+    static void ExpectWorksAgain(JourneyProgram& program) {
+        program.RestoreDisk();
+        if (program.desktop.Ended()) {
+            JourneyProgram next;
+            next.settings = program.settings;
+            next.Start();
+            ExpectWorks(next);
+            return;
+        }
+        ExpectWorks(program);
+    }
+
+    static void ExpectWorks(JourneyProgram& program) {
+        for (forms::Control* control : program.Window().Controls()) {
+            if (control->Kind() != forms::Kind::CheckBox) continue;
+            auto& box = static_cast<forms::CheckBox&>(*control);
+            if (box.Value() == (&box == &program.Window().CheckDemoMode)) box.UserPress();
+        }
+        program.Reload();
+        GetParam().play(program);
+        GetParam().expectDone(program);
+    }
+
+    static const Strings& UndisturbedCalls() {
+        static const std::map<std::string, Strings> calls = [] {
+            std::map<std::string, Strings> byJourney;
+            for (const Journey& journey : Journeys()) {
+                JourneyProgram program;
+                program.Start();
+                program.memory.ForgetCalls();
+                journey.play(program);
+                byJourney[journey.name] = program.memory.Calls();
+            }
+            return byJourney;
+        }();
+        return calls.at(GetParam().name);
+    }
+
+public:
+    static std::vector<Journey> Journeys() {
+        return {ExportJourney(1), ExportJourney(2), ExportJourney(3), ImportJourney(ImportProgram::kOv2),
+                ImportJourney(ImportProgram::kTxt)};
+    }
+};
+
+TEST_P(BadMoments, AnythingAtEveryTurn) {
+    const std::vector<Act> acts = ActsDuring(GetParam());
+    int turns = 0;
+    int runs = 0;
+    for (const Act& act : acts) {
+        int turn = 1;
+        for (; !HasFailure(); ++turn) {
+            SCOPED_TRACE(act.name + " at turn " + std::to_string(turn));
+            if (!ActAtTurn(act, turn)) break;
+            ++runs;
+        }
+        turns = std::max(turns, turn - 1);
+    }
+    EXPECT_GE(runs, static_cast<int>(acts.size()));
+    std::cout << GetParam().name << ": " << turns << " turns, " << acts.size() << " acts, " << runs
+              << " runs\n";
+}
+
+INSTANTIATE_TEST_SUITE_P(Journeys, BadMoments, testing::ValuesIn(BadMoments::Journeys()),
+                         [](const auto& journey) { return journey.param.name; });
+
+}  // namespace
+}  // namespace halvenmoor

@@ -1,0 +1,94 @@
+// Every single call to the disk fails once, and from each one on all calls fail: whole journeys are played,
+// and what is left afterwards has to be sound and of use. What cannot fail by its contract is left out:
+// clock, turns, forms, stored options.
+
+#include "journeys.h"
+
+#include <iostream>
+
+namespace halvenmoor {
+namespace {
+
+const Failure kFault(failure::FileAccess, "Device I/O error");
+
+class FaultSweep : public testing::TestWithParam<Journey> {
+protected:
+    static void Play(JourneyProgram& program) {
+        try {
+            GetParam().play(program);
+        } catch (...) {
+            ADD_FAILURE() << "a failure escaped the dispatch of events";
+        }
+    }
+
+    /// The user comes back once the disk is well. A program that has ended is started again, and so is one
+    /// that could not list its languages: they are listed at the start only.
+    static void ExpectWorksAgain(JourneyProgram& program) {
+        program.files.FailCall(0, kFault);
+        program.RestoreDisk();
+        const bool lacksLanguages = program.Window().LanguageList.ListCount() < 2;
+        if (GetParam().isStart || program.desktop.Ended() || lacksLanguages) {
+            JourneyProgram next;
+            next.settings = program.settings;
+            ExpectWorks(next);
+            return;
+        }
+        program.Reload();
+        Play(program);
+        GetParam().expectDone(program);
+    }
+
+    static void ExpectWorks(JourneyProgram& program) {
+        if (!GetParam().isStart) program.Start();
+        Play(program);
+        GetParam().expectDone(program);
+        ExpectSoundProgram(program, GetParam());
+        GetParam().expectSound(program);
+    }
+
+    static int CountCalls() {
+        JourneyProgram program;
+        if (!GetParam().isStart) program.Start();
+        program.files.FailCall(0, kFault);
+        Play(program);
+        return program.files.Calls();
+    }
+
+    static void PlayWithFault(int call, bool isLasting) {
+        JourneyProgram program;
+        if (!GetParam().isStart) program.Start();
+        program.faultLasts = isLasting;
+        isLasting ? program.files.FailFromCall(call, kFault) : program.files.FailCall(call, kFault);
+        Play(program);
+        EXPECT_GE(program.files.Calls(), call) << "the fault was never met";
+        ExpectSoundProgram(program, GetParam());
+        GetParam().expectSound(program);
+        ExpectWorksAgain(program);
+    }
+};
+
+TEST_P(FaultSweep, EveryCallFails) {
+    JourneyProgram undisturbed;
+    ExpectWorks(undisturbed);
+    const int calls = CountCalls();
+    int runs = 0;
+    for (const bool isLasting : {false, true}) {
+        for (int call = 1; call <= calls && !HasFailure(); ++call) {
+            SCOPED_TRACE(std::to_string(call) + (isLasting ? " and all behind it fail" : " fails"));
+            PlayWithFault(call, isLasting);
+            ++runs;
+        }
+    }
+    EXPECT_EQ(runs, 2 * calls);
+    std::cout << GetParam().name << ": " << calls << " calls, " << runs << " runs\n";
+}
+
+INSTANTIATE_TEST_SUITE_P(Journeys, FaultSweep,
+                         testing::Values(ExportJourney(1), ExportJourney(2), ExportJourney(3),
+                                         ImportJourney(ImportProgram::kOv2),
+                                         ImportJourney(ImportProgram::kTxt), RenameJourney(),
+                                         LanguageJourney(), ReloadJourney(), StartJourney()),
+                         [](const auto& journey) { return journey.param.name; });
+
+}  // namespace
+}  // namespace halvenmoor

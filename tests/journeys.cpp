@@ -1,0 +1,383 @@
+#include "journeys.h"
+
+#include "files_test_helpers.h"
+#include "ui/frmRename.h"
+
+namespace halvenmoor {
+
+namespace {
+
+const std::string kNoFile = "(none)";
+
+int Sum(const TypeTable<std::int32_t>& table) {
+    return std::accumulate(table.begin(), table.end(), 0);
+}
+
+Strings Lines(const std::string& text) {
+    Strings lines;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size() - 1) + 1;
+        lines.push_back(text.substr(begin, end - begin));
+        begin = end;
+    }
+    return lines;
+}
+
+bool IsPartOf(const Strings& lines, const Strings& whole) {
+    auto next = whole.begin();
+    return std::all_of(lines.begin(), lines.end(), [&](const std::string& line) {
+        next = std::find(next, whole.end(), line);
+        return next != whole.end() && ++next != Strings::const_iterator();
+    });
+}
+
+bool IsBegunFrom(const Strings& lines, const Strings& whole) {
+    return lines.size() <= whole.size() && std::equal(lines.begin(), lines.end(), whole.begin());
+}
+
+std::set<std::string> Entries(JourneyProgram& program) {
+    std::set<std::string> entries;
+    for (int number = 0; number <= kLastType; ++number) {
+        for (const std::string& entry : program.Items(number)) {
+            EXPECT_TRUE(entries.insert(entry).second) << entry << " stands in two lists";
+        }
+    }
+    return entries;
+}
+
+void ExpectSoundLists(JourneyProgram& program) {
+    int listsWithSelection = 0;
+    for (int number = 0; number <= kLastType; ++number) {
+        const forms::ListBox& list = program.List(number);
+        int selected = 0;
+        for (int i = 0; i < list.ListCount(); ++i) selected += list.Selected(i) ? 1 : 0;
+        EXPECT_EQ(list.SelCount(), selected) << list.Name();
+        EXPECT_LT(list.ListIndex(), list.ListCount()) << list.Name();
+        EXPECT_TRUE(list.Enabled()) << list.Name();
+        EXPECT_EQ(list.OLEDropMode(), forms::ListBox::DropMode::None) << list.Name();
+        listsWithSelection += selected > 0 ? 1 : 0;
+    }
+    EXPECT_LE(listsWithSelection, 1);
+    Entries(program);
+}
+
+void ExpectSoundButtons(JourneyProgram& program) {
+    const frmMain& window = program.Window();
+    bool anyClassified = false;
+    for (int type = kFirstType; type <= kLastType; ++type) anyClassified |= !program.Items(type).empty();
+    EXPECT_EQ(window.ButtonClassifyFiles.Enabled(), !program.Items(0).empty());
+    EXPECT_EQ(window.ButtonReloadFiles.Enabled(), anyClassified);
+    EXPECT_EQ(window.ButtonRenameFile.Enabled(), window.MainList.SelCount() == 1);
+    EXPECT_EQ(window.ButtonImportFiles.Enabled(), !program.Demonstration());
+    EXPECT_EQ(window.ButtonExportCameras.Enabled(), anyClassified);
+    EXPECT_EQ(window.ButtonShowResults.Enabled(), window.ResultsValid);
+    EXPECT_TRUE(window.ButtonExitApplication.Enabled());
+}
+
+void ExpectSoundLanguage(JourneyProgram& program) {
+    const std::string language = program.Window().LanguageList.Text();
+    EXPECT_EQ(program.Option("Language"), language);
+    EXPECT_TRUE(language == "English" || language == "Deutsch") << language;
+    const std::string& caption = program.Window().ButtonExitApplication.Caption();
+    // Where the language file could not be read, the built-in text shows.
+    EXPECT_TRUE(caption == "Exit" || (caption == "Beenden" && language == "Deutsch")) << caption;
+}
+
+/// The program ends by itself only with a message about the file system.
+void ExpectSoundMessages(const JourneyProgram& program) {
+    bool mayEnd = false;
+    for (const auto& message : program.messages.Messages) {
+        const bool isFatal = message.text.starts_with("Run-time error ");
+        mayEnd |= isFatal;
+        EXPECT_TRUE(isFatal || message.title == "Append To Existing Speed Camera File") << message.text;
+    }
+    EXPECT_EQ(program.desktop.Ended(), mayEnd);
+}
+
+bool IsTarget(const Journey& journey, const std::string& path) {
+    return std::any_of(journey.targets.begin(), journey.targets.end(), [&](const std::string& target) {
+        return path == target || (target.ends_with('/') && path.starts_with(target));
+    });
+}
+
+void ExpectOtherFilesAsInstalled(const JourneyProgram& program, const Journey& journey) {
+    const auto withoutTargets = [&](Disk disk) {
+        std::erase_if(disk, [&](const auto& file) { return IsTarget(journey, file.first); });
+        return disk;
+    };
+    EXPECT_EQ(withoutTargets(program.memory.Everything()), withoutTargets(program.installed));
+}
+
+}  // namespace
+
+void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
+    ExpectOtherFilesAsInstalled(program, journey);
+    EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
+    if (program.desktop.Ended()) return;
+    EXPECT_TRUE(program.desktop.Accepts(program.Window()));
+    ExpectSoundLists(program);
+    ExpectSoundButtons(program);
+}
+
+// Export
+
+namespace {
+
+const char* const kExported =
+    "1.5,52.5,1,50,1,90\r\n"
+    "2.5,52.5,5,50,0,0\r\n"
+    "3.5,53.5,5,30,0,0\r\n";
+const TypeTable<std::int32_t> kFilesProcessed{0, 1, 0, 0, 0, 1};
+const TypeTable<std::int32_t> kCamerasExported{0, 1, 0, 0, 0, 2};
+const TypeTable<std::int32_t> kCamerasSkipped{0, 1, 0, 0, 0, 0};
+
+std::string ExportTarget(int mode) {
+    return mode == 1 ? "/p/txt/SpeedCamText.txt" : mode == 2 ? "/p/txt/new.txt" : "/p/txt/old.txt";
+}
+
+std::string ExportedText(int mode) {
+    return (mode == 3 ? JourneyProgram::kOldTarget : "X,Y,TYPE,SPEED,DirType,Direction\r\n") +
+           std::string(kExported);
+}
+
+std::string ResultsText(int mode) {
+    const std::string word = mode == 3 ? "Appended" : "Exported";
+    const std::string rule(85, '-');
+    return Crlf("\n" + rule + "\n" + word + " Speed Camera Results...:  Files Processed  " + word +
+                " Cameras  Skipped Cameras\n" + rule + "\n" +
+                "Type 1 Fixed Speed Camera.......:            1                 1                1\n"
+                "Type 2 Red Speed Camera.........:            0                 0                0\n"
+                "Type 3 Red Light Camera.........:            0                 0                0\n"
+                "Type 4 Section Speed Camera.....:            0                 0                0\n"
+                "Type 5 Mobile Speed Camera......:            1                 2                0\n" +
+                rule + "\n" +
+                "Total Files and Cameras.........:            2                 3                1\n" + rule +
+                "\n");
+}
+
+void PlayExport(JourneyProgram& program, int mode) {
+    program.Window().ButtonClassifyFiles.UserPress();
+    program.Window().OptionExportMode[mode].UserPress();
+    program.fileDialogs.Answers = {ExportTarget(mode), ExportTarget(mode)};
+    for (int i = 0; i < 4; ++i) program.ScriptEscape();
+    program.Window().ButtonExportCameras.UserPress();
+    program.toolkit.ForgetScript();
+}
+
+void ExpectWholeExport(JourneyProgram& program, int mode) {
+    EXPECT_TRUE(program.Window().ResultsValid);
+    EXPECT_EQ(program.Text(ExportTarget(mode)), ExportedText(mode));
+    EXPECT_EQ(program.Exports().FilesProcessed, kFilesProcessed);
+    EXPECT_EQ(program.Exports().CamerasExported, kCamerasExported);
+    EXPECT_EQ(program.Exports().CamerasSkipped, kCamerasSkipped);
+}
+
+void ExpectSoundExport(JourneyProgram& program, int mode) {
+    ExpectSoundMessages(program);
+    const std::string path = ExportTarget(mode);
+    const Strings target = Lines(program.memory.Has(path) ? program.memory.Text(path) : "");
+    EXPECT_TRUE(IsBegunFrom(target, Lines(ExportedText(mode))));
+    const int linesBefore = mode == 3 ? 2 : 1;
+    EXPECT_EQ(Sum(program.Exports().CamerasExported),
+              std::max(static_cast<int>(target.size()) - linesBefore, 0));
+    EXPECT_GE(target.size(), mode == 3 ? 2u : 0u) << "what was there before stays";
+
+    const std::string results = program.ResultsFile();
+    if (!program.Window().ResultsValid) {
+        EXPECT_EQ(results, kNoFile);
+        return;
+    }
+    ExpectWholeExport(program, mode);
+    EXPECT_TRUE(results == kNoFile || IsBegunFrom(Lines(results), Lines(ResultsText(mode)))) << results;
+}
+
+}  // namespace
+
+Journey ExportJourney(int mode) {
+    return {.name = "Export" + std::to_string(mode),
+            .play = [mode](JourneyProgram& program) { PlayExport(program, mode); },
+            .expectDone =
+                [mode](JourneyProgram& program) {
+                    ExpectWholeExport(program, mode);
+                    EXPECT_EQ(program.ResultsFile(), ResultsText(mode));
+                    EXPECT_EQ(program.Items(0), Strings{"rest"});
+                },
+            .expectSound = [mode](JourneyProgram& program) { ExpectSoundExport(program, mode); },
+            .targets = {ExportTarget(mode), "/p/Export Results.txt"}};
+}
+
+// Import
+
+namespace {
+
+const std::string kComment =
+    "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction).\r\n\r\n";
+
+/// The whole camera files by their paths.
+Disk Imported(int source) {
+    if (source == ImportProgram::kOv2) {
+        const std::string line = "1.50000, 52.50000, \"n\", 0, 0\r\n";
+        return {{"/p/asc/one.asc", kComment + line}, {"/p/asc/two.asc", kComment + line + line}};
+    }
+    return {{"/p/asc/Fixed_Camera_050.asc",
+             kComment + "1.5, 52.5, \"Fixed Camera\", 1, 90\r\n3.5, 53.5, \"Fixed Camera\", 0, 0\r\n"},
+            {"/p/asc/RedSpeed_Camera_060.asc", kComment + "2.5, 52.5, \"RedSpeed Camera\", 0, 0\r\n"}};
+}
+
+Disk CameraFiles(const JourneyProgram& program) {
+    Disk disk = program.memory.Everything();
+    std::erase_if(disk, [](const auto& file) { return !file.first.starts_with("/p/asc/"); });
+    return disk;
+}
+
+void PlayImport(JourneyProgram& program, int source) {
+    program.toolkit.Script([&program, source](forms::Form& form) {
+        auto& dialog = static_cast<frmImport&>(form);
+        dialog.OptionSource[source].UserPress();
+        dialog.ButtonStart.UserPress();
+        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
+        program.picture = ImportProgram::PictureOf(dialog);
+        dialog.ButtonFinish.UserPress();
+    });
+    program.Window().ButtonImportFiles.UserPress();
+    program.toolkit.ForgetScript();
+}
+
+/// Each camera file is an old one as it was or a new one, but there are never both. Of a new one lines may be
+/// missing: TXT sources lose them without a word.
+void ExpectSoundImport(JourneyProgram& program, int source) {
+    ExpectSoundMessages(program);
+    const Disk whole = Imported(source);
+    const bool mustBeWhole =
+        source == ImportProgram::kOv2 && (!program.faultLasts || program.picture == "PictureFinished");
+    int oldFiles = 0;
+    int newFiles = 0;
+    for (const auto& [path, bytes] : CameraFiles(program)) {
+        const auto old = program.installed.find(path);
+        if (old != program.installed.end()) {
+            ++oldFiles;
+            EXPECT_EQ(bytes, old->second) << path;
+            continue;
+        }
+        ++newFiles;
+        ASSERT_EQ(whole.count(path), 1u) << path << " comes from nowhere";
+        EXPECT_TRUE(IsPartOf(Lines(bytes), Lines(whole.at(path)))) << path << ":\n" << bytes;
+        EXPECT_TRUE(bytes == whole.at(path) || !mustBeWhole) << path << ":\n" << bytes;
+    }
+    EXPECT_TRUE(oldFiles == 0 || newFiles == 0) << "the folder was to be emptied first";
+}
+
+}  // namespace
+
+Journey ImportJourney(int source) {
+    return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
+            .play = [source](JourneyProgram& program) { PlayImport(program, source); },
+            .expectDone =
+                [source](JourneyProgram& program) {
+                    EXPECT_EQ(CameraFiles(program), Imported(source));
+                    EXPECT_EQ(program.Items(0).size(), 2u);
+                },
+            .expectSound = [source](JourneyProgram& program) { ExpectSoundImport(program, source); },
+            .targets = {"/p/asc/"}};
+}
+
+// The others
+
+namespace {
+
+void PlayRename(JourneyProgram& program) {
+    program.toolkit.Script([](forms::Form& form) {
+        auto& dialog = static_cast<frmRename&>(form);
+        dialog.TextFileName.UserTyped("named");
+        dialog.ButtonRename.UserPress();
+        dialog.UserEscape();
+    });
+    headless::Select(program.List(0), {"rest"});
+    program.Window().ButtonRenameFile.UserPress();
+    program.toolkit.ForgetScript();
+}
+
+/// The entry is what the file is called.
+void ExpectSoundRename(JourneyProgram& program) {
+    ExpectSoundMessages(program);
+    Strings expected{"fixed_50", "mobil_30kmh", "rest"};
+    const bool isRenamed = program.memory.Has("/p/asc/named.asc");
+    if (isRenamed) expected = {"fixed_50", "mobil_30kmh", "named"};
+    EXPECT_EQ(program.Items(0), expected);
+    EXPECT_EQ(program.Text("/p/asc/rest.asc"), isRenamed ? kNoFile : "4.5, 54.5, \"e\"\r\n");
+    EXPECT_EQ(program.Text("/p/asc/named.asc"), isRenamed ? "4.5, 54.5, \"e\"\r\n" : kNoFile);
+}
+
+void Choose(JourneyProgram& program, const std::string& language) {
+    forms::ComboBox& list = program.Window().LanguageList;
+    for (int i = 0; i < list.ListCount(); ++i) {
+        if (list.List(i) == language) list.UserChoose(i);
+    }
+}
+
+void ExpectAllEntries(JourneyProgram& program) {
+    EXPECT_EQ(program.Items(0), (Strings{"fixed_50", "mobil_30kmh", "rest"}));
+}
+
+void ExpectSomeEntries(JourneyProgram& program) {
+    ExpectSoundMessages(program);
+    EXPECT_TRUE(IsPartOf(program.Items(0), {"fixed_50", "mobil_30kmh", "rest"}));
+}
+
+}  // namespace
+
+Journey RenameJourney() {
+    return {.name = "Rename",
+            .play = PlayRename,
+            .expectDone =
+                [](JourneyProgram& program) {
+                    EXPECT_EQ(program.Items(0), (Strings{"fixed_50", "mobil_30kmh", "named"}));
+                    EXPECT_TRUE(program.memory.Has("/p/asc/named.asc"));
+                },
+            .expectSound = ExpectSoundRename,
+            .targets = {"/p/asc/rest.asc", "/p/asc/named.asc"}};
+}
+
+Journey LanguageJourney() {
+    return {.name = "Language",
+            .play =
+                [](JourneyProgram& program) {
+                    Choose(program, "English");
+                    Choose(program, "Deutsch");
+                },
+            .expectDone =
+                [](JourneyProgram& program) {
+                    EXPECT_EQ(program.Window().ButtonExitApplication.Caption(), "Beenden");
+                    EXPECT_EQ(program.Option("Language"), "Deutsch");
+                },
+            .expectSound =
+                [](JourneyProgram& program) {
+                    ExpectSoundMessages(program);
+                    ExpectSoundLanguage(program);
+                }};
+}
+
+Journey ReloadJourney() {
+    return {.name = "Reload",
+            .play = [](JourneyProgram& program) { program.Reload(); },
+            .expectDone = ExpectAllEntries,
+            .expectSound = ExpectSomeEntries};
+}
+
+Journey StartJourney() {
+    return {.name = "Start",
+            .play = [](JourneyProgram& program) { program.Start(); },
+            .expectDone =
+                [](JourneyProgram& program) {
+                    ExpectAllEntries(program);
+                    EXPECT_EQ(program.Window().LanguageList.ListCount(), 2);
+                },
+            .expectSound =
+                [](JourneyProgram& program) {
+                    ExpectSomeEntries(program);
+                    ExpectSoundLanguage(program);
+                },
+            .isStart = true};
+}
+
+}  // namespace halvenmoor

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "import_program.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <numeric>
+#include <ostream>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace halvenmoor {
+
+/// The bytes of all files by their paths.
+using Disk = std::map<std::string, std::string>;
+
+/// The program in memory with files for every journey, in normal mode and in German. Not yet started.
+struct JourneyProgram : TestProgram {
+    JourneyProgram() {
+        SetOption("DemoMode", "0");
+        SetOption("Language", "Deutsch");
+        SetSettings(
+            "[Type1]\nfixed*\n[Type5]\nmob*\n[Mobile]\nmobile\n[Units]\nkmh\n[Settings]\nSourceStructure="
+            "2\n");
+        AddLanguage("deutsch", "ButtonExitApplication=beenden\n");
+        AddCameraFile("fixed_50",
+                      "1.5, 52.5, \"a\", 1, 90\r\n2.5, 52.5, \"mobile b\"\r\n200.0, 52.5, \"c\"\r\n");
+        AddCameraFile("mobil_30kmh", "3.5, 53.5, \"d\"\r\n");
+        AddCameraFile("rest", "4.5, 54.5, \"e\"\r\n");
+        memory.Put("/p/txt/old.txt", kOldTarget);
+        const std::string point("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);  // 1.5, 52.5, "n"
+        memory.Put("/p/import/ov2/one.ov2", point);
+        memory.Put("/p/import/ov2/two.ov2", point + point);
+        memory.Put("/p/import/txt/one.txt", "1.5,52.5,1,50,1,90\n2.5,52.5,2,60\n");
+        memory.Put("/p/import/txt/two.txt", "3.5,53.5,1,50\n");
+        installed = memory.Everything();
+    }
+
+    void RestoreDisk() {
+        for (const auto& [path, bytes] : memory.Everything()) memory.Remove(path);
+        for (const auto& [path, bytes] : installed) memory.Put(path, bytes);
+    }
+    /// The user has all entries unclassified again, as after a start.
+    void Reload() {
+        Window().CheckAuto[1].UserPress();
+        Window().CheckAuto[1].UserPress();
+    }
+    void ScriptEscape() {
+        toolkit.Script([](forms::Form& form) { form.UserEscape(); });
+    }
+
+    static constexpr const char* kOldTarget = "X,Y,TYPE,SPEED,DirType,Direction\r\n9.5,59.5,1,50,0,0\r\n";
+
+    Disk installed;
+    /// The disk stays broken: what was begun cannot be taken away again.
+    bool faultLasts = false;
+    /// The picture with which the import dialog ended.
+    std::string picture;
+};
+
+/// Something that a user does from beginning to end, pressing on whatever happens.
+struct Journey {
+    std::string name;
+    std::function<void(JourneyProgram&)> play;
+    /// What it leaves when nothing goes wrong.
+    std::function<void(JourneyProgram&)> expectDone;
+    /// What it may leave when something does.
+    std::function<void(JourneyProgram&)> expectSound;
+    /// Files, or folders with a '/' at the end, that it may change.
+    std::vector<std::string> targets = {};
+    bool isStart = false;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
+    return out << journey.name;
+}
+
+// Checks that any journey has to pass at its end, whatever happened on the way.
+
+/// Buttons, lists and windows agree, and every file is there that the journey is not about.
+void ExpectSoundProgram(JourneyProgram& program, const Journey& journey);
+
+/// Classify and export, by mode.
+Journey ExportJourney(int mode);
+/// By ImportProgram::kOv2 or kTxt.
+Journey ImportJourney(int source);
+Journey RenameJourney();
+Journey LanguageJourney();
+Journey ReloadJourney();
+Journey StartJourney();
+
+}  // namespace halvenmoor
