@@ -33,9 +33,9 @@ int main(int count, char** arguments) {
     QSvgRenderer picture(QString::fromLocal8Bit(arguments[1]));
     for (int i = 4; i < count; ++i) {
         const QString size = QString::fromLocal8Bit(arguments[i]);
-        const QString file = QStringLiteral("%1/%2x%2/apps/%3.png")
-                                 .arg(QString::fromLocal8Bit(arguments[2]), size,
-                                      QString::fromLocal8Bit(arguments[3]));
+        const QString file =
+            QStringLiteral("%1/%2x%2/apps/%3.png")
+                .arg(QString::fromLocal8Bit(arguments[2]), size, QString::fromLocal8Bit(arguments[3]));
         if (!picture.isValid() || !Save(Draw(picture, size.toInt()), file)) {
             std::fprintf(stderr, "icons: cannot make %s\n", qPrintable(file));
             return 1;
