@@ -1,4 +1,4 @@
-# Sourced by run, test and .ci/run: the packages and the folders that they need.
+# Sourced by run, test, .ci/run and others: the packages and the folders that they need.
 
 # need PACKAGE...: installs those of the Debian packages that are missing.
 need() {
@@ -37,3 +37,4 @@ private_runtime_folder() {
 
 BUILD_PACKAGES="g++ cmake ninja-build"
 QT_PACKAGES="qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core"
+MANUAL_PACKAGES="cmark-gfm" # for manual.html in the program folder; everything else goes without

@@ -126,18 +126,25 @@ private:
     QTimer timer_;
 };
 
-/// Demonstration mode: classify, move a file by hand, export.
+void MoveFirst(Visitor& visitor, int type) {
+    const QString moved = visitor.SelectFirst("MainList");
+    visitor.Say("move \"" + moved.toStdString() + "\" to type " + std::to_string(type) + " by hand");
+    visitor.Click("frmMain", QStringLiteral("ButtonAdd(%1)").arg(type));
+}
+
+/// Demonstration mode: classify, move two files by hand, export.
 void ShowExport(Visitor& visitor) {
-    visitor.Photograph("frmMain");
+    visitor.Photograph("frmMain", "-start");
     for (const char* language : {"Deutsch", "English"}) {
         visitor.Say(std::string("choose the language ") + language);
         visitor.ChooseLanguage(language);
     }
     visitor.Say("classify the files");
     visitor.Click("frmMain", "ButtonClassifyFiles");
-    const QString moved = visitor.SelectFirst("MainList");
-    visitor.Say("move \"" + moved.toStdString() + "\" to type 1 by hand");
-    visitor.Click("frmMain", "ButtonAdd(1)");
+    visitor.Photograph("frmMain", "-classified");
+    MoveFirst(visitor, 1);
+    MoveFirst(visitor, 5);
+    visitor.Photograph("frmMain", "-sorted");
     visitor.Say("export");
     const Expecting run(
         "frmExport", [&] { visitor.Photograph("frmExport"); }, 4);

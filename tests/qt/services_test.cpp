@@ -46,6 +46,10 @@ TEST_F(Window, ShowsMessagesAsTheyAre) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST(SafeApplication, TellsDesktopsTheNameOfItsEntry) {
+    EXPECT_EQ(QGuiApplication::desktopFileName(), "org.halvenmoor.halvenmoor");
+}
+
 class Dialogs : public Window {
 protected:
     Dialogs()

@@ -20,6 +20,7 @@ constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
 SafeApplication::SafeApplication(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
     setQuitOnLastWindowClosed(false);  // the desktop ends the program
+    setDesktopFileName(QString::fromLatin1(kApplicationId));
 }
 
 bool SafeApplication::notify(QObject* receiver, QEvent* event) {
