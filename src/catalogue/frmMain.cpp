@@ -14,6 +14,9 @@ namespace {
 constexpr int kLeftOfMiddle = 400;
 constexpr int kAboveMiddle = 315;
 
+/// Between the list that entries are taken from and the one that they go to.
+constexpr const char* kTo = " \u2192 ";
+
 const char* StoredValue(const forms::CheckBox& box) {
     return box.Value() ? "1" : "0";
 }
@@ -127,6 +130,24 @@ void frmMain::ApplyLanguageTexts() {
     OptionExportMode[3].SetCaption(names.OptionExportModeAppendToFile() + "...");
     CheckDemoMode.SetCaption(names.CheckDemonstrationMode());
     CheckSaveResults.SetCaption(names.CheckSaveResultsToFile());
+    NameControls();
+}
+
+/// Gives controls without words of their own those of their neighbours.
+void frmMain::NameControls() {
+    const std::string& unclassified = LabelMainList.Caption();
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        const std::string& heading = LabelTypeList[type].Caption();
+        Picture[type].SetAccessibleName(heading);
+        TypeList[type].SetAccessibleName(heading);
+        CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
+        ButtonAdd[type].SetAccessibleName(unclassified + kTo + heading);
+        ButtonAdd[type].SetToolTip("Alt+" + std::to_string(type));
+        ButtonRemove[type].SetAccessibleName(heading + kTo + unclassified);
+        ButtonRemove[type].SetToolTip("Alt+0");
+    }
+    MainList.SetAccessibleName(unclassified);
+    LanguageList.SetAccessibleName(LabelSelectLanguage.Caption());
 }
 
 }  // namespace halvenmoor

@@ -40,6 +40,7 @@ private:
 
     void LoadStoredOptions();
     void ApplyLanguageTexts();
+    void NameControls();
     void ChooseLanguage();
     void MoveSelectedItems(forms::ListBox& source, forms::ListBox& target);
     void SetDropMode(bool active);

@@ -42,6 +42,7 @@ void frmExport::Load() {
     const forms::Point main = core_.MainForm->Position();
     MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
     SetExportCaptions();
+    SetBusy(true);
     progressBar_.SetPicBox(&picProgress);
     progressBar_.SetMin(0);
     progressBar_.SetMax(kFullBar);
@@ -57,6 +58,7 @@ void frmExport::SetExportCaptions() {
     SetCaption(appending ? names.TitleAppendSpeedCameras() : names.TitleExportSpeedCameras());
     LabelProgress.SetCaption(
         (appending ? names.LabelAppendingSpeedCameras() : names.LabelExportingSpeedCameras()) + "...");
+    picProgress.SetAccessibleName(LabelProgress.Caption());
 }
 
 void frmExport::Activate() {

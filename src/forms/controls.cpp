@@ -42,6 +42,12 @@ void Control::SetForeColor(Color color) {
     Changed();
 }
 
+void Control::SetAccessibleName(std::string name) {
+    if (name == accessibleName_) return;
+    accessibleName_ = std::move(name);
+    Changed();
+}
+
 void Control::SetToolTip(std::string toolTip) {
     if (toolTip == toolTip_) return;
     toolTip_ = std::move(toolTip);

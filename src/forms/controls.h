@@ -45,6 +45,8 @@ struct Design {
     std::string text = {};
     /// The frame that the control lies in; none: directly on the window.
     const Control* frame = nullptr;
+    /// The label that says what the control is for; none: it says so itself.
+    const Control* label = nullptr;
     bool enabled = true;
     bool visible = true;
     /// Check boxes and option buttons: on at the start.
@@ -52,6 +54,8 @@ struct Design {
     bool centred = false;
     bool bordered = false;
     Glyph glyph = Glyph::None;
+    /// Command buttons: the digit that presses the button together with Alt; 0 for none.
+    char altDigit = 0;
     /// Picture boxes: the picture by its name, without a folder or an extension.
     std::string picture = {};
 };
@@ -82,6 +86,9 @@ public:
     /// The text colour; none: the toolkit's own.
     std::optional<Color> ForeColor() const { return foreColor_; }
     void SetForeColor(Color color);
+    /// What a screen reader calls the control: its caption, unless the program has given it other words.
+    const std::string& AccessibleName() const { return accessibleName_.empty() ? caption_ : accessibleName_; }
+    void SetAccessibleName(std::string name);
     /// What the control says of itself beside its caption, to the mouse and to screen readers. UTF-8; shown
     /// as plain text.
     const std::string& ToolTip() const { return toolTip_; }
@@ -115,6 +122,7 @@ private:
     bool enabled_;
     bool visible_;
     std::optional<Color> foreColor_;
+    std::string accessibleName_;
     std::string toolTip_;
 };
 

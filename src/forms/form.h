@@ -40,6 +40,9 @@ public:
     const FormDesign& AtDesign() const { return design_; }
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
+    /// Whether the mouse pointer over the window shows that a job is running.
+    bool Busy() const { return busy_; }
+    void SetBusy(bool busy) { busy_ = busy; }
     /// Where the window's corner really is, also after the user has moved it.
     Point Position() const;
     void MoveTo(Point position);
@@ -103,6 +106,7 @@ private:
     std::string caption_;
     Point position_;
     bool moved_ = false;
+    bool busy_ = false;
     bool open_ = false;
     std::vector<Control*> controls_;
     std::vector<Control*> changed_;

@@ -65,6 +65,10 @@ void frmImport::ApplyImportTexts() {
     ButtonStart.SetCaption(names.ButtonStart());
     ButtonCancel.SetCaption(names.ButtonCancel());
     ButtonFinish.SetCaption(names.ButtonFinish());
+    PictureNoDelete.SetAccessibleName(LabelTargetName.Caption());
+    PictureDelete.SetAccessibleName(CheckDelete.Caption());
+    PictureFinished.SetAccessibleName(Caption() + " \u2713");
+    PictureIncomplete.SetAccessibleName(Caption() + " \u2717");
     filesWord_ = names.LabelNumberOfFiles();
     camerasWord_ = names.LabelNumberOfCameras();
 }
@@ -94,11 +98,13 @@ void frmImport::ChooseSource(int option) {
 void frmImport::StartImport() {
     ButtonStart.SetEnabled(false);
     SetCancelButton(nullptr);
+    SetBusy(true);
     try {
         RunImport();
     } catch (const std::exception&) {
         // Whatever happened, the user gets out by Finish.
     }
+    SetBusy(false);
     ButtonCancel.SetEnabled(false);
     ButtonFinish.SetEnabled(true);
     ButtonFinish.SetFocus();

@@ -60,14 +60,16 @@ public:
             return forms::Design{.name = "ButtonAdd",
                                  .place = InRow(i, {4860, 840, 855, 375}),
                                  .tab = 10 + 3 * i,
-                                 .glyph = forms::Glyph::TriangleLeft};
+                                 .glyph = forms::Glyph::TriangleLeft,
+                                 .altDigit = static_cast<char>('0' + i)};
         }};
     forms::ControlArray<forms::CommandButton, 1, 5> ButtonRemove{
         *this, [](int i) {
             return forms::Design{.name = "ButtonRemove",
                                  .place = InRow(i, {4860, 1305, 855, 375}),
                                  .tab = 11 + 3 * i,
-                                 .glyph = forms::Glyph::TriangleRight};
+                                 .glyph = forms::Glyph::TriangleRight,
+                                 .altDigit = i == 1 ? '0' : '\0'};
         }};
     forms::Label LabelMainList{*this,
                                {.name = "LabelMainList",
@@ -80,8 +82,12 @@ public:
                                       .place = {9240, 240, 2535, 255},
                                       .tab = 47,
                                       .text = "Select Language"}};
-    forms::ComboBox LanguageList{
-        *this, {.name = "LanguageList", .place = {9240, 480, 2535, 315}, .tab = 27, .text = "Language"}};
+    forms::ComboBox LanguageList{*this,
+                                 {.name = "LanguageList",
+                                  .place = {9240, 480, 2535, 315},
+                                  .tab = 27,
+                                  .text = "Language",
+                                  .label = &LabelSelectLanguage}};
     forms::CommandButton ButtonClassifyFiles{*this,
                                              {.name = "ButtonClassifyFiles",
                                               .place = {9360, 1320, 2295, 375},

@@ -45,6 +45,9 @@ frmRename::frmRename(const modMain& core, forms::ListBox& list)
 
 void frmRename::Load() {
     SetCaption(core_.Names->ButtonRenameFile());
+    TextFileName.SetAccessibleName(Caption());
+    ButtonRename.SetAccessibleName(Caption());
+    ButtonCancel.SetAccessibleName(core_.Names->ButtonCancel());
     MoveBesideRow();
     OfferName(CurrentEntry(list_));
 }

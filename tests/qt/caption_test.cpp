@@ -2,29 +2,16 @@
 
 #include "platform/qt/caption.h"
 
-#include "export/frmExport.h"
-#include "export/frmResults.h"
-#include "import/frmImport.h"
+#include "all_windows.h"
 #include "platform/qt/conversions.h"
-#include "program_fixture.h"
-#include "ui/cNamesClass.h"
-#include "ui/frmRename.h"
 
 #include <QFontInfo>
 #include <QTextDocumentFragment>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <utility>
 
 namespace halvenmoor::qt {
 namespace {
-
-QWidget& WidgetOf(const forms::Control& control) {
-    auto& window = dynamic_cast<QWidget&>(*control.Owner().View());
-    return *window.findChild<QWidget*>(QString::fromStdString(control.Name()));
-}
 
 QString ShownText(const forms::Control& control) {
     return WidgetOf(control).property(control.Kind() == forms::Kind::Frame ? "title" : "text").toString();
@@ -83,24 +70,6 @@ TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
     EXPECT_EQ(FitCaption(caption, font, {1, 26}, Qt::TextSingleLine).text, u"\u2026");
 }
 
-/// A window that is looked at and closes, in place of what it does otherwise.
-template <class Window>
-class Shown : public Window {
-public:
-    template <class... Arguments>
-    explicit Shown(std::function<void(Window&)> look, Arguments&&... arguments)
-        : Window(std::forward<Arguments>(arguments)...), look_(std::move(look)) {}
-
-protected:
-    void Activate() override {
-        look_(*this);
-        this->Unload();
-    }
-
-private:
-    std::function<void(Window&)> look_;
-};
-
 /// The place of a caption in its control, estimated with care.
 QRect RoomOf(const forms::Control& control) {
     const QWidget& widget = WidgetOf(control);
@@ -146,54 +115,7 @@ void ExpectAllFits(forms::Form& form) {
     EXPECT_LE(window.fontMetrics().horizontalAdvance(window.windowTitle()), window.width());
 }
 
-class LanguageWindows : public ProgramWindows {
-protected:
-    LanguageWindows() {
-        for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-            std::ifstream bytes(file.path(), std::ios::binary);
-            memory.Put("/p/lang/" + file.path().filename().string(),
-                       std::string(std::istreambuf_iterator<char>(bytes), {}));
-        }
-        memory.Put("/p/demo/asc_demo/camera.asc", "");
-        program.Start();
-        Form().MainList.UserSelect({0}, 0);
-    }
-
-    frmMain& Form() { return program.MainForm(); }
-
-    template <class Window, class... Arguments>
-    void Look(const std::function<void(Window&)>& prepare, Arguments&&... arguments) {
-        bool shown = false;
-        Shown<Window> window(
-            [&](Window& form) {
-                shown = true;
-                prepare(form);
-                ExpectAllFits(form);
-            },
-            std::forward<Arguments>(arguments)...);
-        program.Desktop().ShowModal(window);
-        EXPECT_TRUE(shown);
-    }
-
-    void LookAtAllWindows() {
-        const cNamesClass& names = *program.Core().Names;
-        ExpectAllFits(Form());
-        for (const std::int16_t mode : {kReplaceFile, kAppendToFile}) {
-            program.Core().ExportMode = mode;
-            Look<frmExport>([](auto&) {}, program.Exports());
-            Look<frmResults>([](auto&) {}, program.Exports());
-        }
-        Look<frmImport>(
-            [&](frmImport& form) {
-                form.LabelSourceFiles.SetCaption("32767 " + names.LabelNumberOfFiles() + "(s)");
-                form.LabelAddedRecords.SetCaption("1000000 " + names.LabelNumberOfCameras() + "(s)");
-            },
-            Form());
-        Look<frmRename>([](auto&) {}, program.Core(), Form().MainList);
-    }
-};
-
-TEST_F(LanguageWindows, EveryCaptionFits) {
+TEST_F(AllWindows, HaveRoomForEveryCaption) {
     const std::string font = QFontInfo(ToFont({})).family().toStdString();
     EXPECT_TRUE(font == "Verdana" || font == "DejaVu Sans") << font;
     std::set<std::string> words;
@@ -201,7 +123,7 @@ TEST_F(LanguageWindows, EveryCaptionFits) {
         EXPECT_TRUE(Form().LanguageList.UserChoose(i));
         SCOPED_TRACE(Form().LanguageList.Text());
         words.insert(Form().LabelSelectLanguage.Caption());
-        LookAtAllWindows();
+        LookAtAllWindows(ExpectAllFits);
     }
     EXPECT_EQ(words.size(), 16U) << "each language showed";
 }

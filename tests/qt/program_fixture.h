@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
-#include "platform/headless/manual_clock.h"
+#include "platform/disk/clock.h"
 #include "platform/headless/memory_files.h"
 #include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
@@ -19,7 +19,7 @@ protected:
 
     headless::MemoryFiles memory;
     headless::FixedApplication application{"/p"};
-    headless::ManualClock clock;
+    disk::DiskClock clock;
     headless::MemorySettings settings;
     headless::MessageLog messages;
     headless::ScriptedFileDialogs fileDialogs;

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPolygonF>
+#include <QShortcut>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -81,7 +82,7 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
     const QRect contents = CaptionRoom();
-    const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    const int flags = Qt::AlignVCenter | SideOf(words) | Qt::TextWordWrap | Qt::TextShowMnemonic;
     painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
     if (!hasFocus) return;
     QStyleOptionFocusRect focus;
@@ -97,6 +98,11 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
                                      const text::CodePage& page)
     : ViewOf(button, parent, page) {
     Widget().SetGlyph(button.AtDesign().glyph);
+    if (const char digit = button.AtDesign().altDigit; digit != 0) {
+        // Not the button's own shortcut, which shows a press of a tenth of a second before it acts.
+        auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(digit)), &Widget());
+        QObject::connect(shortcut, &QShortcut::activated, &Widget(), &QPushButton::click);
+    }
     Widget().setAutoDefault(true);  // the Enter key presses the button that has the focus
     QObject::connect(&Widget(), &QPushButton::clicked, [this] {
         Control().UserPress();

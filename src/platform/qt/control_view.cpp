@@ -59,6 +59,7 @@ void ControlView::Update() {
         colors.setColor(widget_.foregroundRole(), ToQColor(*color));
         widget_.setPalette(colors);
     }
+    widget_.setAccessibleName(ToText(control_.AccessibleName(), page_));
     const QString toolTip = QString::fromStdString(control_.ToolTip());
     widget_.setToolTip(ToToolTip(toolTip));
     widget_.setAccessibleDescription(toolTip);
@@ -77,11 +78,7 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& p
                                              const text::CodePage& page) {
     std::unique_ptr<ControlView> view = MakeByKind(control, parent, page);
     QWidget& widget = view->Widget();
-    const QString name = QString::fromStdString(control.Name());
-    widget.setObjectName(name);
-    if (control.AtDesign().text.empty() || control.AtDesign().glyph != forms::Glyph::None) {
-        widget.setAccessibleName(name);  // a screen reader finds no words on it
-    }
+    widget.setObjectName(QString::fromStdString(control.Name()));
     widget.setFont(ToFont({}));
     widget.setGeometry(ToRect(control.AtDesign().place));
     view->Update();

@@ -30,6 +30,10 @@ QString ToRow(std::string_view bytes, const text::CodePage& page) {
     return row;
 }
 
+Qt::Alignment SideOf(const QString& text) {
+    return Qt::AlignAbsolute | (text.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+}
+
 QString WithoutShortcut(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }

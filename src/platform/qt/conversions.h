@@ -23,6 +23,9 @@ QString ToRow(std::string_view bytes, const text::CodePage& page);
 /// A text for a control that would take an & for the mark of a shortcut.
 QString WithoutShortcut(QString text);
 
+/// The side on which lines of such a text begin.
+Qt::Alignment SideOf(const QString& text);
+
 std::string ToUtf8(const QString& text);
 
 /// The font in the pixel size that belongs to its points at 96 dots per inch.

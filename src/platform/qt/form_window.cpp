@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <algorithm>
 
@@ -55,6 +56,9 @@ void FormWindow::BuildControls() {
         QWidget& parent = frame != nullptr ? views_.at(frame)->Widget() : *this;
         std::unique_ptr<ControlView> view = MakeControlView(*control, parent, page_);
         if (form_.AtDesign().keyPreview) view->Widget().installEventFilter(this);
+        // Screen readers name a box with choices after its choice, and find out by the label what it is for.
+        if (const forms::Control* const label = control->AtDesign().label)
+            static_cast<QLabel&>(views_.at(label)->Widget()).setBuddy(&view->Widget());
         views_.emplace(control, std::move(view));
     }
 }
@@ -87,6 +91,7 @@ void FormWindow::Hide() {
 void FormWindow::Update() {
     const QScopedValueRollback<bool> guard(updating_, true);
     setWindowTitle(ToTitle(form_.Caption(), page_));
+    setCursor(form_.Busy() ? Qt::BusyCursor : Qt::ArrowCursor);
     if (const auto position = form_.TakeMove()) {
         move(forms::ToPixels(position->left), forms::ToPixels(position->top));
     }

@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -24,8 +25,11 @@ int ListRows::rowCount(const QModelIndex& parent) const {
 
 QVariant ListRows::data(const QModelIndex& index, int role) const {
     // The list may have shrunk since the last reload.
-    if (role != Qt::DisplayRole || index.row() >= list_.ListCount()) return {};
-    return ToRow(list_.List(index.row()), page_);
+    const bool isWanted = role == Qt::DisplayRole || role == Qt::TextAlignmentRole;
+    if (!isWanted || index.row() >= list_.ListCount()) return {};
+    const QString row = ToRow(list_.List(index.row()), page_);
+    if (role == Qt::DisplayRole) return row;
+    return QVariant::fromValue(Qt::AlignVCenter | SideOf(row));
 }
 
 Qt::ItemFlags ListRows::flags(const QModelIndex&) const {
@@ -126,6 +130,15 @@ bool ListWidget::viewportEvent(QEvent* event) {
 void ListWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QListView::selectionChanged(selected, deselected);
     selectionChanged_ = true;
+}
+
+void ListWidget::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (!hasFocus()) return;
+    // Without a current row nothing else would show where the keys go.
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void ListWidget::Report() {

@@ -16,6 +16,8 @@ QtPlatform::QtPlatform(char* programName, const platform::Locale& locale)
     if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
         QCoreApplication::installTranslator(&translator);
     }
+    // The windows are laid out as they are given, whatever the direction of the user's writing.
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 }  // namespace halvenmoor::qt

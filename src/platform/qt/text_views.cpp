@@ -13,12 +13,13 @@ LabelView::LabelView(forms::Label& label, QWidget& parent, const text::CodePage&
     Widget().setTextFormat(Qt::PlainText);
     Widget().setWordWrap(true);
     Widget().setIndent(0);
-    Widget().setAlignment(Qt::AlignTop | (label.AtDesign().centred ? Qt::AlignHCenter : Qt::AlignLeft));
     if (label.AtDesign().bordered) Widget().setFrameStyle(QFrame::Box | QFrame::Plain);
 }
 
 void LabelView::ShowState() {
-    Widget().setText(ShownCaption(Widget().contentsRect().size(), Qt::TextWordWrap));
+    const QString words = ShownCaption(Widget().contentsRect().size(), Qt::TextWordWrap);
+    Widget().setAlignment(Qt::AlignTop | (Control().AtDesign().centred ? Qt::AlignHCenter : SideOf(words)));
+    Widget().setText(words);
 }
 
 QRect TitledFrame::TitleRoom() const {
@@ -27,7 +28,7 @@ QRect TitledFrame::TitleRoom() const {
 
 void TitledFrame::paintEvent(QPaintEvent*) {
     constexpr float kBorderStrength = 0.25F;
-    const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    const int flags = SideOf(title()) | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
     const QRect room = TitleRoom();
     const QRect words = style()->itemTextRect(fontMetrics(), room, flags, isEnabled(), title()) & room;
 

@@ -1,6 +1,7 @@
 #include "platform/qt/toolkit.h"
 
 #include "platform/qt/form_window.h"
+#include "platform/qt/picture_view.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -25,6 +26,10 @@ void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
 }
 
 }  // namespace
+
+QtToolkit::QtToolkit(const platform::Locale& locale) : page_(locale.CodePage()) {
+    InstallPictureAccessibility();
+}
 
 std::unique_ptr<forms::View> QtToolkit::CreateView(forms::Form& form) {
     QWidget* const below = TopWindow();

@@ -17,7 +17,7 @@ class FormWindow;
 class QtToolkit : public forms::Toolkit {
 public:
     /// The locale tells how texts that are not UTF-8 are shown; it outlives the toolkit.
-    explicit QtToolkit(const platform::Locale& locale) : page_(locale.CodePage()) {}
+    explicit QtToolkit(const platform::Locale& locale);
 
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;

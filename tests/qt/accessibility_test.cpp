@@ -1,0 +1,156 @@
+// What screen readers are told of the windows, and how the keyboard does all that a mouse can.
+
+#include "all_windows.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListView>
+#include <QTest>
+#include <QTimer>
+
+namespace halvenmoor::qt {
+namespace {
+
+QString NameOf(const forms::Control& control) {
+    return QAccessible::queryAccessibleInterface(&WidgetOf(control))->text(QAccessible::Name);
+}
+
+/// What the control is for, when its name is its choice.
+QString LabelOf(const forms::Control& control) {
+    for (const auto& [label, relation] :
+         QAccessible::queryAccessibleInterface(&WidgetOf(control))->relations(QAccessible::Label)) {
+        if (relation.testFlag(QAccessible::Label)) return label->text(QAccessible::Name);
+    }
+    return {};
+}
+
+QAccessible::Role RoleOf(forms::Kind kind) {
+    switch (kind) {
+        case forms::Kind::Label:
+            return QAccessible::StaticText;
+        case forms::Kind::Frame:
+            return QAccessible::Grouping;
+        case forms::Kind::CommandButton:
+            return QAccessible::Button;
+        case forms::Kind::CheckBox:
+            return QAccessible::CheckBox;
+        case forms::Kind::OptionButton:
+            return QAccessible::RadioButton;
+        case forms::Kind::ListBox:
+            return QAccessible::List;
+        case forms::Kind::ComboBox:
+            return QAccessible::ComboBox;
+        case forms::Kind::PictureBox:
+            return QAccessible::Graphic;
+        case forms::Kind::TextBox:
+            return QAccessible::EditableText;
+    }
+    return QAccessible::NoRole;
+}
+
+void ExpectAllNamed(forms::Form& form) {
+    form.Owner().Yield();
+    for (const forms::Control* control : form.Controls()) {
+        if (!control->Visible()) continue;
+        const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));
+        ASSERT_NE(told, nullptr) << control->Name();
+        EXPECT_EQ(told->role(), RoleOf(control->Kind())) << control->Name();
+        const bool isNamedByChoice = control->Kind() == forms::Kind::ComboBox;
+        const QString name = isNamedByChoice ? LabelOf(*control) : told->text(QAccessible::Name);
+        EXPECT_EQ(name.toStdString(), control->AccessibleName());
+        const bool isEmptyLabel = control->Kind() == forms::Kind::Label && control->Caption().empty();
+        EXPECT_TRUE(isEmptyLabel || !control->AccessibleName().empty()) << control->Name();
+    }
+}
+
+TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
+    for (const char* language : {"English", "Deutsch"}) {
+        SCOPED_TRACE(language);
+        for (int i = 0; i < Form().LanguageList.ListCount(); ++i) {
+            if (Form().LanguageList.List(i) == language) Form().LanguageList.UserChoose(i);
+        }
+        LookAtAllWindows(ExpectAllNamed);
+    }
+    EXPECT_EQ(NameOf(Form().TypeList[4]), "Blitzer Typ \"4\" (Abschnittskontrolle)");
+    EXPECT_EQ(NameOf(Form().MainList), "Blitzerdateien (Ohne Typ)");
+    EXPECT_EQ(NameOf(Form().ButtonAdd[5]),
+              "Blitzerdateien (Ohne Typ) \u2192 Blitzer Typ \"5\" (Mobiler Blitzer)");
+    EXPECT_EQ(NameOf(Form().ButtonRemove[1]),
+              "Blitzer Typ \"1\" (Fester Blitzer) \u2192 Blitzerdateien (Ohne Typ)");
+    EXPECT_EQ(LabelOf(Form().LanguageList), "Sprache wählen");
+}
+
+/// The main window with two camera files, of which no name tells the type.
+class Keyboard : public ProgramWindows {
+protected:
+    Keyboard() {
+        memory.Put("/p/Settings.ini", "[Type1]\nfixed*\n");
+        memory.Put("/p/demo/asc_demo/One 50.asc", "1.5, 2.5, \"one\"\n");
+        memory.Put("/p/demo/asc_demo/Two 70.asc", "3.5, 4.5, \"two\"\n");
+        memory.AddFolder("/p/demo/txt_demo");
+        program.Start();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+    }
+
+    frmMain& Form() { return program.MainForm(); }
+    static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+    }
+    void TabTo(const forms::Control& control) {
+        for (int i = 0; i < 60 && Form().ActiveControl() != &control; ++i) Press(Qt::Key_Tab);
+        ASSERT_EQ(Form().ActiveControl(), &control) << control.Name();
+    }
+};
+
+TEST_F(Keyboard, DoesTheWholeJob) {
+    TabTo(Form().MainList);
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(Form().MainList.SelCount(), 2);
+    Press(Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(Form().TypeList[2].ListCount(), 2);
+
+    TabTo(Form().TypeList[2]);
+    Press(Qt::Key_End);
+    Press(Qt::Key_0, Qt::AltModifier);
+    EXPECT_EQ(Form().MainList.List(0), "Two 70");
+
+    TabTo(Form().MainList);
+    Press(Qt::Key_Space);
+    Press(Qt::Key_5, Qt::AltModifier);
+    EXPECT_EQ(Form().TypeList[5].ListCount(), 1);
+
+    bool closedResults = false;
+    QTimer watcher;
+    QObject::connect(&watcher, &QTimer::timeout, [&] {
+        QWidget* const front = QApplication::activeModalWidget();
+        if (front == nullptr || front->objectName() != "frmResults") return;
+        closedResults = true;
+        QTest::keyClick(front, Qt::Key_Escape);
+    });
+    watcher.start(20);
+    TabTo(Form().ButtonExportCameras);
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(closedResults);
+    EXPECT_EQ(memory.Text("/p/demo/txt_demo/SpeedCamText.txt"),
+              "X,Y,TYPE,SPEED,DirType,Direction\r\n1.5,2.5,2,50,0,0\r\n3.5,4.5,5,70,0,0\r\n");
+    EXPECT_NE(Form().ActiveControl(), nullptr) << "the focus is back in the main window";
+}
+
+TEST_F(Window, KeepsItsLayoutInAnyWriting) {
+    form.label.SetCaption("\u05E9\u05DC\u05D5\u05DD");
+    form.left.AddItem("\u05E9\u05DC\u05D5\u05DD");
+    form.left.AddItem("shalom");
+    desktop.Yield();
+    EXPECT_TRUE(Find<QLabel>("label").alignment().testFlag(Qt::AlignRight));
+    const auto alignment = [&](int row) {
+        const QAbstractItemModel& rows = *Find<QListView>("left").model();
+        return rows.index(row, 0).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    };
+    EXPECT_TRUE(alignment(0).testFlag(Qt::AlignLeft));
+    EXPECT_TRUE(alignment(1).testFlag(Qt::AlignRight));
+}
+
+}  // namespace
+}  // namespace halvenmoor::qt
