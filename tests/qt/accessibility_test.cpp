@@ -51,6 +51,10 @@ QAccessible::Role RoleOf(forms::Kind kind) {
 
 void ExpectAllNamed(forms::Form& form) {
     form.Owner().Yield();
+    const auto* const window = QAccessible::queryAccessibleInterface(dynamic_cast<QWidget*>(form.View()));
+    const bool isMain = form.AtDesign().name == "frmMain";
+    EXPECT_EQ(window->role(), isMain ? QAccessible::Window : QAccessible::Dialog);
+    EXPECT_EQ(window->text(QAccessible::Name).toStdString(), form.Caption());
     for (const forms::Control* control : form.Controls()) {
         if (!control->Visible()) continue;
         const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));

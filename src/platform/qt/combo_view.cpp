@@ -2,6 +2,7 @@
 
 #include "platform/qt/conversions.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QStringList>
 
@@ -31,6 +32,9 @@ void ComboView::ShowState() {
         Widget().addItems(items);
         shownItems_ = Control().ItemsVersion();
     }
+    const QString name = ToText(Control().AccessibleName(), CodePage());
+    Widget().lineEdit()->setAccessibleName(name);
+    Widget().view()->setAccessibleName(name);
     Widget().setCurrentIndex(Control().ListIndex());
     const QString text = ToText(Control().Text(), CodePage());
     if (text != Widget().currentText()) Widget().setEditText(text);

@@ -1,7 +1,5 @@
 #include "platform/qt/picture_view.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace halvenmoor::qt {
@@ -12,16 +10,7 @@ QString PicturePath(const QString& name) {
     return QStringLiteral(":/pictures/%1.svg").arg(name);
 }
 
-QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-    auto* const picture = dynamic_cast<PictureWidget*>(object);
-    return picture != nullptr ? new QAccessibleWidget(picture, QAccessible::Graphic) : nullptr;
-}
-
 }  // namespace
-
-void InstallPictureAccessibility() {
-    QAccessible::installFactory(MakeAccessible);
-}
 
 void PictureWidget::Load(const QString& name) {
     picture_.load(PicturePath(name));

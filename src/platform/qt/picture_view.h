@@ -40,9 +40,6 @@ private:
     ImageCanvas canvas_;
 };
 
-/// From now on screen readers are told that a picture is one.
-void InstallPictureAccessibility();
-
 /// The program's icon.
 QIcon ProgramIcon();
 

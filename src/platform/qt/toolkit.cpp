@@ -1,7 +1,7 @@
 #include "platform/qt/toolkit.h"
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/form_window.h"
-#include "platform/qt/picture_view.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -28,7 +28,7 @@ void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
 }  // namespace
 
 QtToolkit::QtToolkit(const platform::Locale& locale) : page_(locale.CodePage()) {
-    InstallPictureAccessibility();
+    InstallAccessibility();
 }
 
 std::unique_ptr<forms::View> QtToolkit::CreateView(forms::Form& form) {

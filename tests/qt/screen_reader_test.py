@@ -1,0 +1,109 @@
+"""Reads the real main window as a screen reader does, over AT-SPI on a display and a bus of its own.
+
+    screen_reader_test.py PROGRAM
+
+Ends with status 77 where something that it needs is not installed.
+"""
+
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+SKIPPED = 77
+PATIENCE = 60  # seconds
+
+# What has to be in the window, as (role, name).
+EXPECTED = [
+    ("frame", "Halvenmoor 3.2"),
+    ("list", "Speed Camera Files (Unclassified)"),
+    ("list", 'Speed Camera Type "1" (Fixed Speed Camera)'),
+    ("list", 'Speed Camera Type "5" (Mobile Speed Camera)'),
+    ("push button", "Classify Files"),
+    ("push button", 'Speed Camera Files (Unclassified) → Speed Camera Type "3" (Red Light Camera)'),
+    ("push button", 'Speed Camera Type "1" (Fixed Speed Camera) → Speed Camera Files (Unclassified)'),
+    ("check box", "Demonstration Mode"),
+    ("radio button", "Replace File"),
+    ("panel", "Export Cameras"),
+]
+
+
+def skip(reason):
+    print("skipped:", reason)
+    sys.exit(SKIPPED)
+
+
+def display():
+    """Starts a display; its name and the process."""
+    readable, writable = os.pipe()
+    process = subprocess.Popen(["Xvfb", "-displayfd", str(writable), "-screen", "0", "1024x768x24"],
+                               pass_fds=[writable], stderr=subprocess.DEVNULL)
+    os.close(writable)
+    with os.fdopen(readable) as number:
+        return ":" + number.readline().strip(), process
+
+
+def elements(element):
+    yield element.get_role_name(), element.get_name()
+    for i in range(element.get_child_count()):
+        child = element.get_child_at_index(i)
+        if child is not None:
+            yield from elements(child)
+
+
+def window_of(reader, process_id):
+    """The program's window, once it is there."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        desktop = reader.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            program = desktop.get_child_at_index(i)
+            if program is not None and program.get_process_id() == process_id and program.get_child_count() > 0:
+                return program.get_child_at_index(0)
+        time.sleep(0.2)
+    sys.exit("no window was told of")
+
+
+def read_window(program, home):
+    name, screen = display()
+    os.environ.update(DISPLAY=name, HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home, QT_QPA_PLATFORM="xcb",
+                      QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", ASAN_OPTIONS="detect_leaks=0")
+    # The launcher starts others, which would outlive it and keep the output open.
+    launcher = subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], start_new_session=True,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    running = subprocess.Popen([program])
+    try:
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+        return set(elements(window_of(Atspi, running.pid)))
+    finally:
+        running.kill()
+        os.killpg(launcher.pid, signal.SIGKILL)
+        screen.kill()
+
+
+def main():
+    for tool in ("Xvfb", "dbus-run-session", BUS_LAUNCHER):
+        if shutil.which(tool) is None:
+            skip(f"{tool} is not installed")
+    if subprocess.run([sys.executable, "-c", "import gi; gi.require_version('Atspi', '2.0')"],
+                      stderr=subprocess.DEVNULL).returncode != 0:
+        skip("the AT-SPI bindings of Python are not installed")
+    if sys.argv[1] != "--on-own-bus":
+        os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, __file__, "--on-own-bus", sys.argv[1]])
+    with tempfile.TemporaryDirectory() as home:
+        os.chmod(home, 0o700)
+        found = read_window(sys.argv[2], home)
+    missing = [element for element in EXPECTED if element not in found]
+    nameless = [element for element in found if not element[1] and element[0] in ("push button", "list", "check box", "text")]
+    if missing or nameless:
+        print("missing:", missing, "nameless:", nameless, "found:", *sorted(found), sep="\n")
+        sys.exit(1)
+
+
+main()
