@@ -35,20 +35,14 @@ bool IsBegunFrom(const Strings& lines, const Strings& whole) {
     return lines.size() <= whole.size() && std::equal(lines.begin(), lines.end(), whole.begin());
 }
 
-std::set<std::string> Entries(JourneyProgram& program) {
+void ExpectSoundLists(frmMain& window) {
     std::set<std::string> entries;
-    for (int number = 0; number <= kLastType; ++number) {
-        for (const std::string& entry : program.Items(number)) {
-            EXPECT_TRUE(entries.insert(entry).second) << entry << " stands in two lists";
-        }
-    }
-    return entries;
-}
-
-void ExpectSoundLists(JourneyProgram& program) {
     int listsWithSelection = 0;
     for (int number = 0; number <= kLastType; ++number) {
-        const forms::ListBox& list = program.List(number);
+        const forms::ListBox& list = number == 0 ? window.MainList : window.TypeList[number];
+        for (const std::string& entry : headless::ItemsOf(list)) {
+            EXPECT_TRUE(entries.insert(entry).second) << entry << " stands in two lists";
+        }
         int selected = 0;
         for (int i = 0; i < list.ListCount(); ++i) selected += list.Selected(i) ? 1 : 0;
         EXPECT_EQ(list.SelCount(), selected) << list.Name();
@@ -58,17 +52,17 @@ void ExpectSoundLists(JourneyProgram& program) {
         listsWithSelection += selected > 0 ? 1 : 0;
     }
     EXPECT_LE(listsWithSelection, 1);
-    Entries(program);
 }
 
-void ExpectSoundButtons(JourneyProgram& program) {
-    const frmMain& window = program.Window();
+void ExpectSoundButtons(frmMain& window) {
     bool anyClassified = false;
-    for (int type = kFirstType; type <= kLastType; ++type) anyClassified |= !program.Items(type).empty();
-    EXPECT_EQ(window.ButtonClassifyFiles.Enabled(), !program.Items(0).empty());
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        anyClassified |= window.TypeList[type].ListCount() > 0;
+    }
+    EXPECT_EQ(window.ButtonClassifyFiles.Enabled(), window.MainList.ListCount() > 0);
     EXPECT_EQ(window.ButtonReloadFiles.Enabled(), anyClassified);
     EXPECT_EQ(window.ButtonRenameFile.Enabled(), window.MainList.SelCount() == 1);
-    EXPECT_EQ(window.ButtonImportFiles.Enabled(), !program.Demonstration());
+    EXPECT_EQ(window.ButtonImportFiles.Enabled(), !window.CheckDemoMode.Value());
     EXPECT_EQ(window.ButtonExportCameras.Enabled(), anyClassified);
     EXPECT_EQ(window.ButtonShowResults.Enabled(), window.ResultsValid);
     EXPECT_TRUE(window.ButtonExitApplication.Enabled());
@@ -115,8 +109,12 @@ void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
     EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
     if (program.desktop.Ended()) return;
     EXPECT_TRUE(program.desktop.Accepts(program.Window()));
-    ExpectSoundLists(program);
-    ExpectSoundButtons(program);
+    ExpectSoundWindow(program.Window());
+}
+
+void ExpectSoundWindow(frmMain& window) {
+    ExpectSoundLists(window);
+    ExpectSoundButtons(window);
 }
 
 // Export

@@ -81,6 +81,8 @@ inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
 
 /// Buttons, lists and windows agree, and every file is there that the journey is not about.
 void ExpectSoundProgram(JourneyProgram& program, const Journey& journey);
+/// The part of it that shows in the window: each entry stands in one list, the buttons follow their rules.
+void ExpectSoundWindow(frmMain& window);
 
 /// Classify and export, by mode.
 Journey ExportJourney(int mode);

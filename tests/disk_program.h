@@ -1,0 +1,123 @@
+#pragma once
+
+#include "import_program.h"
+#include "journeys.h"
+#include "platform/disk/file_system.h"
+#include "platform/disk/host_files.h"
+#include "platform/disk/path_finder.h"
+#include "temporary_folder.h"
+#include "ui/frmRename.h"
+
+#include <filesystem>
+#include <numeric>
+#include <string>
+#include <unistd.h>
+
+namespace halvenmoor {
+
+const std::string kPoint("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);  // 1.5, 52.5, "n"
+const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
+const std::string kComment = "; Generic Ascii file created by Halvenmoor.\r\n\r\n";
+
+inline std::string Repeated(const std::string& text, std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+/// A small program folder as at first, and nothing else.
+inline void InstallFiles(const TemporaryFolder& folder) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+        std::filesystem::remove_all(entry.path());
+    for (const char* name : {"asc", "txt", "lang", "import/ov2", "import/txt"}) folder.AddFolder(name);
+    folder.Put("Settings.ini", "[Type1]\nfixed*\n[Settings]\nSourceStructure=1\n");
+    folder.Put("lang/deutsch.ini", "[Halvenmoor]\nButtonExitApplication=beenden\n");
+    folder.Put("asc/fixed_50.asc", "1.5, 52.5, \"a\"\r\n");
+    folder.Put("asc/fixed_60.asc", "2.5, 52.5, \"b\"\r\n");
+    folder.Put("import/ov2/one.ov2", kPoint);
+    folder.Put("import/txt/one.txt", "1.5,52.5,1,50\n");
+    folder.Put("txt/old.txt", kHeader + "9.5,59.5,1,50,0,0\r\n");
+    folder.Put("elsewhere/kept.asc", "4.5, 54.5, \"e\"\r\n");
+}
+
+/// The bytes of all files by their paths in the folder; of a link, its target.
+inline Disk AllFiles(const TemporaryFolder& folder) {
+    Disk all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
+        const std::string name = entry.path().lexically_relative(folder.Path()).string();
+        if (entry.is_symlink()) {
+            all[name] = "-> " + std::filesystem::read_symlink(entry.path()).string();
+        } else if (entry.is_regular_file()) {
+            all[name] = ::access(entry.path().c_str(), R_OK) == 0 ? folder.Text(name) : "(closed)";
+        }
+    }
+    return all;
+}
+
+/// The program over a folder of real files, in normal mode.
+struct DiskProgram {
+    explicit DiskProgram(const TemporaryFolder& folder) : application(folder.Path()) {
+        settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
+        program.Start();
+    }
+
+    frmMain& Window() { return program.MainForm(); }
+
+    /// Whether the results came up. The path is that of a file dialog.
+    bool Export(int mode = 1, const std::string& path = "") {
+        bool shown = false;
+        toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
+        fileDialogs.Answers = {path};
+        Window().ButtonClassifyFiles.UserPress();
+        Window().OptionExportMode[mode].UserPress();
+        Window().ButtonExportCameras.UserPress();
+        toolkit.ForgetScript();
+        return shown;
+    }
+    /// The picture at the end.
+    std::string Import(int source) {
+        std::string picture;
+        toolkit.Script([&](forms::Form& form) {
+            auto& dialog = static_cast<frmImport&>(form);
+            dialog.OptionSource[source].UserPress();
+            dialog.ButtonStart.UserPress();
+            ImportProgram::ExpectDone(dialog);
+            picture = ImportProgram::PictureOf(dialog);
+            dialog.ButtonFinish.UserPress();
+        });
+        Window().ButtonImportFiles.UserPress();
+        toolkit.ForgetScript();
+        return picture;
+    }
+    void Rename(const std::string& entry, const std::string& newName) {
+        toolkit.Script([&newName](forms::Form& form) {
+            auto& dialog = static_cast<frmRename&>(form);
+            dialog.TextFileName.UserTyped(newName);
+            dialog.ButtonRename.UserPress();
+            dialog.UserEscape();
+        });
+        headless::Select(Window().MainList, {entry});
+        Window().ButtonRenameFile.UserPress();
+        toolkit.ForgetScript();
+    }
+    int Exported() {
+        const auto& counters = program.Exports().CamerasExported;
+        return std::accumulate(counters.begin(), counters.end(), 0);
+    }
+
+    headless::FixedLocale locale;
+    disk::PathFinder finder{locale.CodePage()};
+    disk::DiskFileSystem fileSystem{finder};
+    disk::DiskHostFiles hostFiles{finder};
+    headless::FixedApplication application;
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    headless::HeadlessToolkit toolkit{clock};
+    Program program{
+        {fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale}, toolkit};
+};
+
+}  // namespace halvenmoor
