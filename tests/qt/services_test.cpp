@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <cmath>
+#include <sys/stat.h>
 
 namespace halvenmoor::qt {
 
@@ -145,7 +146,10 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
 
     std::vector<QByteArray> tokens;
     first->OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
-    for (const char* const message : {"stop\n", "raise", "raise\nraise x\n"}) {
+    const QByteArray endless = "raise " + QByteArray(1 << 20, 'x');
+    for (const QByteArray& message :
+         {QByteArray("stop\n"), QByteArray("raise"), QByteArray("raise\nraise x\n"),
+          QByteArray("\0\nraise \n", 9), endless, endless + '\n'}) {
         QLocalSocket foreign;
         foreign.connectToServer(folder.path() + "/halvenmoor.socket");
         ASSERT_TRUE(foreign.waitForConnected());
@@ -164,6 +168,40 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     first.reset();
     InstanceGuard(folder.path()).RaiseOther();
     EXPECT_TRUE(InstanceGuard(folder.path()).IsFirst()) << "a later start";
+}
+
+TEST(InstanceGuard, IsFirstWhateverAKilledOneLeftBehind) {
+    const QTemporaryDir folder;
+    for (const char* const name : {"/halvenmoor.lock", "/halvenmoor.socket"}) {
+        QFile file(folder.path() + name);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+    InstanceGuard guard(folder.path());
+    EXPECT_TRUE(guard.IsFirst());
+    EXPECT_FALSE(InstanceGuard(folder.path()).IsFirst());
+}
+
+TEST(InstanceGuard, ListensToItsUserOnly) {
+    const QTemporaryDir folder;
+    InstanceGuard guard(folder.path());
+    ASSERT_TRUE(guard.IsFirst());
+    struct stat socket = {};
+    ASSERT_EQ(::stat(QFile::encodeName(folder.path() + "/halvenmoor.socket").constData(), &socket), 0);
+    EXPECT_EQ(socket.st_mode & (S_IRWXG | S_IRWXO), 0u);
+
+    const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+    qunsetenv("XDG_RUNTIME_DIR");
+    qputenv("TMPDIR", folder.path().toLocal8Bit());
+    const QString own = InstanceGuard::RuntimeFolder();
+    EXPECT_TRUE(own.startsWith(folder.path() + "/halvenmoor-")) << "made for this user";
+    EXPECT_EQ(InstanceGuard::RuntimeFolder(), own);
+    ASSERT_EQ(::chmod(QFile::encodeName(own).constData(), 0755), 0);
+    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "others can enter it";
+    ASSERT_TRUE(QDir(folder.path()).rename(own, "private"));
+    ASSERT_TRUE(QFile::link(folder.path() + "/private", own));
+    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "it may lead anywhere";
+    qunsetenv("TMPDIR");
+    qputenv("XDG_RUNTIME_DIR", runtime);
 }
 
 TEST_F(Window, IsRaisedAndRestored) {

@@ -1,10 +1,10 @@
 #include "platform/qt/instance_guard.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <cerrno>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,8 +35,7 @@ QString MakePrivate(const QString& path) {
 }  // namespace
 
 InstanceGuard::InstanceGuard(const QString& folder)
-    : folder_(folder), lock_(folder + QStringLiteral("/halvenmoor.lock")) {
-    lock_.setStaleLockTime(0);  // however long the other instance runs
+    : folder_(folder), lockFile_(folder + QStringLiteral("/halvenmoor.lock")) {
 }
 
 bool InstanceGuard::IsFirst() {
@@ -49,11 +48,14 @@ bool InstanceGuard::IsFirst() {
 
 bool InstanceGuard::Lock() {
     // A folder that takes no lock must not keep the program from starting.
-    return folder_.isEmpty() || lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
+    if (folder_.isEmpty() || !lockFile_.open(QFile::ReadWrite)) return true;
+    // The system's own lock: what the file holds, or who left it behind, does not matter.
+    isLocked_ = ::flock(lockFile_.handle(), LOCK_EX | LOCK_NB) == 0;
+    return isLocked_ || errno != EWOULDBLOCK;
 }
 
 void InstanceGuard::Listen() {
-    if (!lock_.isLocked()) return;
+    if (!isLocked_) return;
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
         while (QLocalSocket* const guest = server_.nextPendingConnection()) {
             QObject::connect(guest, &QLocalSocket::disconnected, guest, &QObject::deleteLater);
@@ -61,8 +63,11 @@ void InstanceGuard::Listen() {
         }
     });
     QLocalServer::removeServer(SocketPath(folder_));  // left behind by an instance that crashed
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    // For this user only from its first moment. The server's own option makes a folder for that, and an
+    // instance that is killed then leaves it behind.
+    const mode_t before = ::umask(S_IRWXG | S_IRWXO);
     server_.listen(SocketPath(folder_));
+    ::umask(before);
 }
 
 void InstanceGuard::Greet(QLocalSocket& guest) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QLocalServer>
-#include <QLockFile>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -35,7 +35,8 @@ private:
 
     QString folder_;
     std::optional<bool> isFirst_;
-    QLockFile lock_;
+    QFile lockFile_;  // it stays where it is, locked or not
+    bool isLocked_ = false;
     QLocalServer server_;
 };
 
