@@ -7,6 +7,7 @@
 #include "window_fixture.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -134,6 +135,21 @@ TEST(Settings, LastAndNeverFail) {
     QtSettings unwritable(folder.path() + "/file");
     unwritable.SaveSetting("App", "Section", "Name", "kept");
     EXPECT_EQ(read(unwritable, "Name"), "kept");
+}
+
+TEST(Settings, RemoveWhatAKilledWriterLeftBehind) {
+    const QTemporaryDir folder;
+    const QStringList leftovers{"halvenmoor.ini.AbCdEf", "halvenmoor.ini.lock"};
+    const QStringList others{"halvenmoor.ini.Backup", "halvenmoor.ini.before", "other.ini.AbCdEf"};
+    for (const QString& name : leftovers + others) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+    QElapsedTimer time;
+    time.start();
+    QtSettings(folder.path()).SaveSetting("App", "Section", "Name", "kept");
+    EXPECT_LT(time.elapsed(), 10'000) << "waited for a lock that nobody holds";
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"halvenmoor.ini"} + others);
 }
 
 TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {

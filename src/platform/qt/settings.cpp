@@ -1,5 +1,8 @@
 #include "platform/qt/settings.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace halvenmoor::qt {
@@ -12,6 +15,18 @@ QString ToQString(std::string_view text) {
 
 QString Key(std::string_view application, std::string_view section, std::string_view name) {
     return ToQString(application) + '/' + ToQString(section) + '/' + ToQString(name);
+}
+
+/// Removes what writers of the file left behind when they were killed: a lock, which would hold up the next
+/// one for half a minute if it is still empty, and a new file that had not taken its place yet.
+void RemoveLeftovers(const QString& path) {
+    // The suffix of six letters is random. A name that a user gives to a copy is not in such mixed case.
+    const QRegularExpression leftover(QStringLiteral(R"(\.(lock|(?=.*[a-z])(?=.+[A-Z])[A-Za-z]{6})$)"));
+    const QFileInfo file(path);
+    QDir folder = file.dir();
+    for (const QString& name : folder.entryList({file.fileName() + QStringLiteral(".*")}, QDir::Files)) {
+        if (leftover.match(name).hasMatch()) folder.remove(name);
+    }
 }
 
 }  // namespace
@@ -29,6 +44,9 @@ std::string QtSettings::GetSetting(std::string_view application, std::string_vie
 
 void QtSettings::SaveSetting(std::string_view application, std::string_view section, std::string_view name,
                              std::string_view value) {
+    // Another instance of the user reads options but never gets as far as here.
+    if (!hasSaved_) RemoveLeftovers(settings_.fileName());
+    hasSaved_ = true;
     settings_.setValue(Key(application, section, name), ToQString(value));
     settings_.sync();
 }

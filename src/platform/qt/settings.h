@@ -25,6 +25,7 @@ public:
 
 private:
     QSettings settings_;
+    bool hasSaved_ = false;
 };
 
 }  // namespace halvenmoor::qt
