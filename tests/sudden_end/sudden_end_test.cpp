@@ -1,0 +1,244 @@
+// What is left when the program is killed. Each journey runs in a process of its own, again and again, and is
+// killed at one of its calls to the system: nothing on the disk changes between two of them.
+//
+// HALVENMOOR_KILLS says how often each journey is killed, 10 times unless it is set.
+
+#include "platform/qt/instance_guard.h"
+#include "platform/qt/settings.h"
+#include "tests/disk_program.h"
+#include "tests/files_test_helpers.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <limits>
+#include <random>
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace halvenmoor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kOv2 = ImportProgram::kOv2;
+constexpr int kTxt = ImportProgram::kTxt;
+
+using Work = std::function<void()>;
+
+constexpr int kCannotBeTraced = 77;
+
+/// Runs the work in a process of its own.
+pid_t Start(const Work& work) {
+    const pid_t child = ::fork();
+    if (child != 0) return child;
+    constexpr unsigned secondsUntilItHangs = 20;
+    ::alarm(secondsUntilItHangs);
+    work();
+    ::_exit(0);
+}
+
+int End(pid_t child) {
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return status;
+}
+
+/// Runs the work and kills it when it has stopped so often, at the begin or at the end of a call to the
+/// system. Returns how often it stopped.
+int StopsUntilKilled(const Work& work, int lastStop) {
+    const pid_t child = Start([&work] {
+        if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(kCannotBeTraced);
+        ::raise(SIGSTOP);
+        work();
+    });
+    int stops = 0;
+    for (int status = End(child); WIFSTOPPED(status); status = End(child), ++stops) {
+        if (stops == lastStop) ::kill(child, SIGKILL);
+        const int signal = WSTOPSIG(status) == SIGALRM ? SIGALRM : 0;
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, signal);
+    }
+    return stops;
+}
+
+/// What the work answers in a process of its own, 1 or 0; -1 if it came to no end.
+int Answer(const std::function<bool()>& question) {
+    const int status = End(Start([&question] { ::_exit(question() ? 1 : 0); }));
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class SuddenEndTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (WEXITSTATUS(End(Start([] {
+                if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(kCannotBeTraced);
+            }))) == kCannotBeTraced) {
+            GTEST_SKIP() << "this system lets no process be traced";
+        }
+    }
+
+    /// Kills the work at some of its stops, at all of them when they are few, and looks at what each kill
+    /// left.
+    void Sweep(const Work& prepare, const Work& work, const Work& look) {
+        prepare();
+        const int stops = StopsUntilKilled(work, std::numeric_limits<int>::max());
+        const char* const wanted = std::getenv("HALVENMOOR_KILLS");
+        const std::size_t kills = wanted == nullptr ? 10 : std::stoul(wanted);
+        std::vector<int> all(static_cast<std::size_t>(stops));
+        std::iota(all.begin(), all.end(), 1);
+        std::vector<int> chosen;
+        std::sample(all.begin(), all.end(), std::back_inserter(chosen), kills, std::mt19937(1));
+        for (const int stop : chosen) {
+            SCOPED_TRACE("killed at stop " + std::to_string(stop));
+            prepare();
+            StopsUntilKilled(work, stop);
+            look();
+        }
+        std::cout << stops << " stops, killed " << chosen.size() << " times\n";
+        EXPECT_GT(stops, 20);
+    }
+
+    Strings Names() {
+        Strings names;
+        for (const auto& entry : fs::directory_iterator(folder.Path()))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    TemporaryFolder folder;
+};
+
+constexpr std::size_t kManyCameras = 4000;
+
+class JourneyEndTest : public SuddenEndTest {
+protected:
+    void Prepare() {
+        InstallFiles(folder);
+        folder.Put("asc/fixed_60.asc", Repeated("2.5, 52.5, \"b\"\r\n", kManyCameras));
+        folder.Put("import/ov2/two.ov2", Repeated(kPoint, kManyCameras));
+        folder.Put("import/txt/two.txt", Repeated("1.5,52.5,2,50\n", kManyCameras));
+        installed = AllFiles(folder);
+    }
+    /// Plays a journey that ends with these files, and looks that at each sudden end every file was as before
+    /// or as far as it is written. Files that may be gone by then are those below `emptied`.
+    void Sweep(const std::function<void(DiskProgram&)>& play, Disk done, const std::string& emptied = "-") {
+        SuddenEndTest::Sweep([this] { Prepare(); },
+                             [&] {
+                                 DiskProgram program(folder);
+                                 play(program);
+                             },
+                             [&] {
+                                 ExpectBegun(done, emptied);
+                                 DiskProgram program(folder);
+                                 ExpectSoundWindow(program.Window());
+                                 if (emptied == "-") Prepare();
+                                 DiskProgram next(folder);
+                                 play(next);
+                                 ExpectDone(done, emptied);
+                             });
+    }
+
+    Disk Files() {
+        Disk all = AllFiles(folder);
+        all.erase("Export Results.txt");
+        return all;
+    }
+    void ExpectBegun(const Disk& done, const std::string& emptied) {
+        const Disk left = Files();
+        for (const auto& [name, bytes] : left) {
+            const bool isAsBefore = installed.count(name) > 0 && installed.at(name) == bytes;
+            const bool isBegun = done.count(name) > 0 && done.at(name).starts_with(bytes);
+            EXPECT_TRUE(isAsBefore || isBegun) << name;
+        }
+        for (const auto& [name, bytes] : installed) {
+            EXPECT_TRUE(left.count(name) > 0 || name.starts_with(emptied)) << name << " is lost";
+        }
+    }
+    void ExpectDone(const Disk& done, const std::string& emptied) {
+        Disk expected = installed;
+        std::erase_if(expected, [&](const auto& file) { return file.first.starts_with(emptied); });
+        for (const auto& [name, bytes] : done) expected[name] = bytes;
+        EXPECT_TRUE(Files() == expected);
+    }
+
+    Disk installed;
+};
+
+TEST_F(JourneyEndTest, Export) {
+    const std::string lines = "1.5,52.5,1,50,0,0\r\n" + Repeated("2.5,52.5,1,60,0,0\r\n", kManyCameras);
+    Sweep([](DiskProgram& program) { program.Export(); }, {{"txt/SpeedCamText.txt", kHeader + lines}});
+    const std::string old = kHeader + "9.5,59.5,1,50,0,0\r\n";
+    Sweep([this](DiskProgram& program) { program.Export(3, folder / "txt/old.txt"); },
+          {{"txt/old.txt", old + lines}});
+}
+
+TEST_F(JourneyEndTest, Import) {
+    const std::string ov2 = "1.50000, 52.50000, \"n\"\r\n";
+    Sweep([](DiskProgram& program) { program.Import(kOv2); },
+          {{"asc/one.asc", kComment + ov2}, {"asc/two.asc", kComment + Repeated(ov2, kManyCameras)}}, "asc/");
+    Sweep([](DiskProgram& program) { program.Import(kTxt); },
+          {{"asc/Fixed_Camera_050.asc", kComment + "1.5, 52.5, \"Fixed Camera\"\r\n"},
+           {"asc/RedSpeed_Camera_050.asc",
+            kComment + Repeated("1.5, 52.5, \"RedSpeed Camera\"\r\n", kManyCameras)}},
+          "asc/");
+}
+
+TEST_F(JourneyEndTest, Rename) {
+    SuddenEndTest::Sweep([this] { Prepare(); }, [this] { DiskProgram(folder).Rename("fixed_50", "named"); },
+                         [this] {
+                             const Disk left = AllFiles(folder);
+                             Disk renamed = installed;
+                             renamed["asc/named.asc"] = renamed.extract("asc/fixed_50.asc").mapped();
+                             EXPECT_TRUE(left == installed || left == renamed);
+                         });
+}
+
+TEST_F(SuddenEndTest, OptionsAreTheOldOnesOrTheNewOnes) {
+    const auto save = [this](const char* demo, const char* language) {
+        qt::QtSettings settings(folder.Path().c_str());
+        settings.SaveSetting("App", "Settings", "DemoMode", demo);
+        settings.SaveSetting("App", "Settings", "Language", language);
+    };
+    const auto areStored = [this](const char* demo, const char* language) {
+        return Answer([&] {
+                   qt::QtSettings settings(folder.Path().c_str());
+                   return settings.GetSetting("App", "Settings", "DemoMode", "") == demo &&
+                          settings.GetSetting("App", "Settings", "Language", "") == language;
+               }) == 1;
+    };
+    Sweep(
+        [&] { EXPECT_EQ(End(Start([&] { save("0", "Deutsch"); })), 0); }, [&] { save("1", "English"); },
+        [&] {
+            EXPECT_TRUE(areStored("0", "Deutsch") || areStored("1", "Deutsch") || areStored("1", "English"));
+            const auto start = std::chrono::steady_clock::now();
+            EXPECT_EQ(End(Start([&] { save("2", "French"); })), 0);
+            EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+            EXPECT_TRUE(areStored("2", "French"));
+            EXPECT_EQ(Names(), Strings{"halvenmoor.ini"});
+        });
+}
+
+TEST_F(SuddenEndTest, TheNextInstanceIsTheFirst) {
+    const auto isFirst = [this] {
+        int count = 1;
+        char name[] = "halvenmoor";
+        char* arguments[] = {name, nullptr};
+        const QCoreApplication application(count, arguments);
+        return qt::InstanceGuard(folder.Path().c_str()).IsFirst();
+    };
+    Sweep([] {}, [&] { isFirst(); },
+          [&] {
+              EXPECT_EQ(Answer(isFirst), 1);
+              for (const std::string& name : Names())
+                  EXPECT_TRUE(name == "halvenmoor.lock" || name == "halvenmoor.socket") << name;
+          });
+}
+
+}  // namespace
+}  // namespace halvenmoor
