@@ -183,6 +183,14 @@ TEST(Ov2ImportTest, FailedFilesLeaveNoTraceAndAreCounted) {
     EXPECT_EQ(program.Camera("good"), kHeader + LineOf("n"));
 }
 
+TEST(Ov2ImportTest, SourcesWithOneTargetAreNotWrittenOverOneAnother) {
+    ImportProgram program;
+    program.memory.Put("/p/import/ov2/a.OV2", Point("n"));
+    program.memory.Put("/p/import/ov2/a.ov2", Point("m"));
+    EXPECT_EQ(program.Import(kOv2), "PictureIncomplete");
+    EXPECT_EQ(program.Camera("a"), kHeader + LineOf("n"));
+}
+
 TEST(Ov2ImportTest, ManyPiecesAndLongNames) {
     std::string source;
     std::string expected = kHeader;

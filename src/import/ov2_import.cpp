@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <exception>
 #include <limits>
+#include <set>
 #include <span>
 
 namespace halvenmoor {
@@ -116,14 +117,19 @@ std::vector<std::string> ReadableSourceFiles(const ImportTask& task) {
 
 std::int16_t ConvertOv2Files(const ImportTask& task) {
     std::int16_t failed = 0;
+    std::set<std::string> written;
     for (const std::string& name : ReadableSourceFiles(task)) {
         if (task.progress.StopRequested()) break;
         if (!HasExtension(name, kSourceExtension)) continue;
         const std::string baseName = name.substr(0, name.size() - kSourceExtension.size());
         const std::string targetPath = task.targetFolder + baseName + ".asc";
-        if (!ConvertOv2File(task, task.sourceFolder + name, targetPath)) {
+        // Sources that differ in the case of their extensions only have one target: the first one keeps it.
+        const bool isTaken = written.count(targetPath) > 0;
+        if (!isTaken && ConvertOv2File(task, task.sourceFolder + name, targetPath)) {
+            written.insert(targetPath);
+        } else {
             if (failed < std::numeric_limits<std::int16_t>::max()) ++failed;
-            RemoveTarget(task, targetPath);
+            if (!isTaken) RemoveTarget(task, targetPath);
         }
         task.progress.FileDone();
     }
