@@ -55,14 +55,14 @@ def elements(element):
             yield from elements(child)
 
 
-def window_of(reader, process_id):
+def window_of(reader, process):
     """The program's window, once it is there."""
     end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
+    while time.monotonic() < end and process.poll() is None:
         desktop = reader.get_desktop(0)
         for i in range(desktop.get_child_count()):
             program = desktop.get_child_at_index(i)
-            if program is not None and program.get_process_id() == process_id and program.get_child_count() > 0:
+            if program is not None and program.get_process_id() == process.pid and program.get_child_count() > 0:
                 return program.get_child_at_index(0)
         time.sleep(0.2)
     sys.exit("no window was told of")
@@ -80,7 +80,7 @@ def read_window(program, home):
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
-        return set(elements(window_of(Atspi, running.pid)))
+        return set(elements(window_of(Atspi, running)))
     finally:
         running.kill()
         os.killpg(launcher.pid, signal.SIGKILL)
