@@ -82,7 +82,8 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
     const QRect contents = CaptionRoom();
-    const int flags = Qt::AlignVCenter | SideOf(words) | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    const int flags =
+        static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
     painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
     if (!hasFocus) return;
     QStyleOptionFocusRect focus;

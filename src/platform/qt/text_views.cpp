@@ -28,7 +28,8 @@ QRect TitledFrame::TitleRoom() const {
 
 void TitledFrame::paintEvent(QPaintEvent*) {
     constexpr float kBorderStrength = 0.25F;
-    const int flags = SideOf(title()) | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    const int flags =
+        static_cast<int>(SideOf(title()) | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextShowMnemonic;
     const QRect room = TitleRoom();
     const QRect words = style()->itemTextRect(fontMetrics(), room, flags, isEnabled(), title()) & room;
 
