@@ -14,8 +14,10 @@ namespace {
 constexpr int kLeftOfMiddle = 400;
 constexpr int kAboveMiddle = 315;
 
-/// Between the list that entries are taken from and the one that they go to.
-constexpr const char* kTo = " \u2192 ";
+/// A move of entries, by the headings of the lists.
+std::string MoveWords(std::string from, const std::string& to) {
+    return from.append(" \u2192 ").append(to);
+}
 
 const char* StoredValue(const forms::CheckBox& box) {
     return box.Value() ? "1" : "0";
@@ -141,9 +143,9 @@ void frmMain::NameControls() {
         Picture[type].SetAccessibleName(heading);
         TypeList[type].SetAccessibleName(heading);
         CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
-        ButtonAdd[type].SetAccessibleName(unclassified + kTo + heading);
+        ButtonAdd[type].SetAccessibleName(MoveWords(unclassified, heading));
         ButtonAdd[type].SetToolTip("Alt+" + std::to_string(type));
-        ButtonRemove[type].SetAccessibleName(heading + kTo + unclassified);
+        ButtonRemove[type].SetAccessibleName(MoveWords(heading, unclassified));
         ButtonRemove[type].SetToolTip("Alt+0");
     }
     MainList.SetAccessibleName(unclassified);
