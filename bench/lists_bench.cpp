@@ -2,11 +2,8 @@
 // classifying all entries and moving all of them back at once. Prints lines NAME ENTRIES CPU_SECONDS.
 
 #include "catalogue/frmMain.h"
-#include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/headless/twins.h"
 #include "program.h"
 
 #ifdef HALVENMOOR_QT
@@ -45,24 +42,15 @@ private:
     std::vector<std::string> names_;
 };
 
-struct BenchPlatform {
+struct BenchPlatform : headless::Twins {
     explicit BenchPlatform(int entries) : cameraFiles(entries) {
         files.Put("/p/Settings.ini", "[Type1]\r\n*1.asc\r\n[Type2]\r\n*2.asc\r\n[Type3]\r\n*\r\n");
     }
 
-    platform::Platform Services() {
-        return {files, cameraFiles, application, clock, settings, messages, fileDialogs, theme, locale};
-    }
+    platform::Platform Services() { return With(files, cameraFiles); }
 
     headless::MemoryFiles files;
     ManyCameraFiles cameraFiles;
-    headless::FixedApplication application{"/p"};
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
 };
 
 double CpuSeconds(const std::function<void()>& work) {

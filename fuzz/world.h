@@ -1,11 +1,8 @@
 #pragma once
 
 #include "import/import_task.h"
-#include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/headless/twins.h"
 
 #include <map>
 #include <string>
@@ -15,18 +12,9 @@
 namespace halvenmoor::fuzz {
 
 /// The platform in memory.
-struct World {
+struct World : headless::Twins {
     headless::MemoryFiles memory;
-    headless::FixedApplication application{"/p"};
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
-    headless::HeadlessToolkit toolkit{clock};
-    platform::Platform services{memory,   memory,      application, clock, settings,
-                                messages, fileDialogs, theme,       locale};
+    platform::Platform services = With(memory, memory);
 };
 
 /// An import from /source to /target that nobody watches.

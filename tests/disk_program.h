@@ -55,8 +55,8 @@ inline Disk AllFiles(const TemporaryFolder& folder) {
 }
 
 /// The program over a folder of real files, in normal mode.
-struct DiskProgram {
-    explicit DiskProgram(const TemporaryFolder& folder) : application(folder.Path()) {
+struct DiskProgram : headless::Twins {
+    explicit DiskProgram(const TemporaryFolder& folder) : Twins(folder.Path()) {
         settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
         program.Start();
     }
@@ -105,19 +105,10 @@ struct DiskProgram {
         return std::accumulate(counters.begin(), counters.end(), 0);
     }
 
-    headless::FixedLocale locale;
     disk::PathFinder finder{locale.CodePage()};
     disk::DiskFileSystem fileSystem{finder};
     disk::DiskHostFiles hostFiles{finder};
-    headless::FixedApplication application;
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::HeadlessToolkit toolkit{clock};
-    Program program{
-        {fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale}, toolkit};
+    Program program{With(fileSystem, hostFiles), toolkit};
 };
 
 }  // namespace halvenmoor

@@ -3,11 +3,8 @@
 #include "catalogue/frmMain.h"
 #include "export/frmResults.h"
 #include "platform/headless/failing_files.h"
-#include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/headless/twins.h"
 #include "platform/headless/user.h"
 #include "src/program.h"
 
@@ -29,7 +26,7 @@ namespace halvenmoor {
 ///     EXPECT_EQ(program.Target(), "...");
 ///
 /// The store of options is empty, so the program starts in demonstration mode unless the test says otherwise.
-struct TestProgram {
+struct TestProgram : headless::Twins {
     using Names = std::vector<std::string>;
 
     /// The folders as installed and a Settings.ini without any pattern; no camera files and no languages.
@@ -133,16 +130,7 @@ struct TestProgram {
     headless::MemoryFiles memory;
     /// What the program works on: memory, with calls that can be made to fail.
     headless::FailingFiles files{memory, memory};
-    headless::FixedApplication application{"/p"};
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
-    headless::HeadlessToolkit toolkit{clock};
-    Program program{{files, files, application, clock, settings, messages, fileDialogs, theme, locale},
-                    toolkit};
+    Program program{With(files, files), toolkit};
     modMain& core = program.Core();
     forms::Desktop& desktop = program.Desktop();
 };

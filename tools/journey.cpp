@@ -11,10 +11,7 @@
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
 #include "platform/disk/path_finder.h"
-#include "platform/headless/manual_clock.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/headless/twins.h"
 #include "platform/headless/user.h"
 #include "program.h"
 #include "ui/frmRename.h"
@@ -35,24 +32,15 @@ Outcome OkIf(bool done) {
 }
 
 /// The real disk, with everything else in memory.
-struct JourneyPlatform {
-    explicit JourneyPlatform(const std::string& programFolder) : application(programFolder) {}
+struct JourneyPlatform : headless::Twins {
+    using Twins::Twins;
 
-    platform::Platform Services() {
-        return {fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale};
-    }
+    platform::Platform Services() { return With(fileSystem, hostFiles, userLocale); }
 
-    disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
-    disk::PathFinder finder{locale.CodePage()};
+    disk::DiskLocale userLocale = disk::DiskLocale::FromEnvironment();
+    disk::PathFinder finder{userLocale.CodePage()};
     disk::DiskFileSystem fileSystem{finder};
     disk::DiskHostFiles hostFiles{finder};
-    headless::FixedApplication application;
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::HeadlessToolkit toolkit{clock};
 };
 
 class Journey {

@@ -8,10 +8,7 @@
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/path_finder.h"
-#include "platform/headless/manual_clock.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/headless/twins.h"
 #include "platform/headless/user.h"
 #include "src/program.h"
 #include "tests/temporary_folder.h"
@@ -81,7 +78,7 @@ protected:
     Bounded() {
         for (const char* name : {"asc", "txt", "lang", "ov2"})
             std::filesystem::create_directory(folder / name);
-        settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
+        twins.settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
         folder.Put("Settings.ini", "[Type1]\n*\n");
     }
 
@@ -116,28 +113,20 @@ protected:
 
     /// Starts, classifies and exports.
     void Export() {
-        Program program(services, toolkit);
+        Program program(services, twins.toolkit);
         program.Start();
         program.MainForm().ButtonClassifyFiles.UserPress();
-        toolkit.Script([](forms::Form& form) { form.UserEscape(); });
+        twins.toolkit.Script([](forms::Form& form) { form.UserEscape(); });
         program.MainForm().ButtonExportCameras.UserPress();
-        toolkit.ForgetScript();
+        twins.toolkit.ForgetScript();
     }
 
     TemporaryFolder folder;
     disk::PathFinder finder{text::WindowsCodePage(1252)};
     disk::DiskFileSystem fileSystem{finder};
     disk::DiskHostFiles hostFiles{finder};
-    headless::FixedApplication application{folder / "."};
-    headless::ManualClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
-    headless::HeadlessToolkit toolkit{clock};
-    platform::Platform services{fileSystem, hostFiles,   application, clock, settings,
-                                messages,   fileDialogs, theme,       locale};
+    headless::Twins twins{folder / "."};
+    platform::Platform services = twins.With(fileSystem, hostFiles);
 };
 
 TEST_F(Bounded, LengthsThatAFileDoesNotHaveTakeNothing) {

@@ -24,7 +24,7 @@ protected:
     headless::MessageLog messages;
     headless::ScriptedFileDialogs fileDialogs;
     headless::FixedTheme theme;
-    WesternLocale locale;
+    headless::FixedLocale locale;
     QtToolkit toolkit{locale};
     Program program{{memory, memory, application, clock, settings, messages, fileDialogs, theme, locale},
                     toolkit};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/desktop.h"
+#include "platform/headless/services.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/toolkit.h"
 
@@ -13,13 +14,6 @@
 #include <vector>
 
 namespace halvenmoor::qt {
-
-class WesternLocale : public platform::Locale {
-public:
-    const text::CodePage& CodePage() const override { return text::WindowsCodePage(1252); }
-    std::string DecimalSeparator() const override { return "."; }
-    std::string ToFileText(std::string_view utf8) const override { return std::string(utf8); }
-};
 
 /// A window with a control of each kind.
 struct SampleForm : forms::Form {
@@ -90,7 +84,7 @@ protected:
 
     using Words = std::vector<std::string>;
 
-    WesternLocale locale;
+    headless::FixedLocale locale;
     QtToolkit toolkit{locale};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     SampleForm form{desktop};
