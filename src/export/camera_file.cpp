@@ -30,7 +30,18 @@ std::string_view UpToComma(std::string_view rest) {
     return rest.substr(0, std::min(rest.find(','), rest.size()));
 }
 
-/// Plain loops, since what they look for is near, except in a name.
+/// The first comma or double quote, or the end.
+const char* FindCommaOrQuote(const char* at, const char* end) {
+    using text::FirstZeroByte, text::RepeatByte, text::Word;
+    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(Word)); at += sizeof(Word)) {
+        const Word bytes = text::Load<Word>(at);
+        const Word found = FirstZeroByte(bytes ^ RepeatByte(',')) | FirstZeroByte(bytes ^ RepeatByte('"'));
+        if (found != 0) return at + std::countr_zero(found) / 8;
+    }
+    while (at != end && *at != ',' && *at != '"') ++at;
+    return at;
+}
+
 bool SplitFields(FieldList& fields, std::string_view line) {
     const char* at = line.data();
     const char* const end = at + line.size();
@@ -48,7 +59,7 @@ bool SplitFields(FieldList& fields, std::string_view line) {
             while (at != end && *at != ',') ++at;
             CheckPosition({pastField, at});
         } else {
-            while (at != end && *at != ',' && *at != '"') ++at;
+            at = FindCommaOrQuote(at, end);
             if (at != end && *at == '"') return false;
             pastField = at;
             while (pastField != rest.data() && pastField[-1] == ' ') --pastField;

@@ -76,14 +76,8 @@ void ExportRun::WriteCamera(const FieldList& fields, int type) {
         dirType = fields[4];
         direction = fields[3];
     }
-    targetLine_.assign(fields[0]);
-    targetLine_ += ',';
-    targetLine_ += fields[1];
-    targetLine_ += typeAndSpeed_[static_cast<std::size_t>(type)];
-    targetLine_ += dirType;
-    targetLine_ += ',';
-    targetLine_ += direction;
-    target_->WriteLine(targetLine_);
+    const std::string& typeAndSpeed = typeAndSpeed_[static_cast<std::size_t>(type)];
+    target_->WriteLine({fields[0], ",", fields[1], typeAndSpeed, dirType, ",", direction});
 }
 
 }  // namespace halvenmoor

@@ -40,7 +40,6 @@ private:
     /// The two columns of the present file with the commas around them, by type.
     TypeTable<std::string> typeAndSpeed_;
     FieldList fields_;
-    std::string targetLine_;
 };
 
 }  // namespace halvenmoor

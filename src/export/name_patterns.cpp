@@ -11,33 +11,38 @@ namespace halvenmoor {
 
 NamePatterns::NamePatterns(const TypeTable<PatternList>& patterns, const text::CodePage& codePage)
     : codePage_(codePage) {
-    std::vector<std::u32string> texts;
-    std::vector<int> types;
+    std::vector<NamePattern> shortOnes;
+    std::vector<NamePattern> longOnes;
     std::size_t characters = 0;
     for (int type = kFirstType; type <= kLastType; ++type) {
         for (const std::string& pattern : Elements(patterns[static_cast<std::size_t>(type)])) {
-            texts.push_back(text::FoldedCharacters(text::Trim(pattern), codePage));
-            types.push_back(type);
-            characters += texts.back().size();
+            std::u32string text = text::FoldedCharacters(text::Trim(pattern), codePage);
+            if (text.empty()) {
+                typeOfEmptyPattern_ = std::min(typeOfEmptyPattern_, type);
+                continue;
+            }
+            characters += text.size();
+            (text.size() < PatternFilter::kLongestKey ? shortOnes : longOnes)
+                .push_back({std::move(text), type});
         }
     }
     nodes_.resize(std::bit_ceil(2 * characters + 1));
-    for (std::size_t i = 0; i < texts.size(); ++i) Add(texts[i], types[i]);
-    std::erase(texts, U"");
-    filter_.emplace(texts, codePage);
+    for (const auto* group : {&shortOnes, &longOnes}) {
+        if (group->empty()) continue;
+        filters_.emplace_back(*group, codePage);
+        for (const auto& [text, type] : *group) Add(text, type);
+    }
 }
 
 void NamePatterns::Add(std::u32string_view foldedPattern, int type) {
-    int* typeOfEnd = &typeOfEmptyPattern_;
-    std::uint32_t parent = kRoot;
+    std::uint32_t node = kRoot;
     for (const char32_t character : foldedPattern) {
-        const std::uint32_t child = PlaceOfChild(parent, character);
-        nodes_[child].parent = parent;
+        const std::uint32_t child = PlaceOfChild(node, character);
+        nodes_[child].parent = node;
         nodes_[child].character = character;
-        typeOfEnd = &nodes_[child].type;
-        parent = child;
+        node = child;
     }
-    *typeOfEnd = std::min(*typeOfEnd, type);
+    nodes_[node].type = std::min(nodes_[node].type, type);
 }
 
 std::uint32_t NamePatterns::PlaceOfChild(std::uint32_t parent, char32_t character) const {
@@ -58,16 +63,18 @@ int NamePatterns::NameMatchesAnyPattern(std::string_view name) const {
 
 int NamePatterns::LowestTypeIn(std::string_view name) const {
     int lowest = kNoType;
-    std::optional<text::CharacterReader> whole;
-    filter_->ForEachPlace(name, [&](std::size_t place) {
-        if (!whole) whole.emplace(name, codePage_);
-        if (const auto text = whole->SkipBytes(place)) lowest = std::min(lowest, LowestTypeAt(*text));
-    });
+    text::CharacterReader text(name, codePage_);
+    for (const PatternFilter& filter : filters_) {
+        filter.ForEachStart(name, [&](std::size_t place, PatternFilter::Start start) {
+            lowest = std::min(lowest, start.type);
+            if (start.goesOn && text.MoveTo(place)) lowest = std::min(lowest, LowestTypeAt(text));
+        });
+    }
     return lowest;
 }
 
-/// The lowest type of the patterns that the text begins with.
-int NamePatterns::LowestTypeAt(text::CharacterReader text) const {
+/// The lowest type of the patterns with which the text goes on.
+int NamePatterns::LowestTypeAt(text::CharacterReader& text) const {
     int lowest = kNoType;
     std::uint32_t node = kRoot;
     while (!text.AtEnd()) {

@@ -6,15 +6,14 @@
 #include "export/pattern_filter.h"
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace halvenmoor {
 
 /// The texts that set a camera's type by its name, prepared so that one pass over a name looks for all of
-/// them at once, ignoring case: a filter finds the places where one may begin, and a tree of their characters
-/// tells which does.
+/// them at once, ignoring case: a filter finds the places where they begin, and a tree of their characters
+/// follows the longer ones to their ends.
 class NamePatterns {
 public:
     /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page
@@ -26,7 +25,7 @@ public:
     int NameMatchesAnyPattern(std::string_view name) const;
 
 private:
-    static constexpr int kNoType = kLastType + 1;
+    static constexpr int kNoType = PatternFilter::kNoType;
 
     static constexpr std::uint32_t kRoot = 0xFFFFFFFF;
     static constexpr std::uint32_t kNone = 0xFFFFFFFE;
@@ -45,10 +44,11 @@ private:
     /// The place of the child, which is free if there is no such child.
     std::uint32_t PlaceOfChild(std::uint32_t parent, char32_t character) const;
     int LowestTypeIn(std::string_view name) const;
-    int LowestTypeAt(text::CharacterReader text) const;
+    int LowestTypeAt(text::CharacterReader& text) const;
 
     const text::CodePage& codePage_;
-    std::optional<PatternFilter> filter_;
+    /// For short patterns and for long ones, which have longer keys.
+    std::vector<PatternFilter> filters_;
     /// A hash table with a power of two places, half of them free.
     std::vector<Node> nodes_;
     int typeOfEmptyPattern_ = kNoType;

@@ -11,13 +11,25 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr char kComparedBitsOfByte = 0x1F;
-constexpr text::Word kComparedBits = text::RepeatByte(kComparedBitsOfByte);
+constexpr char kBitsOfKey = 0x1F;
 constexpr char32_t kSigma = 0x3C3;
 constexpr char32_t kFinalSigma = 0x3C2;
 
+constexpr bool IsAscii(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// The bits of a pattern's byte that are compared: all, but for an ASCII letter's case, and for what may
+/// differ with the case beyond ASCII.
+constexpr char ComparedBits(char byte) {
+    if (!IsAscii(byte)) return '\x80' | kBitsOfKey;
+    const char capital = byte & '\xDF';
+    return capital >= 'A' && capital <= 'Z' ? '\xDF' : '\xFF';
+}
+
+/// Bytes of which only the compared bits are left have the same ones again.
 std::string Masked(std::string bytes) {
-    for (char& byte : bytes) byte &= kComparedBitsOfByte;
+    for (char& byte : bytes) byte &= ComparedBits(byte);
     return bytes;
 }
 
@@ -39,44 +51,62 @@ std::vector<std::string> CodePageSpellings(char32_t folded, const text::CodePage
 
 }  // namespace
 
-PatternFilter::PatternFilter(std::span<const std::u32string> patterns, const text::CodePage& codePage)
+PatternFilter::PatternFilter(std::span<const NamePattern> patterns, const text::CodePage& codePage)
     : bucketShift_(64 - static_cast<int>(std::bit_width(4 * patterns.size() + 1))) {
     buckets_.resize(std::size_t{1} << (64 - bucketShift_));
-    // A character has one byte at least, and the second part of a pattern lacks the first one.
-    for (const std::u32string& pattern : patterns) fewestBytes_ = std::min(fewestBytes_, pattern.size() - 1);
-    bucketMask_ = text::FirstBytes(kComparedBits, fewestBytes_);
-    keyMask_ = text::FirstBytes(kComparedBits, fewestBytes_ + 1);
-    for (const std::u32string& pattern : patterns) {
-        AddParts("", pattern, Utf8Spellings);
-        AddParts("", pattern, [&](char32_t folded) { return CodePageSpellings(folded, codePage); });
+    // A character has one byte at least.
+    for (const NamePattern& pattern : patterns)
+        fewestBytes_ = std::min(fewestBytes_, pattern.foldedText.size() - 1);
+    keyMask_ = text::FirstBytes(text::RepeatByte(kBitsOfKey), fewestBytes_ + 1);
+    for (const auto& [text, type] : patterns) {
+        AddSpellings("", text, type, Utf8Spellings);
+        AddSpellings("", text, type, [&](char32_t folded) { return CodePageSpellings(folded, codePage); });
     }
 }
 
-/// Adds the parts of all texts that begin with the bytes and go on with a spelling of the rest.
-void PatternFilter::AddParts(const std::string& bytes, std::u32string_view rest, const Spellings& spellings) {
-    if (bytes.size() > sizeof(Word) || rest.empty()) {
-        AddPart(std::string_view(bytes).substr(0, sizeof(Word)), 0);
-        AddPart(std::string_view(bytes).substr(1, sizeof(Word)), 1);
+/// Adds the starts of all texts that begin with the bytes and go on with a spelling of the rest.
+void PatternFilter::AddSpellings(const std::string& bytes, std::u32string_view rest, int type,
+                                 const Spellings& spellings) {
+    if (bytes.size() > sizeof(Word))
+        return AddStart(std::string_view(bytes).substr(0, sizeof(Word)), {.goesOn = true});
+    if (!rest.empty()) {
+        for (const std::string& spelling : spellings(rest.front()))
+            AddSpellings(bytes + spelling, rest.substr(1), type, spellings);
         return;
     }
-    for (const std::string& spelling : spellings(rest.front()))
-        AddParts(bytes + spelling, rest.substr(1), spellings);
+    // Zeros are also found behind the end of a text.
+    const bool isExact =
+        std::all_of(bytes.begin(), bytes.end(), [](char byte) { return IsAscii(byte) && byte != 0; });
+    AddStart(bytes, isExact ? Start{.type = type} : Start{.goesOn = true});
 }
 
-void PatternFilter::AddPart(std::string_view bytes, std::size_t offset) {
-    const Part part{text::LoadShort(bytes), text::FirstBytes(kComparedBits, bytes.size()), offset, 0};
-    std::uint32_t* last = &buckets_[BucketOf(part.bytes)];
-    for (; *last != 0; last = &parts_[*last].next) {
-        const Part& other = parts_[*last];
-        if (other.bytes == part.bytes && other.mask == part.mask && other.offset == offset) return;
+void PatternFilter::AddStart(std::string_view bytes, const Start& start) {
+    std::string mask;
+    for (const char byte : bytes) mask += ComparedBits(byte);
+    for (const std::uint32_t offset : {0u, 1u}) {
+        const Entry entry{text::LoadShort(bytes), text::LoadShort(mask), start, offset, 0};
+        const Word key = entry.bytes >> 8 * offset & keyMask_;
+        if (bytes.size() - offset > fewestBytes_) {
+            AddEntry(key, entry);
+            continue;
+        }
+        for (Word open = 0; open <= kBitsOfKey; ++open) AddEntry(key | open << 8 * fewestBytes_, entry);
     }
-    *last = static_cast<std::uint32_t>(parts_.size());
-    parts_.push_back(part);
+}
 
-    for (Word open = 0; open <= kComparedBitsOfByte; ++open) {
-        const Word behind = bytes.size() == fewestBytes_ ? open << 8 * fewestBytes_ : 0;
-        isKnown_[Hash((part.bytes | behind) & keyMask_) >> (64 - kHashBits)] = true;
+void PatternFilter::AddEntry(Word key, const Entry& entry) {
+    const std::uint64_t hash = Hash(key);
+    isKnown_[hash >> (64 - kHashBits)] = true;
+    std::uint32_t* last = &buckets_[hash >> bucketShift_];
+    for (; *last != 0; last = &entries_[*last].next) {
+        Entry& other = entries_[*last];
+        if (other.bytes != entry.bytes || other.mask != entry.mask || other.offset != entry.offset) continue;
+        other.start.type = std::min(other.start.type, entry.start.type);
+        other.start.goesOn |= entry.start.goesOn;
+        return;
     }
+    *last = static_cast<std::uint32_t>(entries_.size());
+    entries_.push_back(entry);
 }
 
 }  // namespace halvenmoor

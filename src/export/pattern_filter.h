@@ -1,9 +1,12 @@
 #pragma once
 
+#include "core/patterns.h"
 #include "core/text/codepage.h"
 #include "core/text/words.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <span>
@@ -13,26 +16,43 @@
 
 namespace halvenmoor {
 
-/// Finds the places in a text where a pattern may begin, ignoring case and whatever the encoding.
+/// A text that sets the type of the cameras in whose name it is found.
+struct NamePattern {
+    std::u32string foldedText;
+    int type;
+};
+
+/// Finds the places in a text where a pattern begins or may begin, ignoring case and whatever the encoding.
 ///
-/// It knows up to eight bytes of each pattern in all their spellings, from the first one on and from the
-/// second one on, so that it has to look only at every other place. Of a byte it compares the five bits that
-/// capital and small ASCII letters have in common: it may name a place where no pattern begins, but never
-/// misses one.
+/// It knows up to eight bytes of each pattern in all their spellings. The bytes from the second one on are a
+/// key to them as well as those from the first one on, so it has to look only at every other place. Of a byte
+/// a key has the five bits that capital and small ASCII letters have in common.
 class PatternFilter {
 public:
-    /// The patterns are folded and not empty.
-    PatternFilter(std::span<const std::u32string> patterns, const text::CodePage& codePage);
+    static constexpr int kNoType = kLastType + 1;
+    /// In bytes. Patterns with fewer characters shorten the key for all.
+    static constexpr std::size_t kLongestKey = 5;
 
-    /// Calls visit(place) for each place where a pattern may begin, in no strict order.
+    /// What patterns begin with.
+    struct Start {
+        /// The lowest type of those that end with it, kNoType if none does.
+        int type = kNoType;
+        /// Whether some go on, or cannot be told from other texts by these bytes alone.
+        bool goesOn = false;
+    };
+
+    /// The patterns are not empty.
+    PatternFilter(std::span<const NamePattern> patterns, const text::CodePage& codePage);
+
+    /// Calls visit(place, start) for each place in the text with the start of a pattern, in no strict order.
     template <typename Visit>
-    void ForEachPlace(std::string_view text, Visit visit) const {
+    void ForEachStart(std::string_view text, Visit visit) const {
         std::size_t place = 1;
-        for (; place + sizeof(Word) <= text.size(); place += 2)
-            VisitNear(text::Load<Word>(text.data() + place), place, visit);
-        // Zeros behind the end disturb no part that ends there, since its mask leaves them out.
+        const std::size_t pastWords = std::max(text.size(), sizeof(Word)) - sizeof(Word) + 1;
+        for (; place < pastWords; place += 2)
+            VisitNear(text::Load<Word>(text.data() + place), text, place, visit);
         for (; place + fewestBytes_ <= text.size(); place += 2)
-            VisitNear(text::LoadShort(text.substr(place)), place, visit);
+            VisitNear(text::LoadShort(text.substr(place)), text, place, visit);
     }
 
 private:
@@ -40,44 +60,46 @@ private:
     /// The masked bytes of all forms of a character.
     using Spellings = std::function<std::vector<std::string>(char32_t)>;
 
-    static constexpr std::size_t kLongestKey = 5;
     static constexpr int kHashBits = 15;
 
-    struct Part {
+    struct Entry {
         Word bytes;
         Word mask;
-        /// Of the part in its pattern, 0 or 1.
-        std::size_t offset;
-        /// The next part in the same bucket, 0 for none.
+        Start start;
+        /// Of the key in the pattern, 0 or 1.
+        std::uint32_t offset;
+        /// The next entry in the same bucket, 0 for none.
         std::uint32_t next;
     };
 
-    static std::uint64_t Hash(Word bytes) { return bytes * 0x9E3779B97F4A7C15u; }
-    std::size_t BucketOf(Word bytes) const { return Hash(bytes & bucketMask_) >> bucketShift_; }
+    static std::uint64_t Hash(Word key) { return key * 0x9E3779B97F4A7C15u; }
     template <typename Visit>
-    void VisitNear(Word bytes, std::size_t place, Visit& visit) const {
-        if (!isKnown_[Hash(bytes & keyMask_) >> (64 - kHashBits)]) return;
-        std::array<bool, 2> mayBegin{};
-        for (std::uint32_t part = buckets_[BucketOf(bytes)]; part != 0; part = parts_[part].next)
-            mayBegin[parts_[part].offset] |= (bytes & parts_[part].mask) == parts_[part].bytes;
-        for (const std::size_t offset : {1u, 0u}) {
-            if (mayBegin[offset]) visit(place - offset);
+    void VisitNear(Word bytes, std::string_view text, std::size_t place, Visit& visit) const {
+        const std::uint64_t hash = Hash(bytes & keyMask_);
+        if (!isKnown_[hash >> (64 - kHashBits)]) return;
+        const Word fromOneBefore = bytes << 8 | static_cast<unsigned char>(text[place - 1]);
+        for (std::uint32_t next = buckets_[hash >> bucketShift_]; next != 0;) {
+            const Entry& entry = entries_[next];
+            const Word found = entry.offset == 0 ? bytes : fromOneBefore;
+            if ((found & entry.mask) == entry.bytes) visit(place - entry.offset, entry.start);
+            next = entry.next;
         }
     }
-    void AddParts(const std::string& bytes, std::u32string_view rest, const Spellings& spellings);
-    void AddPart(std::string_view bytes, std::size_t offset);
+    void AddSpellings(const std::string& bytes, std::u32string_view rest, int type,
+                      const Spellings& spellings);
+    void AddStart(std::string_view bytes, const Start& start);
+    void AddEntry(Word key, const Entry& entry);
 
-    /// How many bytes every part has.
+    /// How many bytes of a key every pattern has behind its first one.
     std::size_t fewestBytes_ = kLongestKey - 1;
-    Word bucketMask_ = 0;
-    /// Has one byte more, which a part of the fewest bytes leaves open.
+    /// Has one byte more, which is open in the key of a pattern that has no more.
     Word keyMask_ = 0;
-    /// By hash of the key: whether there is such a part. Small enough for the fastest memory.
+    /// By hash of the key: whether there is an entry. Small enough for the fastest memory.
     std::array<bool, std::size_t{1} << kHashBits> isKnown_{};
-    /// The first part with such bytes, 0 for none.
+    /// The first entry with such a key, 0 for none.
     std::vector<std::uint32_t> buckets_;
     int bucketShift_;
-    std::vector<Part> parts_{1};
+    std::vector<Entry> entries_{1};
 };
 
 }  // namespace halvenmoor

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string>
@@ -32,8 +33,9 @@ class TextWriter {
 public:
     virtual ~TextWriter() = default;
 
-    /// Writes the text, then CR LF.
-    virtual void WriteLine(std::string_view text) = 0;
+    /// Writes the parts of a line one behind the other, then CR LF.
+    virtual void WriteLine(std::initializer_list<std::string_view> parts) = 0;
+    void WriteLine(std::string_view text) { WriteLine({text}); }
     virtual void Close() = 0;
 };
 

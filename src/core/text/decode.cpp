@@ -62,12 +62,8 @@ bool IsValidUtf8(std::string_view bytes) noexcept {
     }
 }
 
-std::optional<CharacterReader> CharacterReader::SkipBytes(std::size_t count) const noexcept {
-    CharacterReader rest = *this;
-    rest.at_ += count;
-    if (isUtf8_ && !rest.AtEnd() && IsContinuation(static_cast<unsigned char>(*rest.at_)))
-        return std::nullopt;
-    return rest;
+bool CharacterReader::IsInsideSequence() const noexcept {
+    return IsContinuation(static_cast<unsigned char>(*at_));
 }
 
 char32_t CharacterReader::FinishSequence(unsigned char lead) noexcept {

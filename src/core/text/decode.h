@@ -20,7 +20,7 @@ bool IsValidUtf8(std::string_view bytes) noexcept;
 class CharacterReader {
 public:
     CharacterReader(std::string_view bytes, const CodePage& page) noexcept
-        : at_(bytes.data()), end_(bytes.data() + bytes.size()), page_(page), isUtf8_(IsValidUtf8(bytes)) {}
+        : bytes_(bytes), at_(bytes.data()), end_(bytes.data() + bytes.size()), page_(page) {}
 
     bool AtEnd() const noexcept { return at_ == end_; }
 
@@ -28,22 +28,32 @@ public:
     char32_t Next() noexcept {
         const auto lead = static_cast<unsigned char>(*at_++);
         if (lead < 0x80) return lead;
-        return isUtf8_ ? FinishSequence(lead) : page_.characters[lead];
+        return IsUtf8() ? FinishSequence(lead) : page_.characters[lead];
     }
 
     /// Where the next character begins.
     const char* Position() const noexcept { return at_; }
 
-    /// A reader of what begins so many bytes further on; nothing where no character begins.
-    std::optional<CharacterReader> SkipBytes(std::size_t count) const noexcept;
+    /// Goes to a place in the text, or to its end. False inside a character.
+    bool MoveTo(std::size_t place) noexcept {
+        at_ = bytes_.data() + place;
+        return AtEnd() || static_cast<unsigned char>(*at_) < 0x80 || !IsUtf8() || !IsInsideSequence();
+    }
 
 private:
+    /// Looked at only when it is needed, since most texts are ASCII.
+    bool IsUtf8() noexcept {
+        if (!isUtf8_) isUtf8_ = IsValidUtf8(bytes_);
+        return *isUtf8_;
+    }
+    bool IsInsideSequence() const noexcept;
     char32_t FinishSequence(unsigned char lead) noexcept;
 
+    std::string_view bytes_;
     const char* at_;
     const char* end_;
     const CodePage& page_;
-    bool isUtf8_;
+    std::optional<bool> isUtf8_;
 };
 
 /// The characters of a text: valid UTF-8 as UTF-8, anything else byte by byte by the code page.

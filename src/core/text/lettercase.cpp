@@ -102,8 +102,4 @@ char32_t UpperCase(char32_t character) noexcept {
     return index < tableSize ? caseTables.upper[index] : character;
 }
 
-char32_t FoldCase(char32_t character) noexcept {
-    return character == U'ς' ? U'σ' : LowerCase(character);
-}
-
 }  // namespace halvenmoor::text

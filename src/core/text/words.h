@@ -26,6 +26,15 @@ Number Load(const char* bytes) noexcept {
     return number;
 }
 
+/// Sets eight bytes.
+inline void Store(Word word, char* bytes) noexcept {
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(bytes, &word, sizeof word);
+    } else {
+        for (std::size_t i = 0; i < sizeof word; ++i) bytes[i] = static_cast<char>(word >> 8 * i);
+    }
+}
+
 /// A text of at most eight bytes, with zeros behind it.
 inline Word LoadShort(std::string_view text) noexcept {
     constexpr std::size_t half = sizeof(std::uint32_t);

@@ -8,16 +8,14 @@
 namespace halvenmoor::disk {
 namespace {
 
-constexpr std::size_t bufferSize = 64 * 1024;
-
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
 InputBuffer::InputBuffer(FileDescriptor file)
     : file_(std::move(file)),
-      capacity_(bufferSize),
-      buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)) {
+      capacity_(kBufferSize),
+      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {
 }
 
 bool InputBuffer::Fill() {
@@ -95,13 +93,14 @@ std::size_t DiskByteReader::Read(std::span<char> buffer) {
 }
 
 DiskTextWriter::DiskTextWriter(FileDescriptor file)
-    : file_(std::move(file)), buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)) {
+    : file_(std::move(file)),
+      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize + sizeof(text::Word))) {
 }
 
-void DiskTextWriter::WriteLine(std::string_view text) {
+void DiskTextWriter::WriteLine(std::initializer_list<std::string_view> parts) {
     ThrowIfFailed();
     if (!file_.IsOpen()) throw SystemFailure(EBADF);
-    Append(text);
+    for (const std::string_view part : parts) Append(part);
     Append("\r\n");
 }
 
@@ -112,15 +111,15 @@ void DiskTextWriter::Close() {
     ThrowIfFailed();
 }
 
-void DiskTextWriter::Append(std::string_view bytes) {
-    while (bytes.size() > bufferSize - size_) {
-        const std::size_t count = bytes.copy(buffer_.get() + size_, bufferSize - size_);
-        size_ += count;
-        bytes.remove_prefix(count);
+void DiskTextWriter::AppendPiecewise(std::string_view bytes) {
+    while (bytes.size() > Room()) {
+        const std::size_t room = Room();
+        Append(bytes.substr(0, room));
+        bytes.remove_prefix(room);
         Flush();
         ThrowIfFailed();
     }
-    size_ += bytes.copy(buffer_.get() + size_, bytes.size());
+    Append(bytes);
 }
 
 void DiskTextWriter::Flush() noexcept {

@@ -1,16 +1,20 @@
 #pragma once
 
 #include "core/platform/files.h"
+#include "core/text/words.h"
 #include "platform/disk/system.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
 
 namespace halvenmoor::disk {
+
+inline constexpr std::size_t kBufferSize = 64 * 1024;
 
 /// The bytes of a file that were read and not yet taken.
 class InputBuffer {
@@ -70,16 +74,27 @@ public:
     explicit DiskTextWriter(FileDescriptor file);
     ~DiskTextWriter() override { Flush(); }
 
-    void WriteLine(std::string_view text) override;
+    void WriteLine(std::initializer_list<std::string_view> parts) override;
     void Close() override;
 
 private:
-    void Append(std::string_view bytes);
+    void Append(std::string_view bytes) {
+        if (bytes.size() > Room()) return AppendPiecewise(bytes);
+        char* const end = buffer_.get() + size_;
+        if (bytes.size() <= sizeof(text::Word)) {
+            text::Store(text::LoadShort(bytes), end);  // most parts of a line
+        } else {
+            bytes.copy(end, bytes.size());
+        }
+        size_ += bytes.size();
+    }
+    std::size_t Room() const { return kBufferSize - size_; }
+    void AppendPiecewise(std::string_view bytes);
     void Flush() noexcept;
     void ThrowIfFailed() const;
 
     FileDescriptor file_;
-    std::unique_ptr<char[]> buffer_;
+    std::unique_ptr<char[]> buffer_;  // with a word more, for the last store
     std::size_t size_ = 0;
     int error_ = 0;  // of the first write that failed; nothing is written after it
 };

@@ -29,7 +29,9 @@ public:
     FailingWriter(CallCounter& counter, std::unique_ptr<platform::TextWriter> writer)
         : counter_(counter), writer_(std::move(writer)) {}
 
-    void WriteLine(std::string_view text) override { counter_.Counted(*writer_).WriteLine(text); }
+    void WriteLine(std::initializer_list<std::string_view> parts) override {
+        counter_.Counted(*writer_).WriteLine(parts);
+    }
     void Close() override { counter_.Counted(*writer_).Close(); }
 
 private:

@@ -80,9 +80,10 @@ class MemoryWriter : public platform::TextWriter {
 public:
     explicit MemoryWriter(std::shared_ptr<std::string> bytes) : bytes_(std::move(bytes)) {}
 
-    void WriteLine(std::string_view text) override {
+    void WriteLine(std::initializer_list<std::string_view> parts) override {
         if (!bytes_) throw Failure(failure::FileAccess, "Device I/O error");
-        bytes_->append(text).append("\r\n");
+        for (const std::string_view part : parts) bytes_->append(part);
+        bytes_->append("\r\n");
     }
 
     void Close() override { bytes_ = nullptr; }
