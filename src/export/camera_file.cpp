@@ -32,10 +32,10 @@ std::string_view UpToComma(std::string_view rest) {
 
 /// The first comma or double quote, or the end.
 const char* FindCommaOrQuote(const char* at, const char* end) {
-    using text::FirstZeroByte, text::RepeatByte, text::Word;
+    using text::Word;
     for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(Word)); at += sizeof(Word)) {
         const Word bytes = text::Load<Word>(at);
-        const Word found = FirstZeroByte(bytes ^ RepeatByte(',')) | FirstZeroByte(bytes ^ RepeatByte('"'));
+        const Word found = text::BytesEqual(bytes, ',') | text::BytesEqual(bytes, '"');
         if (found != 0) return at + std::countr_zero(found) / 8;
     }
     while (at != end && *at != ',' && *at != '"') ++at;
@@ -111,7 +111,7 @@ std::optional<PlainDegrees> ReadPlainDegrees(std::string_view text) {
     text::Word digits = Digits(text.substr(0, most));
     const text::Word moreDigits = text.size() > most ? Digits(text.substr(most)) : 0;
 
-    const text::Word point = text::FirstZeroByte(digits ^ text::RepeatByte('.' ^ '0'));
+    const text::Word point = text::BytesEqual(digits, '.' ^ '0');
     const int wholeBits = std::countr_zero(point) / 8 * 8;
     if (point == 0 || wholeBits < 8 || wholeBits > 24) return std::nullopt;
     digits &= ~(text::Word{0xFF} << wholeBits);

@@ -57,9 +57,15 @@ constexpr Word FirstBytes(Word word, std::size_t count) noexcept {
     return count < sizeof word ? word & ((Word{1} << 8 * count) - 1) : word;
 }
 
-/// Has the high bit of the first byte that is zero, and none before; bits behind that one mean nothing.
-constexpr Word FirstZeroByte(Word word) noexcept {
-    return (word - RepeatByte(1)) & ~word & RepeatByte('\x80');
+/// The high bit of each byte that is zero.
+constexpr Word ZeroBytes(Word word) noexcept {
+    constexpr Word lowBits = RepeatByte(0x7F);
+    return ~(((word & lowBits) + lowBits) | word | lowBits);
+}
+
+/// The high bit of each byte that is this one.
+constexpr Word BytesEqual(Word word, char byte) noexcept {
+    return ZeroBytes(word ^ RepeatByte(byte));
 }
 
 }  // namespace halvenmoor::text
