@@ -5,42 +5,35 @@
 #include "files_test_helpers.h"
 #include "journeys.h"
 
-#include <iostream>
+#include <stdexcept>
 
 namespace halvenmoor {
 namespace {
 
 void UseControl(forms::Control& control) {
-    switch (control.Kind()) {
-        case forms::Kind::CommandButton:
-            static_cast<forms::CommandButton&>(control).UserPress();
-            break;
-        case forms::Kind::CheckBox:
-            static_cast<forms::CheckBox&>(control).UserPress();
-            break;
-        case forms::Kind::OptionButton:
-            static_cast<forms::OptionButton&>(control).UserPress();
-            break;
-        case forms::Kind::ListBox: {
-            auto& list = static_cast<forms::ListBox&>(control);
-            if (list.ListCount() > 0) list.UserSelect({0}, 0);
-            break;
-        }
-        case forms::Kind::ComboBox:
-            static_cast<forms::ComboBox&>(control).UserTyped("x");
-            break;
-        default:
-            control.UserFocused();
+    if (auto* const button = dynamic_cast<forms::CommandButton*>(&control)) {
+        button->UserPress();
+    } else if (auto* const box = dynamic_cast<forms::CheckBox*>(&control)) {
+        box->UserPress();
+    } else if (auto* const option = dynamic_cast<forms::OptionButton*>(&control)) {
+        option->UserPress();
+    } else if (auto* const combo = dynamic_cast<forms::ComboBox*>(&control)) {
+        combo->UserTyped("x");
+    } else if (auto* const list = dynamic_cast<forms::ListBox*>(&control)) {
+        if (list->ListCount() > 0) list->UserSelect({0}, 0);
+    } else {
+        control.UserFocused();
     }
 }
+
+/// What an act at a bad moment does to the journey that is running.
+enum class Effect { None, StopsImport, Breaks, EndsProgram };
 
 /// Something that happens at a bad moment, with the windows that are open then.
 struct Act {
     std::string name;
     std::function<void(JourneyProgram&)> run;
-    /// Asks the running journey to stop, if it can be stopped.
-    bool stops = false;
-    bool endsProgram = false;
+    Effect effect = Effect::None;
 };
 
 void AddControls(std::vector<Act>& acts, const forms::Form& form,
@@ -51,7 +44,7 @@ void AddControls(std::vector<Act>& acts, const forms::Form& form,
             forms::Form* const found = find(program);
             if (found != nullptr && i < found->Controls().size()) UseControl(*found->Controls()[i]);
         };
-        acts.push_back({name, run, name == "frmImport ButtonCancel"});
+        acts.push_back({name, run, name == "frmImport ButtonCancel" ? Effect::StopsImport : Effect::None});
     }
 }
 
@@ -85,7 +78,7 @@ void DragFirst(JourneyProgram& program) {
 std::vector<Act> ActsDuring(const Journey& journey) {
     std::vector<Act> acts{
         {"dialog close", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserClose(); },
-         true},
+         Effect::StopsImport},
         {"dialog Escape", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserEscape(); }},
         {"dialog Enter",
          [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserKeyPress(13); }},
@@ -94,7 +87,8 @@ std::vector<Act> ActsDuring(const Journey& journey) {
         {"second start", StartAgain},
         {"drag", DragFirst},
         {"language", [](JourneyProgram& program) { program.Window().LanguageList.UserChoose(1); }},
-        {"shutdown", [](JourneyProgram& program) { program.desktop.CloseAll(); }, false, true},
+        {"failure", [](JourneyProgram&) { throw std::runtime_error("turn"); }, Effect::Breaks},
+        {"shutdown", [](JourneyProgram& program) { program.desktop.CloseAll(); }, Effect::EndsProgram},
     };
     JourneyProgram program;
     program.Start();
@@ -122,7 +116,8 @@ protected:
             hasActed = true;
             wasBusy = IsBusy(program);
             act.run(program);
-            EXPECT_TRUE(IsBusy(program) || !wasBusy || act.endsProgram) << "the dialog has closed";
+            EXPECT_TRUE(IsBusy(program) || !wasBusy || act.effect == Effect::EndsProgram)
+                << "the dialog has closed";
         };
         GetParam().play(program);
         program.toolkit.OnTurn = nullptr;
@@ -132,13 +127,14 @@ protected:
         return true;
     }
 
-    /// Only a stop and the end of the system come through.
+    /// Only a stop, a failure and the end of the system come through.
     static void ExpectUndisturbed(JourneyProgram& program, const Act& act) {
         ExpectSoundProgram(program, GetParam());
-        EXPECT_EQ(program.desktop.Ended(), act.endsProgram);
-        if (act.endsProgram) return;
+        EXPECT_EQ(program.desktop.Ended(), act.effect == Effect::EndsProgram);
+        if (act.effect == Effect::EndsProgram) return;
         GetParam().expectSound(program);
-        if (act.stops && GetParam().name.starts_with("Import")) return;
+        const bool isImport = GetParam().name.starts_with("Import");
+        if (act.effect == Effect::Breaks || (act.effect == Effect::StopsImport && isImport)) return;
         EXPECT_EQ(program.memory.Calls(), UndisturbedCalls()) << "something else was run";
         GetParam().expectDone(program);
     }
@@ -167,9 +163,8 @@ protected:
 
     static void ExpectWorks(JourneyProgram& program) {
         for (forms::Control* control : program.Window().Controls()) {
-            if (control->Kind() != forms::Kind::CheckBox) continue;
-            auto& box = static_cast<forms::CheckBox&>(*control);
-            if (box.Value() == (&box == &program.Window().CheckDemoMode)) box.UserPress();
+            auto* const box = dynamic_cast<forms::CheckBox*>(control);
+            if (box && box->Value() == (box == &program.Window().CheckDemoMode)) box->UserPress();
         }
         program.Reload();
         GetParam().play(program);
@@ -200,20 +195,14 @@ public:
 
 TEST_P(BadMoments, AnythingAtEveryTurn) {
     const std::vector<Act> acts = ActsDuring(GetParam());
-    int turns = 0;
-    int runs = 0;
     for (const Act& act : acts) {
         int turn = 1;
-        for (; !HasFailure(); ++turn) {
+        for (bool hasActed = true; hasActed && !HasFailure(); ++turn) {
             SCOPED_TRACE(act.name + " at turn " + std::to_string(turn));
-            if (!ActAtTurn(act, turn)) break;
-            ++runs;
+            hasActed = ActAtTurn(act, turn);
         }
-        turns = std::max(turns, turn - 1);
+        EXPECT_GT(turn, 2) << "there are turns";
     }
-    EXPECT_GE(runs, static_cast<int>(acts.size()));
-    std::cout << GetParam().name << ": " << turns << " turns, " << acts.size() << " acts, " << runs
-              << " runs\n";
 }
 
 INSTANTIATE_TEST_SUITE_P(Journeys, BadMoments, testing::ValuesIn(BadMoments::Journeys()),

@@ -4,6 +4,7 @@
 #include "files_test_helpers.h"
 #include "platform/headless/services.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace halvenmoor {
@@ -81,47 +82,32 @@ TEST(SplitCameraLineTest, PositionsCountCharacters) {
     EXPECT_TRUE(Overflows(umlauts + "\xF6,2")) << "no UTF-8, so every byte is a character";
 }
 
-bool IsValid(std::string_view x, std::string_view y) {
-    return IsValidPosition(x, y);
-}
-
 TEST(PositionTest, NeedsNumbersWithAPoint) {
-    EXPECT_TRUE(IsValid("-0.12345", "51.50000"));
-    EXPECT_TRUE(IsValid("+1.5e1", ".5"));
-    EXPECT_TRUE(IsValid("5.", "-50.25"));
-    EXPECT_FALSE(IsValid("5", "50.25"));
-    EXPECT_FALSE(IsValid("5.5", "50"));
-    for (const auto* text : {"", ".", "1.2.3", "1.5x", "1. 5", "\t1.5", "1,5", "&H1.", "\"1.5\"", "nan."}) {
-        EXPECT_FALSE(IsValid(text, "50.25")) << text;
-        EXPECT_FALSE(IsValid("5.5", text)) << text;
+    EXPECT_TRUE(IsValidPosition("-0.12345", "51.50000"));
+    EXPECT_TRUE(IsValidPosition("+1.5e1", ".5"));
+    EXPECT_TRUE(IsValidPosition("5.", "-50.25"));
+    EXPECT_FALSE(IsValidPosition("5", "50.25"));
+    EXPECT_FALSE(IsValidPosition("5.5", "50"));
+    for (const auto* text : {"", ".", "1.2.3", "1.5x", "1. 5", "\t1.5", "1,5", "5.0,5", "1\u00b75",
+                             "5.0\u00b75", "&H1.", "\"1.5\"", "nan."}) {
+        EXPECT_FALSE(IsValidPosition(text, "50.25")) << text;
+        EXPECT_FALSE(IsValidPosition("5.5", text)) << text;
     }
 }
 
 TEST(PositionTest, MustLieOnTheGlobe) {
-    EXPECT_TRUE(IsValid("180.0", "90.0"));
-    EXPECT_TRUE(IsValid("-180.0", "-90.0"));
-    EXPECT_FALSE(IsValid("180.00001", "50.25"));
-    EXPECT_FALSE(IsValid("-180.5", "50.25"));
-    EXPECT_FALSE(IsValid("5.5", "90.00001"));
-    EXPECT_FALSE(IsValid("5.5", "-90.5"));
-    EXPECT_FALSE(IsValid("1.0e999", "50.25"));
-    EXPECT_TRUE(IsValid("0.0", "50.25"));
-    EXPECT_FALSE(IsValid("5.5", "0.0"));
-    EXPECT_FALSE(IsValid("5.5", "-0.000"));
-    // The same in forms that are rare.
-    EXPECT_TRUE(IsValid("0180.0", "-9.0e1"));
-    EXPECT_TRUE(IsValid("-180.00000000000000001", "1.0e-300")) << "as near as a double tells";
-    EXPECT_FALSE(IsValid("0180.5", "50.25"));
-    EXPECT_FALSE(IsValid("5.5", "9.01e1"));
-    EXPECT_FALSE(IsValid("5.5", "0000.0"));
-    EXPECT_FALSE(IsValid("5.5", "1.0e-999"));
-}
-
-TEST(PositionTest, TakesNoSeparatorButThePoint) {
-    EXPECT_FALSE(IsValid("1.2.3", "50.25"));
-    for (const std::string separator : {",", "\xC2\xB7"}) {
-        EXPECT_FALSE(IsValid("1.5", "50" + separator + "25")) << separator;
-        EXPECT_FALSE(IsValid("1.5", "5.0" + separator + "5")) << separator;
+    using Positions = std::vector<std::array<const char*, 2>>;
+    for (const auto& [x, y] : Positions{{"180.0", "90.0"},
+                                        {"-180.0", "-90.0"},
+                                        {"0.0", "50.25"},
+                                        {"0180.0", "-9.0e1"},
+                                        {"-180.00000000000000001", "1.0e-300"}}) {
+        EXPECT_TRUE(IsValidPosition(x, y)) << x << " " << y << ", as near as a double tells";
+    }
+    for (const auto* x : {"180.00001", "-180.5", "1.0e999", "0180.5"})
+        EXPECT_FALSE(IsValidPosition(x, "50.25")) << x;
+    for (const auto* y : {"90.00001", "-90.5", "9.01e1", "0.0", "-0.000", "0000.0", "1.0e-999"}) {
+        EXPECT_FALSE(IsValidPosition("5.5", y)) << y;
     }
 }
 
@@ -160,40 +146,24 @@ std::string Speed(std::string_view name, const std::string& separator = ".") {
 }
 
 TEST(SpeedFromFileNameTest, ReadsTheEndOfTheName) {
-    EXPECT_EQ(Speed("Fixed 50 mph"), "50");
-    EXPECT_EQ(Speed("Fixed_120MPH"), "120");
-    EXPECT_EQ(Speed("Fixed_1120"), "120");
-    EXPECT_EQ(Speed("Fixed-30"), "30");
-    EXPECT_EQ(Speed("Fixed M25"), "25");
-    EXPECT_EQ(Speed("Fixed050"), "50");
-    EXPECT_EQ(Speed("Fixed 7"), "7");
+    const std::array<const char*, 2> speeds[] = {
+        {"Fixed 50 mph", "50"}, {"Fixed_120MPH", "120"}, {"Fixed_1120", "120"}, {"Fixed-30", "30"},
+        {"Fixed M25", "25"},    {"Fixed050", "50"},      {"Fixed 7", "7"},      {"7", "7"},
+        {"50km/h", "50"},       {"x&H9", "9"},           {"x&o7", "7"},         {"x1e3", "1000"},
+        {"x 1 2", "12"},        {"x1.5", "1.5"}};
+    for (const auto& [name, speed] : speeds) EXPECT_EQ(Speed(name), speed) << name;
     for (const auto* name : {"", "mph", "Fixed", "Fixed K5", "Fixed-5", "Fixed 50 mph new", "Fixed000"}) {
         EXPECT_EQ(Speed(name), "0") << name;
     }
-    EXPECT_EQ(Speed("7"), "7");
-    EXPECT_EQ(Speed("50km/h"), "50");
-}
-
-TEST(SpeedFromFileNameTest, KeepsTheBlankBeforeAUnit) {
-    EXPECT_EQ(Speed("x 120 mph"), "20");
-    EXPECT_EQ(Speed("x 100 mph"), "0");
-}
-
-TEST(SpeedFromFileNameTest, ReadsEveryKindOfNumber) {
-    EXPECT_EQ(Speed("x&H9"), "9");
-    EXPECT_EQ(Speed("x&o7"), "7");
-    EXPECT_EQ(Speed("x1e3"), "1000");
-    EXPECT_EQ(Speed("x 1 2"), "12");
-    EXPECT_EQ(Speed("x1.5"), "1.5");
     EXPECT_EQ(Speed("x1.5", ","), "1,5");
     EXPECT_EQ(Speed("x1,5", ","), "1") << "a name has its point whatever the locale";
+    EXPECT_EQ(Speed("x 120 mph"), "20") << "the blank before a unit stays";
+    EXPECT_EQ(Speed("x 100 mph"), "0");
 }
 
 TEST(SpeedFromFileNameTest, CountsCharacters) {
     EXPECT_EQ(Speed("120\xC3\xA9"), "20");
-    EXPECT_EQ(Speed("\xC3\xA9"
-                    "50"),
-              "50");
+    EXPECT_EQ(Speed("\u00e950"), "50");
     EXPECT_EQ(Speed("80\xD6H"), "80") << "the unit is UTF-8, the name is not";
 }
 

@@ -6,7 +6,6 @@
 #include "platform/disk/host_files.h"
 #include "platform/disk/path_finder.h"
 #include "temporary_folder.h"
-#include "ui/frmRename.h"
 
 #include <filesystem>
 #include <numeric>
@@ -15,7 +14,6 @@
 
 namespace halvenmoor {
 
-const std::string kPoint("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);  // 1.5, 52.5, "n"
 const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
 const std::string kComment = "; Generic Ascii file created by Halvenmoor.\r\n\r\n";
 
@@ -65,40 +63,12 @@ struct DiskProgram : headless::Twins {
 
     /// Whether the results came up. The path is that of a file dialog.
     bool Export(int mode = 1, const std::string& path = "") {
-        bool shown = false;
-        toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
-        fileDialogs.Answers = {path};
-        Window().ButtonClassifyFiles.UserPress();
-        Window().OptionExportMode[mode].UserPress();
-        Window().ButtonExportCameras.UserPress();
-        toolkit.ForgetScript();
-        return shown;
+        return UserExports(*this, Window(), mode, path);
     }
     /// The picture at the end.
-    std::string Import(int source) {
-        std::string picture;
-        toolkit.Script([&](forms::Form& form) {
-            auto& dialog = static_cast<frmImport&>(form);
-            dialog.OptionSource[source].UserPress();
-            dialog.ButtonStart.UserPress();
-            ImportProgram::ExpectDone(dialog);
-            picture = ImportProgram::PictureOf(dialog);
-            dialog.ButtonFinish.UserPress();
-        });
-        Window().ButtonImportFiles.UserPress();
-        toolkit.ForgetScript();
-        return picture;
-    }
+    std::string Import(int source) { return UserImports(*this, Window(), source); }
     void Rename(const std::string& entry, const std::string& newName) {
-        toolkit.Script([&newName](forms::Form& form) {
-            auto& dialog = static_cast<frmRename&>(form);
-            dialog.TextFileName.UserTyped(newName);
-            dialog.ButtonRename.UserPress();
-            dialog.UserEscape();
-        });
-        headless::Select(Window().MainList, {entry});
-        Window().ButtonRenameFile.UserPress();
-        toolkit.ForgetScript();
+        UserRenames(*this, Window(), entry, newName);
     }
     int Exported() {
         const auto& counters = program.Exports().CamerasExported;

@@ -9,13 +9,8 @@
 
 namespace halvenmoor {
 
-/// Typed text, as it stands in a camera file.
-inline std::string Crlf(std::string_view text) {
-    std::string bytes;
-    for (const char character : text)
-        bytes += character == '\n' ? std::string("\r\n") : std::string{character};
-    return bytes;
-}
+/// A point record of an OV2 file: 1.5, 52.5, "n".
+const std::string kPoint("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);
 
 /// The whole program in memory, running in normal mode:
 ///
@@ -45,15 +40,7 @@ struct ImportProgram : TestProgram {
 
     /// Opens the dialog, lets the user act in it, and closes it by Escape if it is still open.
     void Open(const std::function<void(frmImport&)>& act) {
-        bool shown = false;
-        toolkit.Script([&](forms::Form& form) {
-            shown = true;
-            act(static_cast<frmImport&>(form));
-            form.UserEscape();
-        });
-        Click(Window().ButtonImportFiles);
-        EXPECT_TRUE(shown);
-        toolkit.ForgetScript();
+        EXPECT_TRUE(TestProgram::Open(Window().ButtonImportFiles, act));
     }
     /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
     std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {

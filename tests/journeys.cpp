@@ -24,11 +24,11 @@ Strings Lines(const std::string& text) {
 }
 
 bool IsPartOf(const Strings& lines, const Strings& whole) {
-    auto next = whole.begin();
-    return std::all_of(lines.begin(), lines.end(), [&](const std::string& line) {
-        next = std::find(next, whole.end(), line);
-        return next != whole.end() && ++next != Strings::const_iterator();
-    });
+    auto next = lines.begin();
+    for (const std::string& line : whole) {
+        if (next != lines.end() && *next == line) ++next;
+    }
+    return next == lines.end();
 }
 
 bool IsBegunFrom(const Strings& lines, const Strings& whole) {
@@ -104,6 +104,48 @@ void ExpectOtherFilesAsInstalled(const JourneyProgram& program, const Journey& j
 
 }  // namespace
 
+bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path) {
+    bool shown = false;
+    // More than one, should something else open a window on the way.
+    for (int i = 0; i < 4; ++i) {
+        twins.toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
+    }
+    twins.fileDialogs.Answers = {path, path};
+    window.ButtonClassifyFiles.UserPress();
+    window.OptionExportMode[mode].UserPress();
+    window.ButtonExportCameras.UserPress();
+    twins.toolkit.ForgetScript();
+    return shown;
+}
+
+std::string UserImports(headless::Twins& twins, frmMain& window, int source) {
+    std::string picture;
+    twins.toolkit.Script([&](forms::Form& form) {
+        auto& dialog = static_cast<frmImport&>(form);
+        dialog.OptionSource[source].UserPress();
+        dialog.ButtonStart.UserPress();
+        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
+        picture = ImportProgram::PictureOf(dialog);
+        dialog.ButtonFinish.UserPress();
+    });
+    window.ButtonImportFiles.UserPress();
+    twins.toolkit.ForgetScript();
+    return picture;
+}
+
+void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
+                 const std::string& newName) {
+    twins.toolkit.Script([&newName](forms::Form& form) {
+        auto& dialog = static_cast<frmRename&>(form);
+        dialog.TextFileName.UserTyped(newName);
+        dialog.ButtonRename.UserPress();
+        dialog.UserEscape();
+    });
+    headless::Select(window.MainList, {entry});
+    window.ButtonRenameFile.UserPress();
+    twins.toolkit.ForgetScript();
+}
+
 void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
     ExpectOtherFilesAsInstalled(program, journey);
     EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
@@ -153,15 +195,6 @@ std::string ResultsText(int mode) {
                 "\n");
 }
 
-void PlayExport(JourneyProgram& program, int mode) {
-    program.Window().ButtonClassifyFiles.UserPress();
-    program.Window().OptionExportMode[mode].UserPress();
-    program.fileDialogs.Answers = {ExportTarget(mode), ExportTarget(mode)};
-    for (int i = 0; i < 4; ++i) program.ScriptEscape();
-    program.Window().ButtonExportCameras.UserPress();
-    program.toolkit.ForgetScript();
-}
-
 void ExpectWholeExport(JourneyProgram& program, int mode) {
     EXPECT_TRUE(program.Window().ResultsValid);
     EXPECT_EQ(program.Text(ExportTarget(mode)), ExportedText(mode));
@@ -193,7 +226,10 @@ void ExpectSoundExport(JourneyProgram& program, int mode) {
 
 Journey ExportJourney(int mode) {
     return {.name = "Export" + std::to_string(mode),
-            .play = [mode](JourneyProgram& program) { PlayExport(program, mode); },
+            .play =
+                [mode](JourneyProgram& program) {
+                    UserExports(program, program.Window(), mode, ExportTarget(mode));
+                },
             .expectDone =
                 [mode](JourneyProgram& program) {
                     ExpectWholeExport(program, mode);
@@ -228,19 +264,6 @@ Disk CameraFiles(const JourneyProgram& program) {
     return disk;
 }
 
-void PlayImport(JourneyProgram& program, int source) {
-    program.toolkit.Script([&program, source](forms::Form& form) {
-        auto& dialog = static_cast<frmImport&>(form);
-        dialog.OptionSource[source].UserPress();
-        dialog.ButtonStart.UserPress();
-        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
-        program.picture = ImportProgram::PictureOf(dialog);
-        dialog.ButtonFinish.UserPress();
-    });
-    program.Window().ButtonImportFiles.UserPress();
-    program.toolkit.ForgetScript();
-}
-
 /// Each camera file is an old one as it was or a new one, but there are never both. Of a new one lines may be
 /// missing: TXT sources lose them without a word.
 void ExpectSoundImport(JourneyProgram& program, int source) {
@@ -269,7 +292,10 @@ void ExpectSoundImport(JourneyProgram& program, int source) {
 
 Journey ImportJourney(int source) {
     return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
-            .play = [source](JourneyProgram& program) { PlayImport(program, source); },
+            .play =
+                [source](JourneyProgram& program) {
+                    program.picture = UserImports(program, program.Window(), source);
+                },
             .expectDone =
                 [source](JourneyProgram& program) {
                     EXPECT_EQ(CameraFiles(program), Imported(source));
@@ -283,27 +309,13 @@ Journey ImportJourney(int source) {
 
 namespace {
 
-void PlayRename(JourneyProgram& program) {
-    program.toolkit.Script([](forms::Form& form) {
-        auto& dialog = static_cast<frmRename&>(form);
-        dialog.TextFileName.UserTyped("named");
-        dialog.ButtonRename.UserPress();
-        dialog.UserEscape();
-    });
-    headless::Select(program.List(0), {"rest"});
-    program.Window().ButtonRenameFile.UserPress();
-    program.toolkit.ForgetScript();
-}
-
 /// The entry is what the file is called.
 void ExpectSoundRename(JourneyProgram& program) {
     ExpectSoundMessages(program);
-    Strings expected{"fixed_50", "mobil_30kmh", "rest"};
-    const bool isRenamed = program.memory.Has("/p/asc/named.asc");
-    if (isRenamed) expected = {"fixed_50", "mobil_30kmh", "named"};
-    EXPECT_EQ(program.Items(0), expected);
-    EXPECT_EQ(program.Text("/p/asc/rest.asc"), isRenamed ? kNoFile : "4.5, 54.5, \"e\"\r\n");
-    EXPECT_EQ(program.Text("/p/asc/named.asc"), isRenamed ? "4.5, 54.5, \"e\"\r\n" : kNoFile);
+    const std::string entry = program.memory.Has("/p/asc/named.asc") ? "named" : "rest";
+    EXPECT_EQ(program.Items(0), (Strings{"fixed_50", "mobil_30kmh", entry}));
+    EXPECT_EQ(program.Text("/p/asc/" + entry + ".asc"), "4.5, 54.5, \"e\"\r\n");
+    EXPECT_EQ(CameraFiles(program).size(), 3u);
 }
 
 void Choose(JourneyProgram& program, const std::string& language) {
@@ -326,7 +338,7 @@ void ExpectSomeEntries(JourneyProgram& program) {
 
 Journey RenameJourney() {
     return {.name = "Rename",
-            .play = PlayRename,
+            .play = [](JourneyProgram& program) { UserRenames(program, program.Window(), "rest", "named"); },
             .expectDone =
                 [](JourneyProgram& program) {
                     EXPECT_EQ(program.Items(0), (Strings{"fixed_50", "mobil_30kmh", "named"}));

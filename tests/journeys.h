@@ -30,9 +30,8 @@ struct JourneyProgram : TestProgram {
         AddCameraFile("mobil_30kmh", "3.5, 53.5, \"d\"\r\n");
         AddCameraFile("rest", "4.5, 54.5, \"e\"\r\n");
         memory.Put("/p/txt/old.txt", kOldTarget);
-        const std::string point("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);  // 1.5, 52.5, "n"
-        memory.Put("/p/import/ov2/one.ov2", point);
-        memory.Put("/p/import/ov2/two.ov2", point + point);
+        memory.Put("/p/import/ov2/one.ov2", kPoint);
+        memory.Put("/p/import/ov2/two.ov2", kPoint + kPoint);
         memory.Put("/p/import/txt/one.txt", "1.5,52.5,1,50,1,90\n2.5,52.5,2,60\n");
         memory.Put("/p/import/txt/two.txt", "3.5,53.5,1,50\n");
         installed = memory.Everything();
@@ -46,9 +45,6 @@ struct JourneyProgram : TestProgram {
     void Reload() {
         Window().CheckAuto[1].UserPress();
         Window().CheckAuto[1].UserPress();
-    }
-    void ScriptEscape() {
-        toolkit.Script([](forms::Form& form) { form.UserEscape(); });
     }
 
     static constexpr const char* kOldTarget = "X,Y,TYPE,SPEED,DirType,Direction\r\n9.5,59.5,1,50,0,0\r\n";
@@ -76,6 +72,15 @@ struct Journey {
 inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
     return out << journey.name;
 }
+
+// What a user does in the main window and its dialogs, whatever comes in between.
+
+/// Classifies and exports by mode, with the path for its file dialog. Whether the results came up.
+bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path);
+/// By ImportProgram::kOv2 or kTxt. Returns the picture at the end.
+std::string UserImports(headless::Twins& twins, frmMain& window, int source);
+void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
+                 const std::string& newName);
 
 // Checks that any journey has to pass at its end, whatever happened on the way.
 

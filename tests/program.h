@@ -16,6 +16,14 @@
 
 namespace halvenmoor {
 
+/// Typed text, as it stands in a file of the program.
+inline std::string Crlf(std::string_view text) {
+    std::string bytes;
+    for (const char character : text)
+        bytes += character == '\n' ? std::string("\r\n") : std::string{character};
+    return bytes;
+}
+
 /// The whole program in memory, in the folder /p. A test prepares files and options, then starts it:
 ///
 ///     TestProgram program;
@@ -107,18 +115,23 @@ struct TestProgram : headless::Twins {
     /// Gives unclassified entries a type.
     void Move(int type, const Names& names) { Drag(0, type, names); }
 
-    /// Exports with the present mode. If the results window shows up, hands it to look and closes it. True
-    /// when it showed up.
-    bool Export(const std::function<void(frmResults&)>& look = {}) {
+    /// Clicks a button. If a dialog shows up, hands it to act and closes it by Escape should it still be
+    /// open. True when it showed up.
+    template <class Dialog>
+    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& act) {
         bool shown = false;
         toolkit.Script([&](forms::Form& form) {
             shown = true;
-            if (look) look(static_cast<frmResults&>(form));
+            if (act) act(static_cast<Dialog&>(form));
             form.UserEscape();
         });
-        Click(Window().ButtonExportCameras);
+        Click(button);
         toolkit.ForgetScript();
         return shown;
+    }
+    /// Exports with the present mode. True when the results window showed up.
+    bool Export(const std::function<void(frmResults&)>& look = {}) {
+        return Open(Window().ButtonExportCameras, look);
     }
     /// Mode 2 saves as the path, 3 appends to it.
     bool ExportTo(int mode, const std::string& path, const std::function<void(frmResults&)>& look = {}) {
