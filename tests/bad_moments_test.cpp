@@ -105,7 +105,7 @@ std::vector<Act> ActsDuring(const Journey& journey) {
 class BadMoments : public testing::TestWithParam<Journey> {
 protected:
     /// Plays the journey with the act at one turn; 1 is the first. False when there are no so many turns.
-    static bool ActAtTurn(const Act& act, int turn) {
+    bool ActAtTurn(const Act& act, int turn) {
         JourneyProgram program;
         program.Start();
         program.memory.ForgetCalls();
@@ -128,14 +128,14 @@ protected:
     }
 
     /// Only a stop, a failure and the end of the system come through.
-    static void ExpectUndisturbed(JourneyProgram& program, const Act& act) {
+    void ExpectUndisturbed(JourneyProgram& program, const Act& act) {
         ExpectSoundProgram(program, GetParam());
         EXPECT_EQ(program.desktop.Ended(), act.effect == Effect::EndsProgram);
         if (act.effect == Effect::EndsProgram) return;
         GetParam().expectSound(program);
         const bool isImport = GetParam().name.starts_with("Import");
         if (act.effect == Effect::Breaks || (act.effect == Effect::StopsImport && isImport)) return;
-        EXPECT_EQ(program.memory.Calls(), UndisturbedCalls()) << "something else was run";
+        EXPECT_EQ(program.memory.Calls(), undisturbedCalls) << "something else was run";
         GetParam().expectDone(program);
     }
 
@@ -151,14 +151,11 @@ protected:
 
     static void ExpectWorksAgain(JourneyProgram& program) {
         program.RestoreDisk();
-        if (program.desktop.Ended()) {
-            JourneyProgram next;
-            next.settings = program.settings;
-            next.Start();
-            ExpectWorks(next);
-            return;
-        }
-        ExpectWorks(program);
+        if (!program.desktop.Ended()) return ExpectWorks(program);
+        JourneyProgram next;
+        next.settings = program.settings;
+        next.Start();
+        ExpectWorks(next);
     }
 
     static void ExpectWorks(JourneyProgram& program) {
@@ -171,26 +168,14 @@ protected:
         GetParam().expectDone(program);
     }
 
-    static const Strings& UndisturbedCalls() {
-        static const std::map<std::string, Strings> calls = [] {
-            std::map<std::string, Strings> byJourney;
-            for (const Journey& journey : Journeys()) {
-                JourneyProgram program;
-                program.Start();
-                program.memory.ForgetCalls();
-                journey.play(program);
-                byJourney[journey.name] = program.memory.Calls();
-            }
-            return byJourney;
-        }();
-        return calls.at(GetParam().name);
-    }
-
-public:
-    static std::vector<Journey> Journeys() {
-        return {ExportJourney(1), ExportJourney(2), ExportJourney(3), ImportJourney(ImportProgram::kOv2),
-                ImportJourney(ImportProgram::kTxt)};
-    }
+    /// What the program asks of the disk when nothing comes in between.
+    const Strings undisturbedCalls = [] {
+        JourneyProgram program;
+        program.Start();
+        program.memory.ForgetCalls();
+        GetParam().play(program);
+        return program.memory.Calls();
+    }();
 };
 
 TEST_P(BadMoments, AnythingAtEveryTurn) {
@@ -205,7 +190,10 @@ TEST_P(BadMoments, AnythingAtEveryTurn) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Journeys, BadMoments, testing::ValuesIn(BadMoments::Journeys()),
+INSTANTIATE_TEST_SUITE_P(Journeys, BadMoments,
+                         testing::Values(ExportJourney(1), ExportJourney(2), ExportJourney(3),
+                                         ImportJourney(ImportProgram::kOv2),
+                                         ImportJourney(ImportProgram::kTxt)),
                          [](const auto& journey) { return journey.param.name; });
 
 }  // namespace

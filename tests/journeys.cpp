@@ -102,66 +102,7 @@ void ExpectOtherFilesAsInstalled(const JourneyProgram& program, const Journey& j
     EXPECT_EQ(withoutTargets(program.memory.Everything()), withoutTargets(program.installed));
 }
 
-}  // namespace
-
-bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path) {
-    bool shown = false;
-    // More than one, should something else open a window on the way.
-    for (int i = 0; i < 4; ++i) {
-        twins.toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
-    }
-    twins.fileDialogs.Answers = {path, path};
-    window.ButtonClassifyFiles.UserPress();
-    window.OptionExportMode[mode].UserPress();
-    window.ButtonExportCameras.UserPress();
-    twins.toolkit.ForgetScript();
-    return shown;
-}
-
-std::string UserImports(headless::Twins& twins, frmMain& window, int source) {
-    std::string picture;
-    twins.toolkit.Script([&](forms::Form& form) {
-        auto& dialog = static_cast<frmImport&>(form);
-        dialog.OptionSource[source].UserPress();
-        dialog.ButtonStart.UserPress();
-        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
-        picture = ImportProgram::PictureOf(dialog);
-        dialog.ButtonFinish.UserPress();
-    });
-    window.ButtonImportFiles.UserPress();
-    twins.toolkit.ForgetScript();
-    return picture;
-}
-
-void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
-                 const std::string& newName) {
-    twins.toolkit.Script([&newName](forms::Form& form) {
-        auto& dialog = static_cast<frmRename&>(form);
-        dialog.TextFileName.UserTyped(newName);
-        dialog.ButtonRename.UserPress();
-        dialog.UserEscape();
-    });
-    headless::Select(window.MainList, {entry});
-    window.ButtonRenameFile.UserPress();
-    twins.toolkit.ForgetScript();
-}
-
-void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
-    ExpectOtherFilesAsInstalled(program, journey);
-    EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
-    if (program.desktop.Ended()) return;
-    EXPECT_TRUE(program.desktop.Accepts(program.Window()));
-    ExpectSoundWindow(program.Window());
-}
-
-void ExpectSoundWindow(frmMain& window) {
-    ExpectSoundLists(window);
-    ExpectSoundButtons(window);
-}
-
 // Export
-
-namespace {
 
 const char* const kExported =
     "1.5,52.5,1,50,1,90\r\n"
@@ -222,27 +163,7 @@ void ExpectSoundExport(JourneyProgram& program, int mode) {
     EXPECT_TRUE(results == kNoFile || IsBegunFrom(Lines(results), Lines(ResultsText(mode)))) << results;
 }
 
-}  // namespace
-
-Journey ExportJourney(int mode) {
-    return {.name = "Export" + std::to_string(mode),
-            .play =
-                [mode](JourneyProgram& program) {
-                    UserExports(program, program.Window(), mode, ExportTarget(mode));
-                },
-            .expectDone =
-                [mode](JourneyProgram& program) {
-                    ExpectWholeExport(program, mode);
-                    EXPECT_EQ(program.ResultsFile(), ResultsText(mode));
-                    EXPECT_EQ(program.Items(0), Strings{"rest"});
-                },
-            .expectSound = [mode](JourneyProgram& program) { ExpectSoundExport(program, mode); },
-            .targets = {ExportTarget(mode), "/p/Export Results.txt"}};
-}
-
 // Import
-
-namespace {
 
 const std::string kComment =
     "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction).\r\n\r\n";
@@ -288,26 +209,7 @@ void ExpectSoundImport(JourneyProgram& program, int source) {
     EXPECT_TRUE(oldFiles == 0 || newFiles == 0) << "the folder was to be emptied first";
 }
 
-}  // namespace
-
-Journey ImportJourney(int source) {
-    return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
-            .play =
-                [source](JourneyProgram& program) {
-                    program.picture = UserImports(program, program.Window(), source);
-                },
-            .expectDone =
-                [source](JourneyProgram& program) {
-                    EXPECT_EQ(CameraFiles(program), Imported(source));
-                    EXPECT_EQ(program.Items(0).size(), 2u);
-                },
-            .expectSound = [source](JourneyProgram& program) { ExpectSoundImport(program, source); },
-            .targets = {"/p/asc/"}};
-}
-
 // The others
-
-namespace {
 
 /// The entry is what the file is called.
 void ExpectSoundRename(JourneyProgram& program) {
@@ -335,6 +237,92 @@ void ExpectSomeEntries(JourneyProgram& program) {
 }
 
 }  // namespace
+
+bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path) {
+    bool shown = false;
+    // More than one, should something else open a window on the way.
+    for (int i = 0; i < 4; ++i) {
+        twins.toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
+    }
+    twins.fileDialogs.Answers = {path, path};
+    window.ButtonClassifyFiles.UserPress();
+    window.OptionExportMode[mode].UserPress();
+    window.ButtonExportCameras.UserPress();
+    twins.toolkit.ForgetScript();
+    return shown;
+}
+
+std::string UserImports(headless::Twins& twins, frmMain& window, int source) {
+    std::string picture;
+    twins.toolkit.Script([&](forms::Form& form) {
+        auto& dialog = static_cast<frmImport&>(form);
+        dialog.OptionSource[source].UserPress();
+        dialog.ButtonStart.UserPress();
+        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
+        picture = ImportProgram::PictureOf(dialog);
+        dialog.ButtonFinish.UserPress();
+    });
+    window.ButtonImportFiles.UserPress();
+    twins.toolkit.ForgetScript();
+    return picture;
+}
+
+void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
+                 const std::string& newName) {
+    twins.toolkit.Script([&newName](forms::Form& form) {
+        auto& dialog = static_cast<frmRename&>(form);
+        dialog.TextFileName.UserTyped(newName);
+        dialog.ButtonRename.UserPress();
+        dialog.UserEscape();
+    });
+    headless::Select(window.MainList, {entry});
+    window.ButtonRenameFile.UserPress();
+    twins.toolkit.ForgetScript();
+}
+
+void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
+    ExpectOtherFilesAsInstalled(program, journey);
+    EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
+    if (program.desktop.Ended()) return;
+    EXPECT_TRUE(program.desktop.Accepts(program.Window()));
+    ExpectSoundWindow(program.Window());
+}
+
+void ExpectSoundWindow(frmMain& window) {
+    ExpectSoundLists(window);
+    ExpectSoundButtons(window);
+}
+
+Journey ExportJourney(int mode) {
+    return {.name = "Export" + std::to_string(mode),
+            .play =
+                [mode](JourneyProgram& program) {
+                    UserExports(program, program.Window(), mode, ExportTarget(mode));
+                },
+            .expectDone =
+                [mode](JourneyProgram& program) {
+                    ExpectWholeExport(program, mode);
+                    EXPECT_EQ(program.ResultsFile(), ResultsText(mode));
+                    EXPECT_EQ(program.Items(0), Strings{"rest"});
+                },
+            .expectSound = [mode](JourneyProgram& program) { ExpectSoundExport(program, mode); },
+            .targets = {ExportTarget(mode), "/p/Export Results.txt"}};
+}
+
+Journey ImportJourney(int source) {
+    return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
+            .play =
+                [source](JourneyProgram& program) {
+                    program.picture = UserImports(program, program.Window(), source);
+                },
+            .expectDone =
+                [source](JourneyProgram& program) {
+                    EXPECT_EQ(CameraFiles(program), Imported(source));
+                    EXPECT_EQ(program.Items(0).size(), 2u);
+                },
+            .expectSound = [source](JourneyProgram& program) { ExpectSoundImport(program, source); },
+            .targets = {"/p/asc/"}};
+}
 
 Journey RenameJourney() {
     return {.name = "Rename",
