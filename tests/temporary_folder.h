@@ -1,11 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
+#include <vector>
 
 namespace halvenmoor {
 
@@ -38,6 +40,15 @@ public:
         if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
             throw std::runtime_error("cannot write " + path.string());
         }
+    }
+
+    /// The names of what is directly in it, sorted.
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
     }
 
     std::string Text(const std::string& name) const {

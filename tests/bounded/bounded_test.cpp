@@ -1,7 +1,6 @@
 // No file makes the program take more memory than a megabyte and a stated multiple of the file's size. This
 // program has its own operator new, which counts. Large files have holes: they take no room on the disk.
 
-#include "core/text/wildcard.h"
 #include "export/frmResults.h"
 #include "import/ov2_import.h"
 #include "import/txt_import.h"
@@ -175,17 +174,6 @@ TEST_F(Bounded, SettingsTakeNoStringForEachComma) {
         const cSettingsClass read(fileSystem, folder / "Settings.ini");
         EXPECT_EQ(read.TypeFileNamePatterns()[1]->size(), kMaxPatterns + 1);
     });
-}
-
-/// One that tries every way would not come to an end.
-TEST(WildcardTime, StarsDoNotMultiply) {
-    std::string pattern;
-    for (int i = 0; i < 100'000; ++i) pattern += i % 2 == 0 ? "*" : "a";
-    const std::string name(100'000, 'a');
-    const text::CodePage& page = text::WindowsCodePage(1252);
-    EXPECT_TRUE(text::WildcardPattern(pattern, page).Matches(name));
-    EXPECT_FALSE(text::WildcardPattern(pattern + "*b*", page).Matches(name));
-    EXPECT_FALSE(text::WildcardPattern(std::string(100'000, '*') + "b", page).Matches(name));
 }
 
 }  // namespace

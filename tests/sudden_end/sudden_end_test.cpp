@@ -103,14 +103,6 @@ protected:
         EXPECT_GT(stops, 20);
     }
 
-    Strings Names() {
-        Strings names;
-        for (const auto& entry : fs::directory_iterator(folder.Path()))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
     TemporaryFolder folder;
 };
 
@@ -220,7 +212,7 @@ TEST_F(SuddenEndTest, OptionsAreTheOldOnesOrTheNewOnes) {
             EXPECT_EQ(End(Start([&] { save("2", "French"); })), 0);
             EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
             EXPECT_TRUE(areStored("2", "French"));
-            EXPECT_EQ(Names(), Strings{"halvenmoor.ini"});
+            EXPECT_EQ(folder.Names(), Strings{"halvenmoor.ini"});
         });
 }
 
@@ -235,7 +227,7 @@ TEST_F(SuddenEndTest, TheNextInstanceIsTheFirst) {
     Sweep([] {}, [&] { isFirst(); },
           [&] {
               EXPECT_EQ(Answer(isFirst), 1);
-              for (const std::string& name : Names())
+              for (const std::string& name : folder.Names())
                   EXPECT_TRUE(name == "halvenmoor.lock" || name == "halvenmoor.socket") << name;
           });
 }
