@@ -15,11 +15,6 @@
 
 namespace halvenmoor::qt {
 
-inline QWidget& WidgetOf(const forms::Control& control) {
-    auto& window = dynamic_cast<QWidget&>(*control.Owner().View());
-    return *window.findChild<QWidget*>(QString::fromStdString(control.Name()));
-}
-
 /// A window that is looked at and closes, in place of what it does otherwise.
 template <class Window>
 class Shown : public Window {
@@ -47,12 +42,10 @@ protected:
             memory.Put("/p/lang/" + file.path().filename().string(),
                        std::string(std::istreambuf_iterator<char>(bytes), {}));
         }
-        memory.Put("/p/demo/asc_demo/camera.asc", "");
+        AddDemoFile("camera", "");
         program.Start();
         Form().MainList.UserSelect({0}, 0);
     }
-
-    frmMain& Form() { return program.MainForm(); }
 
     template <class Window, class... Arguments>
     void Look(const std::function<void(Window&)>& prepare, Arguments&&... arguments) {
