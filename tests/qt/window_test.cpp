@@ -232,37 +232,6 @@ TEST_F(Window, ClosesOnlyWhereThereIsACloseBox) {
     EXPECT_FALSE(form.IsOpen());
 }
 
-/// Takes the Enter key before its controls do, as a window with FormDesign::keyPreview.
-struct PreviewForm : forms::Form {
-    explicit PreviewForm(forms::Desktop& desktop)
-        : Form(desktop,
-               {.name = "preview", .title = "Preview", .width = 3000, .height = 900, .keyPreview = true}) {
-        button.OnClick = [this] { ++presses; };
-    }
-    void Activate() override {
-        QTest::keyClick(&WidgetOf(field), Qt::Key_A);
-        QTest::keyClick(&WidgetOf(button), Qt::Key_Return);
-        Unload();
-    }
-    bool KeyPress(char32_t key) override {
-        keys.push_back(key);
-        return key == U'\r';
-    }
-
-    forms::TextBox field{*this, {.name = "field", .place = {0, 0, 1500, 315}, .tab = 1}};
-    forms::CommandButton button{*this, {.name = "button", .place = {0, 450, 1500, 315}, .tab = 2}};
-    std::u32string keys;
-    int presses = 0;
-};
-
-TEST_F(Window, GivesAFormTheKeysBeforeItsControls) {
-    PreviewForm dialog(desktop);
-    desktop.ShowModal(dialog);
-    EXPECT_EQ(dialog.keys, U"a\r");
-    EXPECT_EQ(dialog.field.Text(), "a");
-    EXPECT_EQ(dialog.presses, 0);
-}
-
 TEST_F(Window, ToolTipShowsAsPlainText) {
     form.picture.SetToolTip("<b>3</b> & Datei(s)");
     desktop.Yield();
