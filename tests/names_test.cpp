@@ -1,11 +1,10 @@
 #include "core/text/decode.h"
 #include "program.h"
+#include "temporary_folder.h"
 #include "ui/cNamesClass.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
@@ -123,11 +122,6 @@ TEST_F(NamesTest, BuiltInTextsAreEnglish) {
 }
 
 const std::filesystem::path kLanguages = HALVENMOOR_DATA "/lang";
-
-std::string BytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// Keys and values of the section of a language file.
 std::multimap<std::string, std::string> EntriesOf(const std::string& file) {

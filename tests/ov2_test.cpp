@@ -1,9 +1,8 @@
 #include "files_test_helpers.h"
 #include "import/ov2_record.h"
 #include "import_program.h"
+#include "temporary_folder.h"
 
-#include <fstream>
-#include <iterator>
 #include <limits>
 
 namespace halvenmoor {
@@ -33,11 +32,6 @@ const std::string kDeleted = Record(0, 9, "gone");
 
 std::string LineOf(const std::string& name) {
     return "1.50000, 52.50000, \"" + name + "\"\r\n";
-}
-
-std::string TestData(const std::string& name) {
-    std::ifstream file(HALVENMOOR_TEST_DATA "/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 TEST(Ov2RecordTest, LengthsAtTheirLimits) {
@@ -103,9 +97,9 @@ TEST(Ov2RecordTest, NamesAreCleaned) {
 
 TEST(Ov2ImportTest, FilesOfAnotherProgram) {
     ImportProgram program;
-    program.AddOv2("places", TestData("places.ov2"));
-    program.memory.Put("/p/import/ov2/Madrid.v2.OV2", TestData("madrid.ov2"));
-    program.memory.Put("/p/import/ov2/madrid.gpx", TestData("madrid.gpx"));
+    program.AddOv2("places", BytesOf(HALVENMOOR_TEST_DATA "/places.ov2"));
+    program.memory.Put("/p/import/ov2/Madrid.v2.OV2", BytesOf(HALVENMOOR_TEST_DATA "/madrid.ov2"));
+    program.memory.Put("/p/import/ov2/madrid.gpx", BytesOf(HALVENMOOR_TEST_DATA "/madrid.gpx"));
     EXPECT_EQ(program.Import(kOv2), "PictureFinished");
     EXPECT_EQ(program.Camera("places"), kHeader +
                                             "13.37700, 52.51600, \"Berlin; Pariser Platz\"\r\n"

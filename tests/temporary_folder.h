@@ -11,6 +11,12 @@
 
 namespace halvenmoor {
 
+inline std::string BytesOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + path.string());
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 /// A fresh folder on the disk, deleted with all that is in it at the end.
 class TemporaryFolder {
 public:
@@ -51,11 +57,7 @@ public:
         return names;
     }
 
-    std::string Text(const std::string& name) const {
-        std::ifstream file(*this / name, std::ios::binary);
-        if (!file) throw std::runtime_error("cannot read " + name);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string Text(const std::string& name) const { return BytesOf(*this / name); }
 
 private:
     std::string path_;

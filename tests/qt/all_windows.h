@@ -4,13 +4,12 @@
 #include "export/frmResults.h"
 #include "import/frmImport.h"
 #include "program_fixture.h"
+#include "tests/temporary_folder.h"
 #include "ui/cNamesClass.h"
 #include "ui/frmRename.h"
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <utility>
 
 namespace halvenmoor::qt {
@@ -38,9 +37,7 @@ class AllWindows : public ProgramWindows {
 protected:
     AllWindows() {
         for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-            std::ifstream bytes(file.path(), std::ios::binary);
-            memory.Put("/p/lang/" + file.path().filename().string(),
-                       std::string(std::istreambuf_iterator<char>(bytes), {}));
+            memory.Put("/p/lang/" + file.path().filename().string(), BytesOf(file));
         }
         AddDemoFile("camera", "");
         program.Start();

@@ -8,7 +8,6 @@
 #include <QFontInfo>
 #include <map>
 #include <set>
-#include <utility>
 
 namespace halvenmoor::qt {
 namespace {
@@ -18,20 +17,16 @@ QString ShownText(const forms::Control& control) {
 }
 
 TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
-    const std::pair<forms::Control*, const char*> cases[] = {{&form.label, "label"},
-                                                             {&form.frame, "frame"},
-                                                             {&form.first, "button"},
-                                                             {&form.check, "check box"},
-                                                             {&form.optionA, "option button"}};
-    for (const auto& [control, kind] : cases) {
-        SCOPED_TRACE(kind);
+    for (forms::Control* const control : std::initializer_list<forms::Control*>{
+             &form.label, &form.frame, &form.first, &form.check, &form.optionA}) {
+        SCOPED_TRACE(control->Name());
         const QWidget& widget = WidgetOf(*control);
         std::string caption;
-        const auto lengthen = [&, shown = control] {
-            shown->SetCaption(caption += "i");
+        const auto lengthen = [&] {
+            control->SetCaption(caption += "i");
             desktop.Yield();
         };
-        const auto isWhole = [&, shown = control] { return ShownText(*shown).toStdString() == caption; };
+        const auto isWhole = [&] { return ShownText(*control).toStdString() == caption; };
         do lengthen();
         while (widget.font().stretch() == 100 && caption.size() < 80);
         EXPECT_TRUE(isWhole());
