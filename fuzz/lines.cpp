@@ -3,6 +3,7 @@
 #include "fuzz/property.h"
 #include "fuzz/world.h"
 #include "platform/disk/streams.h"
+#include "tests/files_test_helpers.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -13,19 +14,11 @@ using fuzz::Require;
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
-Strings ReadAll(platform::TextReader& reader) {
-    Strings lines;
-    while (!reader.AtEndOfStream()) lines.emplace_back(reader.ReadLine());
-    return lines;
-}
-
 Strings ReadInOnePiece(std::string_view bytes) {
     disk::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
     Require(file.Write(bytes) == 0 && lseek(file.Get(), 0, SEEK_SET) == 0, "there is memory for the text");
     disk::DiskTextReader reader(std::move(file));
-    return ReadAll(reader);
+    return ReadLines(reader);
 }
 
 /// A pipe in packet mode hands over one packet a read. It holds so many of them.
@@ -40,7 +33,7 @@ Strings ReadByteByByte(std::string_view bytes) {
     Require(room >= 1 << 20, "the pipe has room");
     for (const char byte : bytes) Require(out.Write({&byte, 1}) == 0, "a byte fits into the pipe");
     out.Close();
-    return ReadAll(reader);
+    return ReadLines(reader);
 }
 
 }  // namespace
@@ -52,7 +45,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(ReadByteByByte(bytes) == lines, "lines read byte by byte are the lines");
     headless::MemoryFiles memory;
     memory.Put("/a", bytes);
-    Require(ReadAll(*memory.CreateFileSystemObject()->OpenTextFile("/a")) == lines,
-            "the twin reads the same");
+    Require(ReadLines(memory, "/a") == lines, "the twin reads the same");
     return 0;
 }

@@ -15,38 +15,16 @@ using fuzz::Require;
 
 namespace {
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-/// The decimal number that the text begins with, in the C library's form; without any blanks.
-std::string DecimalPrefix(const std::string& text) {
-    std::size_t at = 0;
-    const auto skipSign = [&] { at += at < text.size() && (text[at] == '-' || text[at] == '+') ? 1 : 0; };
-    const auto skipDigits = [&] {
-        while (at < text.size() && IsDigit(text[at])) ++at;
-    };
-    skipSign();
-    skipDigits();
-    if (at < text.size() && text[at] == '.') ++at;
-    skipDigits();
-    std::string prefix = text.substr(0, at);
-    if (at < text.size() && std::string("EeDd").find(text[at]) != std::string::npos) {
-        ++at;
-        const std::size_t exponent = at;
-        skipSign();
-        skipDigits();
-        prefix += "e" + text.substr(exponent, at - exponent);
-    }
-    return prefix;
-}
-
+/// What the C library reads of the characters that a decimal number can have, without any blanks.
 double SlowNumber(std::string text) {
     const auto isBlank = [](char character) {
         return character == ' ' || character == '\t' || character == '\n';
     };
     text.erase(std::remove_if(text.begin(), text.end(), isBlank), text.end());
-    return std::strtod(DecimalPrefix(text).c_str(), nullptr);
+    text = text.substr(0, text.find_first_not_of("0123456789+-.eEdD"));
+    const auto isExponentMark = [](char character) { return character == 'd' || character == 'D'; };
+    std::replace_if(text.begin(), text.end(), isExponentMark, 'e');
+    return std::strtod(text.c_str(), nullptr);
 }
 
 void ReadsWhatItWrites(double number) {

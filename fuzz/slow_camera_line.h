@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/text/trim.h"
+#include "export/camera_file.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +50,14 @@ inline SlowFields SlowSplit(std::string line) {
 
 inline bool IsComment(std::string_view line) {
     return !line.empty() && std::string_view("\\/:\"<>|;!#").find(line.front()) != std::string_view::npos;
+}
+
+/// Whether an export takes the line of a camera file.
+inline bool IsExported(const std::string& line) {
+    FieldList fields;
+    std::string_view rest = text::StripComment(text::Trim(line));
+    const bool isSound = SplitCameraLine(fields, rest);
+    return isSound && (fields.count == 3 || fields.count == 5) && IsValidPosition(fields[0], fields[1]);
 }
 
 }  // namespace halvenmoor::fuzz

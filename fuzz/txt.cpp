@@ -1,8 +1,6 @@
 // The import of a TXT source. The first byte chooses the order of the extra fields.
 
 #include "core/text/compare.h"
-#include "core/text/trim.h"
-#include "export/camera_file.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
 #include "fuzz/world.h"
@@ -65,13 +63,6 @@ Expected SlowImport(std::string_view source, int structure) {
     return expected;
 }
 
-bool IsExported(const std::string& line) {
-    FieldList fields;
-    std::string_view rest = text::StripComment(text::Trim(line));
-    const bool isSound = SplitCameraLine(fields, rest);
-    return isSound && (fields.count == 3 || fields.count == 5) && IsValidPosition(fields[0], fields[1]);
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -95,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::string word = path.substr(8, path.find('_') - 8);
         for (std::size_t i = 2; i < lines.size(); ++i) {
             written.emplace(word, lines[i]);
-            if (IsExported(lines[i])) ++exported;
+            if (fuzz::IsExported(lines[i])) ++exported;
         }
     }
     Require(import.BadLines() == expected.badLines, "bad lines are counted");

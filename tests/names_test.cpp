@@ -1,13 +1,13 @@
 #include "core/text/decode.h"
 #include "program.h"
+#include "temporary_folder.h"
 #include "ui/cNamesClass.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 
 namespace halvenmoor {
 namespace {
@@ -121,55 +121,43 @@ TEST_F(NamesTest, BuiltInTextsAreEnglish) {
     EXPECT_EQ(names.LabelTypeDescription(5), "Mobile Speed Camera");
 }
 
+const std::filesystem::path kLanguages = HALVENMOOR_DATA "/lang";
+
 /// Keys and values of the section of a language file.
-std::multimap<std::string, std::string> EntriesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
+std::multimap<std::string, std::string> EntriesOf(const std::string& file) {
+    std::istringstream section(file.substr(file.find("[Halvenmoor]")));
     std::multimap<std::string, std::string> entries;
-    bool inSection = false;
-    for (std::string line; std::getline(stream, line);) {
+    for (std::string line; std::getline(section, line);) {
         if (line.ends_with('\r')) line.pop_back();
         const std::size_t equals = line.find('=');
-        if (line == "[Halvenmoor]") {
-            inSection = true;
-        } else if (inSection && equals != std::string::npos && !line.starts_with(';')) {
+        if (equals != std::string::npos && !line.starts_with(';'))
             entries.emplace(line.substr(0, equals), line.substr(equals + 1));
-        }
     }
     return entries;
 }
 
-std::string WithoutMarks(std::string value) {
-    value.erase(std::remove(value.begin(), value.end(), '#'), value.end());
-    return value;
-}
-
 TEST_F(NamesTest, EveryLanguageThatComesWithTheProgramIsComplete) {
-    std::multiset<std::string> known;
-    for (const auto* text : names.Texts()) known.emplace(text->Key());
-    for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
+    for (const auto& file : std::filesystem::directory_iterator(kLanguages)) {
         SCOPED_TRACE(file.path());
-        const std::multimap<std::string, std::string> entries = EntriesOf(file);
-        std::multiset<std::string> keys;
-        for (const auto& [key, value] : entries) {
-            keys.insert(key);
+        program.memory.Put("/p/lang/test.ini", BytesOf(file));
+        const std::multimap<std::string, std::string> entries = EntriesOf(BytesOf(file));
+        EXPECT_EQ(entries.size(), names.Texts().size());
+        for (const auto* text : names.Texts()) {
+            const std::string key(text->Key());
+            ASSERT_EQ(entries.count(key), 1u) << key;
+            std::string value = entries.find(key)->second;
             EXPECT_LE(text::CharacterCount(value), 254U) << key;
             EXPECT_TRUE(text::IsValidUtf8(value)) << key;
-            EXPECT_NE(WithoutMarks(value), "") << key;
-        }
-        EXPECT_EQ(keys, known);
-        std::ifstream stream(file.path(), std::ios::binary);
-        program.memory.Put("/p/lang/test.ini", std::string(std::istreambuf_iterator<char>(stream), {}));
-        for (const auto* text : names.Texts()) {
-            const auto entry = entries.find(std::string(text->Key()));
-            if (entry == entries.end()) continue;
-            EXPECT_EQ((*text)(), WithoutMarks(entry->second)) << "letters show as the file has them";
+            value.erase(std::remove(value.begin(), value.end(), '#'), value.end());
+            EXPECT_NE(value, "") << key;
+            EXPECT_EQ((*text)(), value) << "letters show as the file has them";
         }
     }
 }
 
 TEST(LanguagesTest, ThoseThatComeWithTheProgramAreOfferedByTheirOwnNames) {
     TestProgram program;
-    for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
+    for (const auto& file : std::filesystem::directory_iterator(kLanguages)) {
         program.AddLanguage(file.path().stem().string(), "");
     }
     program.Start();

@@ -1,16 +1,14 @@
 #include "files_test_helpers.h"
-#include "import/ov2_import.h"
 #include "import/ov2_record.h"
 #include "import_program.h"
+#include "temporary_folder.h"
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <limits>
 
 namespace halvenmoor {
 namespace {
 
+using namespace std::string_literals;
 using Kind = Ov2Record::Kind;
 constexpr int kOv2 = ImportProgram::kOv2;
 
@@ -36,30 +34,25 @@ std::string LineOf(const std::string& name) {
     return "1.50000, 52.50000, \"" + name + "\"\r\n";
 }
 
-std::string TestData(const std::string& name) {
-    std::ifstream file(HALVENMOOR_TEST_DATA "/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 TEST(Ov2RecordTest, LengthsAtTheirLimits) {
     const std::int64_t most = std::numeric_limits<std::int32_t>::max();
-    for (const char type : {'\0', '\2', '\3'}) {
-        for (const std::int64_t length :
-             {std::int64_t{0}, std::int64_t{4}, std::int64_t{5}, std::int64_t{12}, std::int64_t{13},
-              std::int64_t{14}, most, std::int64_t{-1}, -most - 1}) {
-            const bool isBad = length < (type == 0 ? 5 : 14);
-            const Kind whole = type == 0 ? Kind::Deleted : Kind::Point;
-            const Kind expected = isBad ? Kind::BadLength : length == most ? Kind::Cut : whole;
-            EXPECT_EQ(DecodeOv2Record(Record(type, length, std::string(35, 'x')), 0).kind, expected)
-                << int{type} << ' ' << length;
-            // A length that shows as bad fails its file even if that ends right behind it.
-            EXPECT_EQ(DecodeOv2Record(Record(type, length), 0).kind, isBad ? Kind::BadLength
-                                                                     : type == 0 && length == 5
-                                                                         ? Kind::Deleted
-                                                                         : Kind::Cut)
-                << int{type} << ' ' << length;
+    const auto expectKinds = [](const std::string& types, const std::vector<std::int64_t>& lengths,
+                                Kind followed, Kind last) {
+        for (const char type : types) {
+            for (const std::int64_t length : lengths) {
+                SCOPED_TRACE(std::to_string(type) + ' ' + std::to_string(length));
+                EXPECT_EQ(DecodeOv2Record(Record(type, length, std::string(35, 'x')), 0).kind, followed);
+                EXPECT_EQ(DecodeOv2Record(Record(type, length), 0).kind, last);
+            }
         }
-    }
+    };
+    // A length that shows as bad fails its file even if that ends right behind it.
+    expectKinds("\0"s, {0, 4, -1, -most - 1}, Kind::BadLength, Kind::BadLength);
+    expectKinds("\2\3", {0, 4, 5, 12, 13, -1, -most - 1}, Kind::BadLength, Kind::BadLength);
+    expectKinds("\0"s, {5}, Kind::Deleted, Kind::Deleted);
+    expectKinds("\0"s, {12, 13, 14}, Kind::Deleted, Kind::Cut);
+    expectKinds("\2\3", {14}, Kind::Point, Kind::Cut);
+    expectKinds("\0\2\3"s, {most}, Kind::Cut, Kind::Cut);
 }
 
 TEST(Ov2RecordTest, CoordinatesKeepEachDigit) {
@@ -81,7 +74,6 @@ TEST(Ov2RecordTest, CoordinatesKeepEachDigit) {
 }
 
 TEST(Ov2RecordTest, NamesAreCleaned) {
-    using namespace std::string_literals;
     const std::pair<std::string, const char*> cases[] = {
         {"x", R"("")"},  // only the byte that is dropped
         {"   x", R"("")"},
@@ -105,9 +97,9 @@ TEST(Ov2RecordTest, NamesAreCleaned) {
 
 TEST(Ov2ImportTest, FilesOfAnotherProgram) {
     ImportProgram program;
-    program.AddOv2("places", TestData("places.ov2"));
-    program.memory.Put("/p/import/ov2/Madrid.v2.OV2", TestData("madrid.ov2"));
-    program.memory.Put("/p/import/ov2/madrid.gpx", TestData("madrid.gpx"));
+    program.AddOv2("places", BytesOf(HALVENMOOR_TEST_DATA "/places.ov2"));
+    program.memory.Put("/p/import/ov2/Madrid.v2.OV2", BytesOf(HALVENMOOR_TEST_DATA "/madrid.ov2"));
+    program.memory.Put("/p/import/ov2/madrid.gpx", BytesOf(HALVENMOOR_TEST_DATA "/madrid.gpx"));
     EXPECT_EQ(program.Import(kOv2), "PictureFinished");
     EXPECT_EQ(program.Camera("places"), kHeader +
                                             "13.37700, 52.51600, \"Berlin; Pariser Platz\"\r\n"
@@ -119,15 +111,14 @@ TEST(Ov2ImportTest, FilesOfAnotherProgram) {
 }
 
 TEST(Ov2ImportTest, LayoutFollowsTheSettings) {
-    const std::string sources = kDeleted + kSkipper + Point("a") + Point("b", -1, 0, 3);
-    const auto imported = [&](std::string_view iniFile) {
+    const auto imported = [](std::string_view iniFile) {
         ImportProgram program(iniFile);
-        program.AddOv2("a", sources);
+        program.AddOv2("a", kDeleted + kSkipper + Point("a") + Point("b", -1, 0, 3));
         EXPECT_EQ(program.Import(kOv2), "PictureFinished");
         return program.Camera("a");
     };
-    EXPECT_EQ(imported("[Settings]\nSourceStructure=1\n"),
-              kHeader + LineOf("a") + "-0.00001, 0.00000, \"b\"\r\n");
+    const std::string plain = kHeader + LineOf("a") + "-0.00001, 0.00000, \"b\"\r\n";
+    EXPECT_EQ(imported("[Settings]\nSourceStructure=1\n"), plain);
     const std::string lines = "\r\n\r\n1.50000, 52.50000, \"a\", 0, 0\r\n-0.00001, 0.00000, \"b\", 0, 0\r\n";
     EXPECT_EQ(imported("[Settings]\nSourceStructure=2\n"),
               "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction)." + lines);
@@ -205,62 +196,6 @@ TEST(Ov2ImportTest, ManyPiecesAndLongNames) {
     program.AddOv2("a", source + Point(longName) + Point("end"));
     EXPECT_EQ(program.Import(kOv2), "PictureFinished");
     EXPECT_TRUE(program.Camera("a") == expected + LineOf(longName) + LineOf("end"));
-}
-
-/// A file that tells the largest piece that was asked of it.
-class WatchedFiles : public headless::MemoryFiles {
-public:
-    std::size_t LargestRead = 0;
-
-    std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view path) override {
-        return std::make_unique<Reader>(*this, MemoryFiles::OpenBytes(path));
-    }
-
-private:
-    class Reader : public platform::ByteReader {
-    public:
-        Reader(WatchedFiles& files, std::unique_ptr<ByteReader> reader)
-            : files_(files), reader_(std::move(reader)) {}
-        std::size_t Read(std::span<char> buffer) override {
-            files_.LargestRead = std::max(files_.LargestRead, buffer.size());
-            return reader_->Read(buffer);
-        }
-        std::uint64_t Remaining() const override { return reader_->Remaining(); }
-
-    private:
-        WatchedFiles& files_;
-        std::unique_ptr<ByteReader> reader_;
-    };
-};
-
-struct NoProgress : ImportProgress {
-    void Turn() override {}
-    bool StopRequested() const override { return false; }
-    void FileDone() override {}
-    void RecordsAdded(std::int32_t) override {}
-};
-
-TEST(Ov2ImportTest, NoRoomIsMadeForWhatIsNotThere) {
-    ImportProgram program;
-    WatchedFiles files;
-    files.AddFolder("/asc");
-    for (const char type : {'\0', '\2', '\3'}) {
-        files.Put("/ov2/a.ov2", Point("n") + Record(type, std::numeric_limits<std::int32_t>::max(), "x"));
-        NoProgress progress;
-        const platform::Platform& services = program.core.Services();
-        const platform::Platform watched{files,
-                                         files,
-                                         services.application,
-                                         services.clock,
-                                         services.settings,
-                                         services.messages,
-                                         services.fileDialogs,
-                                         services.theme,
-                                         services.locale};
-        EXPECT_EQ(ConvertOv2Files({watched, progress, "/ov2/", "/asc/", 1}), 0);
-        EXPECT_EQ(files.Text("/asc/a.asc"), kHeader + LineOf("n"));
-        EXPECT_LE(files.LargestRead, 65536u);
-    }
 }
 
 }  // namespace

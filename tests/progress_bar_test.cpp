@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <map>
 #include <memory>
 
 namespace halvenmoor {
@@ -22,6 +23,8 @@ constexpr Color blue = Rgb(0, 0, 255);
 // The system colours of FixedTheme.
 constexpr Color shadow = Rgb(128, 128, 128);
 constexpr Color light = Rgb(254, 254, 254);
+constexpr Color face = Rgb(192, 192, 192);
+constexpr Color highlight = Rgb(0, 0, 128);
 
 /// Pixels that also remember the last text.
 struct Paper : headless::MemoryCanvas {
@@ -68,13 +71,18 @@ protected:
         bar.SetBarColor(red);
     }
 
-    /// The colours of a row from left to right, without the frame; each run of a colour once.
-    std::vector<Color> RunsOfRow(int y) const {
-        std::vector<Color> runs;
-        for (int x = 1; x < 99; ++x) {
-            if (runs.empty() || runs.back() != paper.At(x, y)) runs.push_back(paper.At(x, y));
+    /// The colours of a row from left to right, each with the number of its pixels.
+    std::string Row(int y) const {
+        static const std::map<Color, std::string> names{
+            {black, "black"}, {white, "white"},   {red, "red"},   {green, "green"},        {blue, "blue"},
+            {light, "light"}, {shadow, "shadow"}, {face, "face"}, {highlight, "highlight"}};
+        std::string row;
+        for (int x = 0, begin = 0; x < 100; ++x) {
+            if (x < 99 && paper.At(x, y) == paper.At(x + 1, y)) continue;
+            row += (begin > 0 ? ", " : "") + std::to_string(x + 1 - begin) + ' ' + names.at(paper.At(x, y));
+            begin = x + 1;
         }
-        return runs;
+        return row;
     }
 
     Paper paper{{0, 0, 100 * 15, 20 * 15}};
@@ -93,14 +101,8 @@ TEST_F(ProgressBarTest, TextColoursMeetAtTheEdgeOfTheBar) {
     EXPECT_EQ(paper.LastText, "50%");
     EXPECT_EQ(bar.Percent(), 50.0);
     // The text is 21 pixels wide and 9 high: from 39 to 60, and from 5 to 14.
-    EXPECT_EQ(RunsOfRow(10), (std::vector<Color>{red, white, black, green}));
-    EXPECT_EQ(RunsOfRow(4), (std::vector<Color>{red, green}));
-    EXPECT_EQ(paper.At(38, 10), red);
-    EXPECT_EQ(paper.At(39, 10), white);
-    EXPECT_EQ(paper.At(49, 10), white);
-    EXPECT_EQ(paper.At(50, 10), black);
-    EXPECT_EQ(paper.At(59, 10), black);
-    EXPECT_EQ(paper.At(60, 10), green);
+    EXPECT_EQ(Row(10), "1 shadow, 38 red, 11 white, 10 black, 39 green, 1 light");
+    EXPECT_EQ(Row(4), "1 shadow, 49 red, 49 green, 1 light");
 }
 
 TEST_F(ProgressBarTest, HalvesGoToTheEvenNeighbour) {
@@ -109,14 +111,15 @@ TEST_F(ProgressBarTest, HalvesGoToTheEvenNeighbour) {
         int value;
         double percent;
         const char* text;
-        int edge;  // the first pixel right of the bar, 100 pixels being the whole
-    } cases[] = {{25, 12.5, "12%", 12}, {27, 13.5, "14%", 14}, {26, 13, "13%", 13}};
+        const char* row;
+    } cases[] = {{25, 12.5, "12%", "1 shadow, 11 red, 87 green, 1 light"},
+                 {27, 13.5, "14%", "1 shadow, 13 red, 85 green, 1 light"},
+                 {26, 13, "13%", "1 shadow, 12 red, 86 green, 1 light"}};
     for (const auto& test : cases) {
         bar.SetValue(test.value);
         EXPECT_EQ(bar.Percent(), test.percent);
         EXPECT_EQ(paper.LastText, test.text);
-        EXPECT_EQ(paper.At(test.edge - 1, 2), red) << test.value;
-        EXPECT_EQ(paper.At(test.edge, 2), green) << test.value;
+        EXPECT_EQ(Row(2), test.row);
     }
 }
 
@@ -126,27 +129,19 @@ TEST_F(ProgressBarTest, ValuesOutsideTheRangeGiveAnEmptyAndAFullBar) {
     bar.SetValue(-201);
     EXPECT_EQ(paper.LastText, "0%");
     EXPECT_EQ(bar.Percent(), 0.0);
-    EXPECT_EQ(RunsOfRow(10), (std::vector<Color>{green, black, green}));
+    EXPECT_EQ(Row(10), "1 shadow, 42 green, 14 black, 42 green, 1 light");
     bar.SetValue(201);
     EXPECT_EQ(paper.LastText, "100%");
     EXPECT_EQ(bar.Percent(), 100.0);
-    EXPECT_EQ(RunsOfRow(10), (std::vector<Color>{red, white, red}));
+    EXPECT_EQ(Row(10), "1 shadow, 35 red, 28 white, 35 red, 1 light");
 }
 
 TEST_F(ProgressBarTest, FrameIsSunkenAndLeavesOutTheLastPixelOfItsLines) {
     ShowBar();
-    for (int x = 1; x < 99; ++x) {
-        EXPECT_EQ(paper.At(x, 0), shadow);
-        EXPECT_EQ(paper.At(x, 19), light);
-    }
-    for (int y = 1; y < 19; ++y) {
-        EXPECT_EQ(paper.At(0, y), shadow);
-        EXPECT_EQ(paper.At(99, y), light);
-    }
-    EXPECT_EQ(paper.At(0, 0), shadow);
-    EXPECT_EQ(paper.At(99, 0), shadow);
-    EXPECT_EQ(paper.At(0, 19), shadow) << "the bottom line ends before its last pixel";
-    EXPECT_EQ(paper.At(99, 19), light);
+    EXPECT_EQ(Row(0), "100 shadow");
+    EXPECT_EQ(Row(1), "1 shadow, 98 green, 1 light");
+    EXPECT_EQ(Row(18), "1 shadow, 98 green, 1 light");
+    EXPECT_EQ(Row(19), "1 shadow, 99 light") << "the bottom line ends before its last pixel";
 }
 
 TEST_F(ProgressBarTest, InitialColoursFillNothingAndNoTextIsDrawnUnlessWanted) {
@@ -154,12 +149,12 @@ TEST_F(ProgressBarTest, InitialColoursFillNothingAndNoTextIsDrawnUnlessWanted) {
     EXPECT_EQ(paper.Refreshes(), 0) << "handing over the box draws nothing";
     EXPECT_FALSE(box.Bordered());
     bar.SetValue(50);
-    EXPECT_EQ(RunsOfRow(10), std::vector<Color>{blue});
+    EXPECT_EQ(Row(10), "1 shadow, 98 blue, 1 light");
     EXPECT_EQ(paper.LastText, "");
     EXPECT_EQ(bar.Percent(), 50.0);
     bar.SetBackColor(forms::kButtonFace);
     bar.SetBarColor(forms::kHighlight);
-    EXPECT_EQ(RunsOfRow(10), (std::vector<Color>{Rgb(0, 0, 128), Rgb(192, 192, 192)}));
+    EXPECT_EQ(Row(10), "1 shadow, 49 highlight, 49 face, 1 light");
     EXPECT_EQ(paper.Refreshes(), 3) << "each change is on the screen at once";
 }
 

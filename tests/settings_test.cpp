@@ -37,11 +37,9 @@ TEST_F(SettingsTest, EmptyFileGivesListsWithoutElements) {
     const cSettingsClass settings = Read("");
     EXPECT_EQ(settings.SourceStructure(), 2);
     EXPECT_EQ(Elements(settings.UnitSearchPatterns()), Strings{});
-    EXPECT_TRUE(IsArrayEmpty(settings.TypeFileNamePatterns()[0]));
-    EXPECT_TRUE(IsArrayEmpty(settings.TypeSearchPatterns()[0]));
-    for (std::size_t type = 1; type <= 5; ++type) {
-        EXPECT_EQ(Elements(settings.TypeFileNamePatterns()[type]), Strings{});
-        EXPECT_EQ(Elements(settings.TypeSearchPatterns()[type]), Strings{});
+    for (const auto* table : {&settings.TypeFileNamePatterns(), &settings.TypeSearchPatterns()}) {
+        EXPECT_TRUE(IsArrayEmpty((*table)[0]));
+        for (std::size_t type = 1; type <= 5; ++type) EXPECT_EQ(Elements((*table)[type]), Strings{});
     }
 }
 

@@ -1,13 +1,21 @@
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
+#include <vector>
 
 namespace halvenmoor {
+
+inline std::string BytesOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + path.string());
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// A fresh folder on the disk, deleted with all that is in it at the end.
 class TemporaryFolder {
@@ -40,11 +48,16 @@ public:
         }
     }
 
-    std::string Text(const std::string& name) const {
-        std::ifstream file(*this / name, std::ios::binary);
-        if (!file) throw std::runtime_error("cannot read " + name);
-        return {std::istreambuf_iterator<char>(file), {}};
+    /// The names of what is directly in it, sorted.
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
     }
+
+    std::string Text(const std::string& name) const { return BytesOf(*this / name); }
 
 private:
     std::string path_;

@@ -87,9 +87,7 @@ TEST(Decoding, ReadsEachTextByItsOwnEncoding) {
     EXPECT_EQ(CharacterCount("K\xF6ln"), 4U);
     EXPECT_TRUE(IsAscii("0123456789~"));
     EXPECT_FALSE(IsAscii("0123456789\x80"));
-    EXPECT_FALSE(
-        IsAscii("\x80"
-                "0123456789"));
+    EXPECT_FALSE(IsAscii("\x80----------"));
 }
 
 TEST(LetterCase, KnowsLatinGreekAndCyrillicPairs) {
@@ -151,11 +149,7 @@ TEST(Comparing, FindsEndings) {
     EXPECT_EQ(WithoutEnding("mph", "MPH", western), "");
     EXPECT_EQ(WithoutEnding("x", "", western), "x");
     EXPECT_EQ(WithoutEnding("Ж60КМ/Ч", "\xEA\xEC/\xF7", WindowsCodePage(1251)), "Ж60");
-    EXPECT_EQ(WithoutEnding("\xC6"
-                            "60\xCA\xCC/\xD7",
-                            "км/ч", WindowsCodePage(1251)),
-              "\xC6"
-              "60");
+    EXPECT_EQ(WithoutEnding("\xC6-\xCA\xCC/\xD7", "км/ч", WindowsCodePage(1251)), "\xC6-");
     EXPECT_EQ(WithoutEnding("ph", "mph", western), std::nullopt);
     EXPECT_EQ(WithoutEnding("70mp", "mph", western), std::nullopt);
 }

@@ -5,9 +5,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QListView>
-#include <QTest>
-#include <QTimer>
+#include <map>
 
 namespace halvenmoor::qt {
 namespace {
@@ -25,33 +23,16 @@ QString LabelOf(const forms::Control& control) {
     return {};
 }
 
-QAccessible::Role RoleOf(forms::Kind kind) {
-    switch (kind) {
-        case forms::Kind::Label:
-            return QAccessible::StaticText;
-        case forms::Kind::Frame:
-            return QAccessible::Grouping;
-        case forms::Kind::CommandButton:
-            return QAccessible::Button;
-        case forms::Kind::CheckBox:
-            return QAccessible::CheckBox;
-        case forms::Kind::OptionButton:
-            return QAccessible::RadioButton;
-        case forms::Kind::ListBox:
-            return QAccessible::List;
-        case forms::Kind::ComboBox:
-            return QAccessible::ComboBox;
-        case forms::Kind::PictureBox:
-            return QAccessible::Graphic;
-        case forms::Kind::TextBox:
-            return QAccessible::EditableText;
-    }
-    return QAccessible::NoRole;
-}
+const std::map<forms::Kind, QAccessible::Role> kRoles{
+    {forms::Kind::Label, QAccessible::StaticText},         {forms::Kind::Frame, QAccessible::Grouping},
+    {forms::Kind::CommandButton, QAccessible::Button},     {forms::Kind::CheckBox, QAccessible::CheckBox},
+    {forms::Kind::OptionButton, QAccessible::RadioButton}, {forms::Kind::ListBox, QAccessible::List},
+    {forms::Kind::ComboBox, QAccessible::ComboBox},        {forms::Kind::PictureBox, QAccessible::Graphic},
+    {forms::Kind::TextBox, QAccessible::EditableText}};
 
 void ExpectAllNamed(forms::Form& form) {
     form.Owner().Yield();
-    const auto* const window = QAccessible::queryAccessibleInterface(dynamic_cast<QWidget*>(form.View()));
+    const auto* const window = QAccessible::queryAccessibleInterface(&WidgetOf(form));
     const bool isMain = form.AtDesign().name == "frmMain";
     EXPECT_EQ(window->role(), isMain ? QAccessible::Window : QAccessible::Dialog);
     EXPECT_EQ(window->text(QAccessible::Name).toStdString(), form.Caption());
@@ -59,7 +40,7 @@ void ExpectAllNamed(forms::Form& form) {
         if (!control->Visible()) continue;
         const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));
         ASSERT_NE(told, nullptr) << control->Name();
-        EXPECT_EQ(told->role(), RoleOf(control->Kind())) << control->Name();
+        EXPECT_EQ(told->role(), kRoles.at(control->Kind())) << control->Name();
         const bool isNamedByChoice = control->Kind() == forms::Kind::ComboBox;
         const QString name = isNamedByChoice ? LabelOf(*control) : told->text(QAccessible::Name);
         EXPECT_EQ(name.toStdString(), control->AccessibleName());
@@ -90,14 +71,12 @@ class Keyboard : public ProgramWindows {
 protected:
     Keyboard() {
         memory.Put("/p/Settings.ini", "[Type1]\nfixed*\n");
-        memory.Put("/p/demo/asc_demo/One 50.asc", "1.5, 2.5, \"one\"\n");
-        memory.Put("/p/demo/asc_demo/Two 70.asc", "3.5, 4.5, \"two\"\n");
+        AddDemoFile("One 50", "1.5, 2.5, \"one\"\n");
+        AddDemoFile("Two 70", "3.5, 4.5, \"two\"\n");
         memory.AddFolder("/p/demo/txt_demo");
-        program.Start();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+        StartActive();
     }
 
-    frmMain& Form() { return program.MainForm(); }
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
     }
@@ -125,18 +104,9 @@ TEST_F(Keyboard, DoesTheWholeJob) {
     Press(Qt::Key_5, Qt::AltModifier);
     EXPECT_EQ(Form().TypeList[5].ListCount(), 1);
 
-    bool closedResults = false;
-    QTimer watcher;
-    QObject::connect(&watcher, &QTimer::timeout, [&] {
-        QWidget* const front = QApplication::activeModalWidget();
-        if (front == nullptr || front->objectName() != "frmResults") return;
-        closedResults = true;
-        QTest::keyClick(front, Qt::Key_Escape);
-    });
-    watcher.start(20);
+    const Meeting results("frmResults", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
     TabTo(Form().ButtonExportCameras);
     Press(Qt::Key_Space);
-    EXPECT_TRUE(closedResults);
     EXPECT_EQ(memory.Text("/p/demo/txt_demo/SpeedCamText.txt"),
               "X,Y,TYPE,SPEED,DirType,Direction\r\n1.5,2.5,2,50,0,0\r\n3.5,4.5,5,70,0,0\r\n");
     EXPECT_NE(Form().ActiveControl(), nullptr) << "the focus is back in the main window";

@@ -4,21 +4,15 @@
 #include "export/frmResults.h"
 #include "import/frmImport.h"
 #include "program_fixture.h"
+#include "tests/temporary_folder.h"
 #include "ui/cNamesClass.h"
 #include "ui/frmRename.h"
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <utility>
 
 namespace halvenmoor::qt {
-
-inline QWidget& WidgetOf(const forms::Control& control) {
-    auto& window = dynamic_cast<QWidget&>(*control.Owner().View());
-    return *window.findChild<QWidget*>(QString::fromStdString(control.Name()));
-}
 
 /// A window that is looked at and closes, in place of what it does otherwise.
 template <class Window>
@@ -43,16 +37,12 @@ class AllWindows : public ProgramWindows {
 protected:
     AllWindows() {
         for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-            std::ifstream bytes(file.path(), std::ios::binary);
-            memory.Put("/p/lang/" + file.path().filename().string(),
-                       std::string(std::istreambuf_iterator<char>(bytes), {}));
+            memory.Put("/p/lang/" + file.path().filename().string(), BytesOf(file));
         }
-        memory.Put("/p/demo/asc_demo/camera.asc", "");
+        AddDemoFile("camera", "");
         program.Start();
         Form().MainList.UserSelect({0}, 0);
     }
-
-    frmMain& Form() { return program.MainForm(); }
 
     template <class Window, class... Arguments>
     void Look(const std::function<void(Window&)>& prepare, Arguments&&... arguments) {

@@ -6,9 +6,8 @@
 #include "platform/qt/conversions.h"
 
 #include <QFontInfo>
-#include <QTextDocumentFragment>
+#include <map>
 #include <set>
-#include <utility>
 
 namespace halvenmoor::qt {
 namespace {
@@ -17,25 +16,17 @@ QString ShownText(const forms::Control& control) {
     return WidgetOf(control).property(control.Kind() == forms::Kind::Frame ? "title" : "text").toString();
 }
 
-QString ToolTipText(const QWidget& widget) {
-    return QTextDocumentFragment::fromHtml(widget.toolTip()).toPlainText();
-}
-
 TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
-    const std::pair<forms::Control*, const char*> cases[] = {{&form.label, "label"},
-                                                             {&form.frame, "frame"},
-                                                             {&form.first, "button"},
-                                                             {&form.check, "check box"},
-                                                             {&form.optionA, "option button"}};
-    for (const auto& [control, kind] : cases) {
-        SCOPED_TRACE(kind);
+    for (forms::Control* const control : std::initializer_list<forms::Control*>{
+             &form.label, &form.frame, &form.first, &form.check, &form.optionA}) {
+        SCOPED_TRACE(control->Name());
         const QWidget& widget = WidgetOf(*control);
         std::string caption;
-        const auto lengthen = [&, shown = control] {
-            shown->SetCaption(caption += "i");
+        const auto lengthen = [&] {
+            control->SetCaption(caption += "i");
             desktop.Yield();
         };
-        const auto isWhole = [&, shown = control] { return ShownText(*shown).toStdString() == caption; };
+        const auto isWhole = [&] { return ShownText(*control).toStdString() == caption; };
         do lengthen();
         while (widget.font().stretch() == 100 && caption.size() < 80);
         EXPECT_TRUE(isWhole());
@@ -46,11 +37,11 @@ TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
         EXPECT_GT(caption.size(), atFirst + 2);
         EXPECT_EQ(widget.font().stretch(), 85);
         EXPECT_TRUE(ShownText(*control).endsWith(u"i\u2026"));
-        EXPECT_EQ(ToolTipText(widget).toStdString(), caption);
+        EXPECT_EQ(ToolTipOf(widget).toStdString(), caption);
 
         control->SetToolTip("own");
         desktop.Yield();
-        EXPECT_EQ(ToolTipText(widget), "own");
+        EXPECT_EQ(ToolTipOf(widget), "own");
         control->SetToolTip("");
         control->SetCaption("i");
         desktop.Yield();
@@ -70,40 +61,24 @@ TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
     EXPECT_EQ(FitCaption(caption, font, {1, 26}, Qt::TextSingleLine).text, u"\u2026");
 }
 
-/// The place of a caption in its control, estimated with care.
-QRect RoomOf(const forms::Control& control) {
-    const QWidget& widget = WidgetOf(control);
-    switch (control.Kind()) {
-        case forms::Kind::Frame:
-            return widget.rect().adjusted(11, 0, -11, 0);
-        case forms::Kind::CommandButton:
-            return widget.rect().adjusted(4, 4, -4, -4);
-        case forms::Kind::CheckBox:
-        case forms::Kind::OptionButton:
-            return widget.rect().adjusted(20, 0, 0, 0);
-        default:
-            return widget.contentsRect();
-    }
-}
-
-bool IsOneLine(forms::Kind kind) {
-    return kind == forms::Kind::Frame || kind == forms::Kind::CommandButton;
-}
-
-bool HasCaption(const forms::Control& control) {
-    const forms::Kind kind = control.Kind();
-    return (IsOneLine(kind) || kind == forms::Kind::Label || kind == forms::Kind::CheckBox ||
-            kind == forms::Kind::OptionButton) &&
-           control.AtDesign().glyph == forms::Glyph::None;
-}
+/// What lies around the captions of each kind of control, estimated with care.
+const std::map<forms::Kind, QMargins> kBorders{{forms::Kind::Label, {}},
+                                               {forms::Kind::Frame, {11, 0, 11, 0}},
+                                               {forms::Kind::CommandButton, {4, 4, 4, 4}},
+                                               {forms::Kind::CheckBox, {20, 0, 0, 0}},
+                                               {forms::Kind::OptionButton, {20, 0, 0, 0}}};
 
 void ExpectAllFits(forms::Form& form) {
     form.Owner().Yield();
     for (const forms::Control* control : form.Controls()) {
-        if (!HasCaption(*control)) continue;
+        const forms::Kind kind = control->Kind();
+        const auto borders = kBorders.find(kind);
+        if (borders == kBorders.end() || control->AtDesign().glyph != forms::Glyph::None) continue;
         const QWidget& widget = WidgetOf(*control);
-        const QRect room = RoomOf(*control);
-        const auto lines = IsOneLine(control->Kind()) ? Qt::TextSingleLine : Qt::TextWordWrap;
+        const QRect whole = kind == forms::Kind::Label ? widget.contentsRect() : widget.rect();
+        const QRect room = whole.marginsRemoved(borders->second);
+        const bool isOneLine = kind == forms::Kind::Frame || kind == forms::Kind::CommandButton;
+        const auto lines = isOneLine ? Qt::TextSingleLine : Qt::TextWordWrap;
         const QRect words = QFontMetrics(widget.font()).boundingRect(room, lines, ShownText(*control));
         EXPECT_EQ(ShownText(*control).toStdString(), control->Caption()) << control->Name();
         EXPECT_TRUE(room.contains(words))
@@ -111,7 +86,7 @@ void ExpectAllFits(forms::Form& form) {
             << room.width() << " x " << room.height();
         EXPECT_GE(widget.font().stretch(), 85) << control->Caption();
     }
-    const auto& window = dynamic_cast<QWidget&>(*form.View());
+    const QWidget& window = WidgetOf(form);
     EXPECT_LE(window.fontMetrics().horizontalAdvance(window.windowTitle()), window.width());
 }
 

@@ -5,7 +5,6 @@
 #include <QScrollBar>
 
 namespace halvenmoor::qt {
-
 namespace {
 
 class Lists : public Window {
@@ -13,13 +12,14 @@ protected:
     Lists() {
         form.left.AddItems({"a", "b", "c", "d", "e"});
         form.right.AddItems({"x", "y"});
+        form.right.OnDragDrop = [this] { form.heard.push_back("drop"); };
+        form.left.OnCompleteDrag = [this] { form.heard.push_back("complete"); };
         desktop.Yield();
     }
 
     QListView& Left() { return Find<QListView>("left"); }
-    QPoint Row(QListView& list, int row) { return list.visualRect(list.model()->index(row, 0)).center(); }
     void ClickRow(int row, Qt::KeyboardModifiers keys = {}) {
-        QTest::mouseClick(Left().viewport(), Qt::LeftButton, keys, Row(Left(), row));
+        QTest::mouseClick(Left().viewport(), Qt::LeftButton, keys, CentreOfRow(Left(), row));
     }
     void Press(Qt::Key key, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(&Left(), key, keys); }
     std::string Selected() {
@@ -120,7 +120,7 @@ TEST_F(Lists, MoveItemsByDragging) {
     ClickRow(1);
     ClickRow(2, Qt::ShiftModifier);
     Heard();
-    const QPoint from = Row(Left(), 1);
+    const QPoint from = CentreOfRow(Left(), 1);
     QTest::mousePress(Left().viewport(), Qt::LeftButton, {}, from);
     QTest::mouseMove(Left().viewport(), from + QPoint(0, 5));
     QTest::mouseMove(Left().viewport(), from + QPoint(0, 40));
@@ -141,5 +141,4 @@ TEST_F(Lists, RefuseDropsFromElsewhere) {
 }
 
 }  // namespace
-
 }  // namespace halvenmoor::qt

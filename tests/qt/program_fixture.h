@@ -10,12 +10,55 @@
 
 namespace halvenmoor::qt {
 
+/// The window of this name, if it shows.
+inline QWidget* ShownWindow(const char* name) {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == name && window->isVisible()) return window;
+    }
+    return nullptr;
+}
+
+/// Does something in a window once it shows, which it must.
+class Meeting {
+public:
+    Meeting(const char* name, std::function<void(QWidget& window)> act) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, name, act = std::move(act)] {
+            QWidget* const window = ShownWindow(name);
+            if (window == nullptr) return;
+            timer_.stop();
+            hasMet_ = true;
+            act(*window);
+        });
+        timer_.start(20);
+    }
+    ~Meeting() { EXPECT_TRUE(hasMet_); }
+
+private:
+    QTimer timer_;
+    bool hasMet_ = false;
+};
+
 /// The program's real windows over files in memory, in the folder /p. The test starts it.
 class ProgramWindows : public testing::Test {
 protected:
     ~ProgramWindows() override { program.MainForm().UserClose(); }
 
-    QWidget& Main() { return *dynamic_cast<QWidget*>(program.MainForm().View()); }
+    frmMain& Form() { return program.MainForm(); }
+    QWidget& Main() { return WidgetOf(Form()); }
+    void AddDemoFile(const std::string& entry, const std::string& text) {
+        memory.Put("/p/demo/asc_demo/" + entry + ".asc", text);
+    }
+    void StartActive() {
+        program.Start();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+    }
+    static void Click(const forms::Control& control) {
+        QTest::mouseClick(&WidgetOf(control), Qt::LeftButton);
+    }
+    static void ClickRow(const forms::ListBox& list, int row) {
+        auto& view = dynamic_cast<QListView&>(WidgetOf(list));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, CentreOfRow(view, row));
+    }
 
     headless::MemoryFiles memory;
     headless::FixedApplication application{"/p"};

@@ -4,62 +4,54 @@
 #include <QScrollBar>
 
 namespace halvenmoor::qt {
-
 namespace {
 
 /// The main window with 80 files in its list: "camera 10" to "camera 89".
 class RenameWindow : public ProgramWindows {
 protected:
     RenameWindow() {
-        for (int i = 10; i < 90; ++i) memory.Put(PathOf("camera " + std::to_string(i)), "");
-        program.Start();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
+        for (int i = 10; i < 90; ++i) AddDemoFile("camera " + std::to_string(i), "");
+        StartActive();
     }
 
-    static std::string PathOf(const std::string& entry) { return "/p/demo/asc_demo/" + entry + ".asc"; }
-    QListView& List() { return *Main().findChild<QListView*>("MainList"); }
-    QRect RowOnScreen(int row) {
-        const QRect place = List().visualRect(List().model()->index(row, 0));
-        return {List().viewport()->mapToGlobal(place.topLeft()), place.size()};
-    }
+    bool HasFile(const std::string& entry) { return memory.Has("/p/demo/asc_demo/" + entry + ".asc"); }
+    QListView& List() { return dynamic_cast<QListView&>(WidgetOf(Form().MainList)); }
 
     /// Windows become active one after the other.
     static bool GetsFocus(const QWidget& widget) {
         return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
     }
+    static void PressInFocus(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
     /// Scrolls the list, clicks the row and the button, and acts in the dialog, which closes in any case.
     void Rename(int topRow, int row, const std::function<void(QWidget& dialog, QLineEdit& field)>& action) {
         List().verticalScrollBar()->setValue(topRow);
-        QTest::mouseClick(List().viewport(), Qt::LeftButton, {},
-                          List().visualRect(List().model()->index(row, 0)).center());
-        bool opened = false;
-        QTimer::singleShot(0, [&] {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            ASSERT_NE(dialog, nullptr);
-            opened = true;
-            auto& field = *dialog->findChild<QLineEdit*>("TextFileName");
+        ClickRow(Form().MainList, row);
+        const Meeting meeting("frmRename", [&action](QWidget& dialog) {
+            auto& field = *dialog.findChild<QLineEdit*>("TextFileName");
             EXPECT_TRUE(GetsFocus(field));
-            action(*dialog, field);
-            if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
-            EXPECT_FALSE(dialog->isVisible());
+            action(dialog, field);
+            if (dialog.isVisible()) QTest::keyClick(&dialog, Qt::Key_Escape);
+            EXPECT_FALSE(dialog.isVisible());
         });
-        QTest::mouseClick(Main().findChild<QWidget*>("ButtonRenameFile"), Qt::LeftButton);
-        EXPECT_TRUE(opened);
+        Click(Form().ButtonRenameFile);
         Main().activateWindow();  // as a window manager does
         EXPECT_TRUE(GetsFocus(List()));
+    }
+    void ExpectCurrentRowShows() {
+        EXPECT_TRUE(List().viewport()->rect().contains(List().visualRect(List().currentIndex())));
     }
 };
 
 TEST_F(RenameWindow, OpensBesideTheRowOfAScrolledList) {
     const auto expectBeside = [this](int topRow, int row) {
         Rename(topRow, row, [&](QWidget& dialog, QLineEdit& field) {
-            const QRect rowPlace = RowOnScreen(row);
+            const int rowMiddle = List().viewport()->mapToGlobal(CentreOfRow(List(), row)).y();
             const int listLeft = List().mapToGlobal(QPoint(0, 0)).x();
             EXPECT_LT(dialog.frameGeometry().right(), listLeft);
             EXPECT_GE(dialog.frameGeometry().right(), listLeft - 10);
             const int fieldMiddle = field.mapToGlobal(field.rect().center()).y();
-            EXPECT_NEAR(fieldMiddle, rowPlace.center().y(), 4) << "row " << row << " from " << topRow;
+            EXPECT_NEAR(fieldMiddle, rowMiddle, 4) << "row " << row << " from " << topRow;
         });
     };
     expectBeside(0, 0);
@@ -78,10 +70,10 @@ TEST_F(RenameWindow, RenamesByKeysAlone) {
         QTest::keyClick(&field, Qt::Key_Enter, Qt::KeypadModifier);
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_TRUE(memory.Has(PathOf("auto")));
+    EXPECT_TRUE(HasFile("auto"));
     EXPECT_EQ(List().currentIndex().data().toString(), "auto");
     EXPECT_EQ(List().selectionModel()->selectedRows(), QModelIndexList{List().currentIndex()});
-    EXPECT_TRUE(List().viewport()->rect().contains(List().visualRect(List().currentIndex())));
+    ExpectCurrentRowShows();
     EXPECT_EQ(List().verticalScrollBar()->value(), 0) << "the new place is far above";
 }
 
@@ -89,20 +81,20 @@ TEST_F(RenameWindow, EnterConfirmsAndEscapeCancelsOnItsButtons) {
     Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
         QTest::keyClicks(&field, "zebra");
         QTest::keyClick(&field, Qt::Key_Tab);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        PressInFocus(Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget()->objectName(), "ButtonCancel");
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        PressInFocus(Qt::Key_Return);
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_TRUE(memory.Has(PathOf("zebra")));
-    EXPECT_TRUE(List().viewport()->rect().contains(List().visualRect(List().currentIndex())));
+    EXPECT_TRUE(HasFile("zebra"));
+    ExpectCurrentRowShows();
     Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
         QTest::keyClicks(&field, "other");
         QTest::keyClick(&field, Qt::Key_Tab);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        PressInFocus(Qt::Key_Escape);
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_FALSE(memory.Has(PathOf("other")));
+    EXPECT_FALSE(HasFile("other"));
 }
 
 TEST_F(RenameWindow, ARefusedNameGivesWayToTheOldOne) {
@@ -115,9 +107,8 @@ TEST_F(RenameWindow, ARefusedNameGivesWayToTheOldOne) {
             EXPECT_EQ(QApplication::focusWidget(), &field);
         }
     });
-    EXPECT_TRUE(memory.Has(PathOf("camera 10")));
+    EXPECT_TRUE(HasFile("camera 10"));
 }
 
 }  // namespace
-
 }  // namespace halvenmoor::qt

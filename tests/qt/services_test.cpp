@@ -4,25 +4,26 @@
 #include "platform/qt/message_box.h"
 #include "platform/qt/settings.h"
 #include "platform/qt/theme.h"
+#include "tests/temporary_folder.h"
 #include "window_fixture.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QLocalSocket>
 #include <QMessageBox>
 #include <QPalette>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <cmath>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace halvenmoor::qt {
-
 namespace {
+
+QString Path(const TemporaryFolder& folder, const std::string& name = "") {
+    return QString::fromStdString(folder / name);
+}
 
 /// Answers the next modal dialog of this kind; the dialog must close on it.
 template <class Dialog, class Answer>
@@ -54,8 +55,7 @@ TEST(SafeApplication, TellsDesktopsTheNameOfItsEntry) {
 
 class Dialogs : public Window {
 protected:
-    Dialogs()
-        : request{"Title", "Suggested", folder.path().toStdString(), "Text File (*.txt)|*.txt", "txt"} {}
+    Dialogs() : request{"Title", "Suggested", folder.Path(), "Text File (*.txt)|*.txt", "txt"} {}
 
     /// Types the name and accepts it; the answer is for the message that this brings up.
     void Type(QFileDialog& dialog, const QString& name,
@@ -68,18 +68,13 @@ protected:
         if (answer) WhenShown<QMessageBox>(answer);
         QTest::keyClick(edit, Qt::Key_Return);
     }
-    std::string Path(const char* name) { return (folder.path() + '/' + name).toStdString(); }
-    void Make(const char* name) {
-        QFile file(folder.path() + '/' + name);
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-    }
 
-    QTemporaryDir folder;
+    TemporaryFolder folder;
     platform::FileDialog request;
 };
 
 TEST_F(Dialogs, AskAboutTheNameThatIsWritten) {
-    Make("old.txt");
+    folder.Put("old.txt", "");
     WhenShown<QFileDialog>([this](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Title");
         EXPECT_EQ(dialog.nameFilters(), QStringList{"Text File (*.txt)"});
@@ -95,67 +90,63 @@ TEST_F(Dialogs, AskAboutTheNameThatIsWritten) {
         EXPECT_TRUE(dialog.isVisible()) << "the folder must exist";
         Type(dialog, "new");
     });
-    EXPECT_EQ(QtFileDialogs().AskSavePath(request), Path("new.txt"));
+    EXPECT_EQ(QtFileDialogs().AskSavePath(request), folder / "new.txt");
 }
 
 TEST_F(Dialogs, OpenWhatExists) {
-    Make("there.txt");
+    folder.Put("there.txt", "");
     WhenShown<QFileDialog>([this](QFileDialog& dialog) {
         Type(dialog, "missing", [](QMessageBox& box) { box.close(); });
         EXPECT_TRUE(dialog.isVisible());
         Type(dialog, "there");
     });
-    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), Path("there.txt"));
+    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), folder / "there.txt");
     WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(QtFileDialogs().AskOpenPath(request), std::nullopt);
 }
 
 TEST(Settings, LastAndNeverFail) {
-    const QTemporaryDir folder;
+    const TemporaryFolder folder;
     const auto read = [](QtSettings& settings, const char* name) {
         return settings.GetSetting("App", "Section", name, "default");
     };
     {
-        QtSettings settings(folder.path() + "/new");
+        QtSettings settings(Path(folder, "new"));
         EXPECT_EQ(read(settings, "Name"), "default");
         settings.SaveSetting("App", "Section", "Name", "\xc3\x9c, \"x\" @1");
-        QFile file(folder.path() + "/new/halvenmoor.ini");
-        ASSERT_TRUE(file.open(QFile::ReadOnly)) << "stored at once";
-        EXPECT_TRUE(file.readAll().contains("Name="));
+        EXPECT_NE(folder.Text("new/halvenmoor.ini").find("Name="), std::string::npos) << "stored at once";
         settings.SaveSetting("App", "Section", "Empty", "");
         settings.SaveSetting("App", "Other", "Name", "other");
     }
-    QtSettings settings(folder.path() + "/new");
+    QtSettings settings(Path(folder, "new"));
     EXPECT_EQ(read(settings, "Name"), "\xc3\x9c, \"x\" @1");
     EXPECT_EQ(read(settings, "Empty"), "");
     EXPECT_EQ(settings.GetSetting("App", "Other", "Name", ""), "other");
 
-    QFile inTheWay(folder.path() + "/file");
-    ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
-    QtSettings unwritable(folder.path() + "/file");
+    folder.Put("file", "");
+    QtSettings unwritable(Path(folder, "file"));
     unwritable.SaveSetting("App", "Section", "Name", "kept");
     EXPECT_EQ(read(unwritable, "Name"), "kept");
 }
 
 TEST(Settings, RemoveWhatAKilledWriterLeftBehind) {
-    const QTemporaryDir folder;
-    const QStringList leftovers{"halvenmoor.ini.AbCdEf", "halvenmoor.ini.lock"};
-    const QStringList others{"halvenmoor.ini.Backup", "halvenmoor.ini.before", "other.ini.AbCdEf"};
-    for (const QString& name : leftovers + others) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    const TemporaryFolder folder;
+    for (const char* const name : {"halvenmoor.ini.AbCdEf", "halvenmoor.ini.lock", "halvenmoor.ini.Backup",
+                                   "halvenmoor.ini.before", "other.ini.AbCdEf"}) {
+        folder.Put(name, "");
     }
     QElapsedTimer time;
     time.start();
-    QtSettings(folder.path()).SaveSetting("App", "Section", "Name", "kept");
+    QtSettings(Path(folder)).SaveSetting("App", "Section", "Name", "kept");
     EXPECT_LT(time.elapsed(), 10'000) << "waited for a lock that nobody holds";
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"halvenmoor.ini"} + others);
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"halvenmoor.ini", "halvenmoor.ini.Backup",
+                                                        "halvenmoor.ini.before", "other.ini.AbCdEf"}));
 }
 
 TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
-    const QTemporaryDir folder;
-    auto first = std::make_unique<InstanceGuard>(folder.path());
-    InstanceGuard second(folder.path());
+    const TemporaryFolder folder;
+    auto first = std::make_unique<InstanceGuard>(Path(folder));
+    InstanceGuard second(Path(folder));
     ASSERT_TRUE(first->IsFirst());
     EXPECT_FALSE(second.IsFirst());
     EXPECT_TRUE(first->IsFirst());
@@ -167,7 +158,7 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
          {QByteArray("stop\n"), QByteArray("raise"), QByteArray("raise\nraise x\n"),
           QByteArray("\0\nraise \n", 9), endless, endless + '\n'}) {
         QLocalSocket foreign;
-        foreign.connectToServer(folder.path() + "/halvenmoor.socket");
+        foreign.connectToServer(Path(folder, "halvenmoor.socket"));
         ASSERT_TRUE(foreign.waitForConnected());
         foreign.write(message);
         foreign.waitForBytesWritten();
@@ -182,54 +173,51 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     EXPECT_EQ(tokens, (std::vector<QByteArray>{"token-1", ""}));
 
     first.reset();
-    InstanceGuard(folder.path()).RaiseOther();
-    EXPECT_TRUE(InstanceGuard(folder.path()).IsFirst()) << "a later start";
+    InstanceGuard(Path(folder)).RaiseOther();
+    EXPECT_TRUE(InstanceGuard(Path(folder)).IsFirst()) << "a later start";
 }
 
 TEST(InstanceGuard, IsFirstWhateverAKilledOneLeftBehind) {
-    const QTemporaryDir folder;
-    for (const char* const name : {"/halvenmoor.lock", "/halvenmoor.socket"}) {
-        QFile file(folder.path() + name);
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-    }
-    InstanceGuard guard(folder.path());
+    const TemporaryFolder folder;
+    for (const char* const name : {"halvenmoor.lock", "halvenmoor.socket"}) folder.Put(name, "");
+    InstanceGuard guard(Path(folder));
     EXPECT_TRUE(guard.IsFirst());
-    EXPECT_FALSE(InstanceGuard(folder.path()).IsFirst());
+    EXPECT_FALSE(InstanceGuard(Path(folder)).IsFirst());
 }
 
 TEST(InstanceGuard, ListensToItsUserOnly) {
-    const QTemporaryDir folder;
-    InstanceGuard guard(folder.path());
+    const TemporaryFolder folder;
+    InstanceGuard guard(Path(folder));
     ASSERT_TRUE(guard.IsFirst());
     struct stat socket = {};
-    ASSERT_EQ(::stat(QFile::encodeName(folder.path() + "/halvenmoor.socket").constData(), &socket), 0);
+    ASSERT_EQ(::stat((folder / "halvenmoor.socket").c_str(), &socket), 0);
     EXPECT_EQ(socket.st_mode & (S_IRWXG | S_IRWXO), 0u);
 
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
     qunsetenv("XDG_RUNTIME_DIR");
-    qputenv("TMPDIR", folder.path().toLocal8Bit());
+    qputenv("TMPDIR", folder.Path().c_str());
     const QString own = InstanceGuard::RuntimeFolder();
-    EXPECT_TRUE(own.startsWith(folder.path() + "/halvenmoor-")) << "made for this user";
+    EXPECT_TRUE(own.startsWith(Path(folder, "halvenmoor-"))) << "made for this user";
     EXPECT_EQ(InstanceGuard::RuntimeFolder(), own);
-    ASSERT_EQ(::chmod(QFile::encodeName(own).constData(), 0755), 0);
+    std::filesystem::permissions(own.toStdString(), std::filesystem::perms(0755));
     EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "others can enter it";
-    ASSERT_TRUE(QDir(folder.path()).rename(own, "private"));
-    ASSERT_TRUE(QFile::link(folder.path() + "/private", own));
+    std::filesystem::rename(own.toStdString(), folder / "private");
+    std::filesystem::create_symlink(folder / "private", own.toStdString());
     EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "it may lead anywhere";
     qunsetenv("TMPDIR");
     qputenv("XDG_RUNTIME_DIR", runtime);
 }
 
 TEST_F(Window, IsRaisedAndRestored) {
-    QTemporaryDir folder;
-    QtApplication first(folder.path());
-    QtApplication second(folder.path());
+    const TemporaryFolder folder;
+    QtApplication first(Path(folder));
+    QtApplication second(Path(folder));
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);
     second.ActivatePreviousInstance();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Root().isMinimized(); }));
-    EXPECT_EQ(first.ProgramFolder(), QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString());
+    EXPECT_EQ(first.ProgramFolder(), QCoreApplication::applicationDirPath().toStdString());
     EXPECT_EQ(first.Version().major, 3);
     EXPECT_GT(first.Screen().width, 0);
 }
@@ -265,5 +253,4 @@ TEST(Theme, KeepsBlackAndWhiteTextReadable) {
 }
 
 }  // namespace
-
 }  // namespace halvenmoor::qt

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QListView>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <gtest/gtest.h>
 #include <string>
@@ -15,25 +16,31 @@
 
 namespace halvenmoor::qt {
 
+inline QWidget& WidgetOf(const forms::Form& form) {
+    return dynamic_cast<QWidget&>(*form.View());
+}
+inline QWidget& WidgetOf(const forms::Control& control) {
+    return *WidgetOf(control.Owner()).findChild<QWidget*>(QString::fromStdString(control.Name()));
+}
+
+inline QString ToolTipOf(const QWidget& widget) {
+    return QTextDocumentFragment::fromHtml(widget.toolTip()).toPlainText();
+}
+
+inline QPoint CentreOfRow(const QListView& list, int row) {
+    return list.visualRect(list.model()->index(row, 0)).center();
+}
+
 /// A window with a control of each kind.
 struct SampleForm : forms::Form {
     explicit SampleForm(forms::Desktop& desktop, bool closeBox = true)
         : Form(desktop,
                {.name = "sample", .title = "Sample", .width = 6000, .height = 6000, .closeBox = closeBox}) {
         SetCancelButton(&cancel);
-        first.OnClick = [this] { heard.push_back("first"); };
-        cancel.OnClick = [this] { heard.push_back("cancel"); };
-        check.OnClick = [this] { heard.push_back("check"); };
-        for (auto* option : {&optionA, &optionB}) {
-            option->OnClick = [this, option] { heard.push_back(option->Name()); };
-        }
-        for (auto* list : {&left, &right}) {
-            list->OnClick = [this, list] { heard.push_back(list->Name()); };
-            list->OnStartDrag = [this] { heard.push_back("start"); };
-            list->OnDragDrop = [this, list] { heard.push_back("drop " + list->Name()); };
-            list->OnCompleteDrag = [this] { heard.push_back("complete"); };
-        }
-        combo.OnClick = [this] { heard.push_back("combo"); };
+        const auto hearClicks = [this](auto&... controls) {
+            ((controls.OnClick = [this, &controls] { heard.push_back(controls.Name()); }), ...);
+        };
+        hearClicks(first, cancel, check, optionA, optionB, left, right, combo);
         combo.OnChange = [this] {
             heard.push_back("change " + combo.Text());
             combo.SetListIndex(0);
@@ -74,7 +81,7 @@ protected:
         form.heard.clear();
     }
 
-    QWidget& Root() { return static_cast<FormWindow&>(*form.View()); }
+    QWidget& Root() { return WidgetOf(form); }
     template <class Kind = QWidget>
     Kind& Find(const char* name) {
         return *Root().findChild<Kind*>(name);

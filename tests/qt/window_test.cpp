@@ -11,7 +11,6 @@
 #include <QRadioButton>
 
 namespace halvenmoor::qt {
-
 namespace {
 
 TEST_F(Window, ForwardsClicksAndKeys) {
@@ -66,14 +65,11 @@ TEST_F(Window, ShowsPlainText) {
     EXPECT_EQ(Find<QGroupBox>("frame").title(), "A && B");
     EXPECT_TRUE(Find<QPushButton>("first").shortcut().isEmpty());
     form.label.SetCaption("M\xfcnchen");
-    form.left.AddItems(
-        {"Stra\xdf"
-         "e",
-         "two\nlines"});
+    form.left.AddItems({"Wei\xdf", "two\nlines"});
     desktop.Yield();
     EXPECT_EQ(Find<QLabel>("label").text(), "M\u00fcnchen");
     const QAbstractItemModel& rows = *Find<QListView>("left").model();
-    EXPECT_EQ(rows.index(0, 0).data().toString(), "Stra\u00dfe");
+    EXPECT_EQ(rows.index(0, 0).data().toString(), "Wei\u00df");
     EXPECT_EQ(rows.index(1, 0).data().toString(), "two\u240alines");
 }
 
@@ -162,17 +158,11 @@ TEST_F(Window, DrawsOnTheCanvasAtOnce) {
     desktop.Yield();
 
     const QImage image = Find("picture").grab().toImage();
-    const auto at = [&image](int x, int y) { return image.pixelColor(x, y); };
-    EXPECT_EQ(at(0, 0), QColor(Qt::red));
-    EXPECT_EQ(at(10, 10), QColor(Qt::blue));
-    EXPECT_EQ(at(19, 19), QColor(Qt::blue));
-    EXPECT_EQ(at(20, 20), QColor(Qt::red));
-    EXPECT_EQ(at(40, 5), QColor(Qt::blue));
-    EXPECT_EQ(at(31, 5), QColor(Qt::blue));
-    EXPECT_EQ(at(30, 5), QColor(Qt::red)) << "a line leaves out its end";
-    EXPECT_EQ(at(60, 8), QColor(Qt::blue));
-    EXPECT_EQ(at(60, 9), QColor(Qt::red));
-    EXPECT_EQ(at(62, 22), QColor(Qt::red));
+    // A line leaves out its end.
+    for (const QPoint point : {QPoint(10, 10), {19, 19}, {40, 5}, {31, 5}, {60, 8}})
+        EXPECT_EQ(image.pixelColor(point), QColor(Qt::blue)) << point.x();
+    for (const QPoint point : {QPoint(0, 0), {20, 20}, {30, 5}, {60, 9}, {62, 22}})
+        EXPECT_EQ(image.pixelColor(point), QColor(Qt::red)) << point.x();
     EXPECT_NE(image.copy(60, 20, 40, 20), image.copy(60, 21, 40, 1).scaled(40, 20)) << "the text shows";
 }
 
@@ -191,9 +181,7 @@ TEST_F(Window, PaintsWithoutAStorm) {
         QTest::qWait(50);
         EXPECT_GE(painting.paints, 1);
         EXPECT_LE(painting.paints, 4);
-        const QWidget& shown = static_cast<FormWindow&>(*painting.View());
-        EXPECT_EQ(shown.findChild<QLabel*>("label")->palette().color(QPalette::WindowText),
-                  QColor(0, 0, 200));
+        EXPECT_EQ(WidgetOf(painting.label).palette().color(QPalette::WindowText), QColor(0, 0, 200));
         painting.Unload();
     };
     desktop.ShowModal(painting);
@@ -204,7 +192,7 @@ TEST_F(Window, GivesAModalFormAllEvents) {
     SampleForm dialog(desktop);
     dialog.cancel.OnClick = [&] { dialog.Unload(); };
     dialog.script = [&] {
-        QWidget& shown = static_cast<FormWindow&>(*dialog.View());
+        QWidget& shown = WidgetOf(dialog);
         EXPECT_EQ(dialog.heard, Words{"activate"});
         EXPECT_EQ(QApplication::activeModalWidget(), &shown);
         EXPECT_EQ(shown.windowHandle()->transientParent(), Root().windowHandle());
@@ -227,7 +215,7 @@ TEST_F(Window, GivesAModalFormAllEvents) {
 TEST_F(Window, ClosesOnlyWhereThereIsACloseBox) {
     SampleForm dialog(desktop, false);
     dialog.script = [&] {
-        QWidget& shown = static_cast<FormWindow&>(*dialog.View());
+        QWidget& shown = WidgetOf(dialog);
         EXPECT_FALSE(shown.windowFlags() & Qt::WindowCloseButtonHint);
         shown.close();
         EXPECT_TRUE(dialog.IsOpen());
@@ -241,36 +229,25 @@ TEST_F(Window, ClosesOnlyWhereThereIsACloseBox) {
     EXPECT_FALSE(form.IsOpen());
 }
 
-/// Takes the Enter key before its controls do, as a window with FormDesign::keyPreview.
-struct PreviewForm : forms::Form {
-    explicit PreviewForm(forms::Desktop& desktop)
-        : Form(desktop,
-               {.name = "preview", .title = "Preview", .width = 3000, .height = 900, .keyPreview = true}) {
-        button.OnClick = [this] { ++presses; };
-    }
-    void Activate() override {
-        const QWidget& shown = static_cast<FormWindow&>(*View());
-        QTest::keyClick(shown.findChild<QWidget*>("field"), Qt::Key_A);
-        QTest::keyClick(shown.findChild<QWidget*>("button"), Qt::Key_Return);
-        Unload();
-    }
-    bool KeyPress(char32_t key) override {
-        keys.push_back(key);
-        return key == U'\r';
-    }
+TEST_F(Window, ToolTipShowsAsPlainText) {
+    form.picture.SetToolTip("<b>3</b> & Datei(s)");
+    desktop.Yield();
+    const QWidget& picture = Find("picture");
+    EXPECT_EQ(ToolTipOf(picture), "<b>3</b> & Datei(s)");
+    EXPECT_EQ(picture.accessibleDescription(), "<b>3</b> & Datei(s)");
+    form.picture.SetToolTip("");
+    desktop.Yield();
+    EXPECT_EQ(picture.toolTip(), "") << "an empty one must not pop up";
+    EXPECT_EQ(picture.accessibleDescription(), "");
+}
 
-    forms::TextBox field{*this, {.name = "field", .place = {0, 0, 1500, 315}, .tab = 1}};
-    forms::CommandButton button{*this, {.name = "button", .place = {0, 450, 1500, 315}, .tab = 2}};
-    std::u32string keys;
-    int presses = 0;
-};
-
-TEST_F(Window, GivesAFormTheKeysBeforeItsControls) {
-    PreviewForm dialog(desktop);
-    desktop.ShowModal(dialog);
-    EXPECT_EQ(dialog.keys, U"a\r");
-    EXPECT_EQ(dialog.field.Text(), "a");
-    EXPECT_EQ(dialog.presses, 0);
+TEST_F(Window, LoopOfTurnsHearsTheUserAndShowsItsState) {
+    bool stopped = false;
+    form.first.OnClick = [&] { stopped = true; };
+    QTimer::singleShot(0, &Root(), [this] { Click("first"); });
+    form.check.SetCaption("running");
+    while (!stopped) desktop.Turn();
+    EXPECT_EQ(Find<QAbstractButton>("check").text(), "running");
 }
 
 TEST_F(Window, SleepsOnlyWhenAskedTo) {
@@ -290,5 +267,4 @@ TEST_F(Window, SleepsOnlyWhenAskedTo) {
 }
 
 }  // namespace
-
 }  // namespace halvenmoor::qt
