@@ -52,6 +52,25 @@ private:
     TypeTable<Strings> entries_;
 };
 
+TEST_F(ExportTest, WritesTheWorkedExample) {
+    Add(1, "Fixed 50 mph",
+        "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction).\r\n"
+        "\r\n"
+        "-0.12345, 51.50000, \"Fixed Speed Camera\", 1, 90\r\n"
+        "-0.20000, 51.60000, \"Mobile Speed Camera\", 0, 0\r\n"
+        "0.0, 0.0, \"Speed Camera\", 0, 0\r\n"
+        "1.5, 52.5\r\n");
+    Start("[Mobile]\nMobile\n[Units]\nmph\n[Settings]\nSourceStructure=2\n");
+    EXPECT_TRUE(program.Export());
+    EXPECT_EQ(program.Target(),
+              "X,Y,TYPE,SPEED,DirType,Direction\r\n"
+              "-0.12345,51.50000,1,50,1,90\r\n"
+              "-0.20000,51.60000,5,50,0,0\r\n");
+    EXPECT_EQ(Exports().FilesProcessed, (Counter{0, 1}));
+    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1, 0, 0, 0, 1}));
+    EXPECT_EQ(Exports().CamerasSkipped, (Counter{0, 1}));
+}
+
 TEST_F(ExportTest, CountsEveryKindOfLine) {
     Add(1, "kinds",
         "\xEF\xBB\xBF; a byte-order mark and comments\n\n   \r\n\t\n# c\n\"quoted\", 2, x\n"

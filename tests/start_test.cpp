@@ -78,7 +78,7 @@ TEST(StartTest, SecondInstanceRaisesTheFirstAndLeavesWithoutATrace) {
     EXPECT_EQ(program.files.Calls(), 0);
 }
 
-TEST(StartTest, WithoutAFileSystemObjectThePrograEndsAfterAMessage) {
+TEST(StartTest, WithoutAFileSystemObjectTheProgramEndsAfterAMessage) {
     const struct {
         Failure failure;
         const char* message;

@@ -38,16 +38,17 @@ private:
     bool hasMet_ = false;
 };
 
-/// The program's real windows over files in memory, in the folder /p. The test starts it.
-class ProgramWindows : public testing::Test {
+/// The program in its real windows. The test starts it.
+class RealWindows : public testing::Test {
 protected:
-    ~ProgramWindows() override { program.MainForm().UserClose(); }
+    RealWindows(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles, std::string folder)
+        : application(std::move(folder)),
+          program({fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale},
+                  toolkit) {}
+    ~RealWindows() override { program.MainForm().UserClose(); }
 
     frmMain& Form() { return program.MainForm(); }
     QWidget& Main() { return WidgetOf(Form()); }
-    void AddDemoFile(const std::string& entry, const std::string& text) {
-        memory.Put("/p/demo/asc_demo/" + entry + ".asc", text);
-    }
     void StartActive() {
         program.Start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&Main()));
@@ -60,8 +61,7 @@ protected:
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, CentreOfRow(view, row));
     }
 
-    headless::MemoryFiles memory;
-    headless::FixedApplication application{"/p"};
+    headless::FixedApplication application;
     disk::DiskClock clock;
     headless::MemorySettings settings;
     headless::MessageLog messages;
@@ -69,8 +69,21 @@ protected:
     headless::FixedTheme theme;
     headless::FixedLocale locale;
     QtToolkit toolkit{locale};
-    Program program{{memory, memory, application, clock, settings, messages, fileDialogs, theme, locale},
-                    toolkit};
+    Program program;
+};
+
+struct FilesInMemory {
+    headless::MemoryFiles memory;
+};
+
+/// The same over files in memory, in the folder /p.
+class ProgramWindows : protected FilesInMemory, public RealWindows {
+protected:
+    ProgramWindows() : RealWindows(memory, memory, "/p") {}
+
+    void AddDemoFile(const std::string& entry, const std::string& text) {
+        memory.Put("/p/demo/asc_demo/" + entry + ".asc", text);
+    }
 };
 
 }  // namespace halvenmoor::qt
