@@ -127,8 +127,4 @@ void DiskTextWriter::Flush() noexcept {
     size_ = 0;
 }
 
-void DiskTextWriter::ThrowIfFailed() const {
-    if (error_ != 0) throw SystemFailure(error_);
-}
-
 }  // namespace halvenmoor::disk

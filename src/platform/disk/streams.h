@@ -91,7 +91,9 @@ private:
     std::size_t Room() const { return kBufferSize - size_; }
     void AppendPiecewise(std::string_view bytes);
     void Flush() noexcept;
-    void ThrowIfFailed() const;
+    void ThrowIfFailed() const {
+        if (error_ != 0) throw SystemFailure(error_);
+    }
 
     FileDescriptor file_;
     std::unique_ptr<char[]> buffer_;  // with a word more, for the last store
