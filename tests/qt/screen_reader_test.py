@@ -39,8 +39,9 @@ def skip(reason):
 
 def display():
     """Starts a display; its name and the process."""
+    # By default it begins anew when its last client leaves, and turns away who comes at that moment.
     readable, writable = os.pipe()
-    process = subprocess.Popen(["Xvfb", "-displayfd", str(writable), "-screen", "0", "1024x768x24"],
+    process = subprocess.Popen(["Xvfb", "-noreset", "-displayfd", str(writable), "-screen", "0", "1024x768x24"],
                                pass_fds=[writable], stderr=subprocess.DEVNULL)
     os.close(writable)
     with os.fdopen(readable) as number:
