@@ -233,6 +233,15 @@ TEST_F(ClassificationTest, MalformedPatternEndsItsTypeOnly) {
     EXPECT_TRUE(program.messages.Messages.empty());
 }
 
+TEST_F(ClassificationTest, UnreadableSettingsMoveNothing) {
+    program.memory.Remove("/p/Settings.ini");
+    program.AddCameraFile("a");
+    program.Start();
+    program.Click(program.Window().ButtonClassifyFiles);
+    EXPECT_EQ(program.Items(0), Strings{"a"});
+    EXPECT_TRUE(program.messages.Messages.empty());
+}
+
 class LanguageTest : public testing::Test {
 protected:
     void Choose(const std::string& language) { program.Select(program.Window().LanguageList, language); }

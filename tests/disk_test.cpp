@@ -21,8 +21,6 @@
 namespace halvenmoor {
 namespace {
 
-constexpr std::size_t bufferSize = 64 * 1024;
-
 class DiskTest : public testing::Test {
 protected:
     Strings LinesOf(const std::string& name) { return ReadLines(fileSystem, folder / name); }
@@ -39,14 +37,14 @@ protected:
 };
 
 TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
-    for (std::size_t length = bufferSize - 3; length <= bufferSize + 1; ++length) {
+    for (std::size_t length = disk::kBufferSize - 3; length <= disk::kBufferSize + 1; ++length) {
         const std::string line(length, 'x');
         for (const std::string lineEnd : {"\n", "\r\n"}) {
             folder.Put("a", line + lineEnd + "next" + lineEnd + line + "\r|" + lineEnd + "last\r");
             EXPECT_TRUE(LinesOf("a") == (Strings{line, "next", line + "\r|", "last\r"})) << length;
         }
     }
-    for (std::size_t count = bufferSize / 8 - 1; count <= bufferSize / 8 + 1; ++count) {
+    for (std::size_t count = disk::kBufferSize / 8 - 1; count <= disk::kBufferSize / 8 + 1; ++count) {
         std::string bytes = "1";  // each line end crosses a multiple of eight
         for (std::size_t i = 0; i < count; ++i) bytes += "23456\r\n1";
         EXPECT_EQ((folder.Put("a", bytes), LinesOf("a").size()), count + 1);
@@ -54,18 +52,19 @@ TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
 }
 
 TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
-    const std::string longLine(5 * bufferSize + 7, 'x');
+    const std::string longLine(5 * disk::kBufferSize + 7, 'x');
     folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
     EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
-    folder.Put("a", std::string(bufferSize, 'z'));
-    EXPECT_TRUE(LinesOf("a") == Strings{std::string(bufferSize, 'z')});
+    folder.Put("a", std::string(disk::kBufferSize, 'z'));
+    EXPECT_TRUE(LinesOf("a") == Strings{std::string(disk::kBufferSize, 'z')});
 
     const auto writer = object->CreateTextFile(folder / "b");
     writer->WriteLine("short");
     writer->WriteLine(longLine);
-    writer->WriteLine(std::string(bufferSize, 'y'));
+    writer->WriteLine(std::string(disk::kBufferSize, 'y'));
     writer->Close();
-    EXPECT_TRUE(folder.Text("b") == "short\r\n" + longLine + "\r\n" + std::string(bufferSize, 'y') + "\r\n");
+    EXPECT_TRUE(folder.Text("b") ==
+                "short\r\n" + longLine + "\r\n" + std::string(disk::kBufferSize, 'y') + "\r\n");
 }
 
 TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
@@ -80,7 +79,7 @@ TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
 }
 
 TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {
-    std::string bytes(2 * bufferSize + 10, '\0');
+    std::string bytes(2 * disk::kBufferSize + 10, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i % 251);
     folder.Put("a", bytes);
     const auto reader = host.OpenBytes(folder / "a");
@@ -98,14 +97,14 @@ TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
     EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
 
     const auto written = object->OpenForAppending("/dev/full");
-    const std::string line(bufferSize, 'x');
+    const std::string line(disk::kBufferSize, 'x');
     EXPECT_EQ(FailureNumber([&] { written->WriteLine(line); }), failure::DiskFull);
     EXPECT_EQ(FailureNumber([&] { written->WriteLine("more"); }), failure::DiskFull);
     EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
 }
 
 TEST_F(DiskTest, AFailedWriteKeepsWhatFitsAndIsNotRepeated) {
-    constexpr rlim_t largest = bufferSize + 10;
+    constexpr rlim_t largest = disk::kBufferSize + 10;
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -114,7 +113,7 @@ TEST_F(DiskTest, AFailedWriteKeepsWhatFitsAndIsNotRepeated) {
         return ::setrlimit(RLIMIT_FSIZE, &limits);
     };
     const auto writer = object->CreateTextFile(folder / "a");
-    const std::string line(2 * bufferSize, 'x');
+    const std::string line(2 * disk::kBufferSize, 'x');
     ASSERT_EQ(setLimit(largest), 0);
     EXPECT_EQ(FailureNumber([&] { writer->WriteLine(line); }), failure::DiskFull);
     ASSERT_EQ(setLimit(before.rlim_cur), 0);

@@ -33,7 +33,7 @@ TEST(FailingFilesTest, OneCallFailsOrAllFromOneOn) {
     EXPECT_EQ(memory.Text("/copy"), "1\r\n2\r\n");
 
     files.FailFromCall(2, kFault);
-    EXPECT_EQ(FailureNumber([&] { Search(files, "/", ""); }), failure::FileAccess) << "between two names";
+    EXPECT_EQ(FailureNumber([&] { Search(files, "/", ""); }), failure::FileAccess) << "at a name";
     EXPECT_EQ(FailureNumber([&] { files.IsListed("/a"); }), failure::FileAccess);
 }
 

@@ -66,6 +66,12 @@ TEST(NamePatternsTest, ComparesCharacters) {
     EXPECT_EQ(TypeOf("\xC3\xB6", Lists({"\xB6"})), 0) << "no character begins inside another";
 }
 
+TEST(NamePatternsTest, FindsZeroBytesOnlyWhereTheyAre) {
+    const Patterns patterns = Lists({std::string("ab\0", 3)});
+    EXPECT_EQ(TypeOf("ab", patterns), 0);
+    EXPECT_EQ(TypeOf(std::string("ab\0", 3), patterns), 1);
+}
+
 TEST(NamePatternsTest, NeedsTheLists) {
     EXPECT_EQ(FailureNumber([] { TypeOf("name", Patterns()); }), failure::TypeMismatch);
 }

@@ -86,6 +86,9 @@ TEST(Ov2RecordTest, NamesAreCleaned) {
         {"say \"hi\"\0"s, R"("say 'hi'")"},
         {"\ta \0"s, "\"\ta\""},          // a tab is no blank
         {"a\0 \0 b \0\0"s, R"("a b")"},  // zero bytes are not there at all
+        {"abc\0defghij\0"s, R"("abcdefghij")"},
+        {"abcdefg  hijklmn\0"s, R"("abcdefg hijklmn")"},
+        {"abcdefg, hijklmn,o\0"s, R"("abcdefg; hijklmn; o")"},
         {"M\xfc\x81\0"s, "\"M\xfc\x81\""},
     };
     for (const auto& [name, expected] : cases) {

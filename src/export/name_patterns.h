@@ -11,9 +11,9 @@
 
 namespace halvenmoor {
 
-/// The texts that set a camera's type by its name, prepared so that one pass over a name looks for all of
-/// them at once, ignoring case: a filter finds the places where they begin, and a tree of their characters
-/// follows the longer ones to their ends.
+/// The texts that set a camera's type by its name, prepared so that a name is searched for all of them at
+/// once, ignoring case: a filter finds the places where they begin, and a tree of their characters follows
+/// the longer ones to their ends.
 class NamePatterns {
 public:
     /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page

@@ -86,18 +86,15 @@ void PatternFilter::AddStart(std::string_view bytes, const Start& start) {
     for (const std::uint32_t offset : {0u, 1u}) {
         const Entry entry{text::LoadShort(bytes), text::LoadShort(mask), start, offset, 0};
         const Word key = entry.bytes >> 8 * offset & keyMask_;
-        if (bytes.size() - offset > fewestBytes_) {
-            AddEntry(key, entry);
-            continue;
-        }
-        for (Word open = 0; open <= kBitsOfKey; ++open) AddEntry(key | open << 8 * fewestBytes_, entry);
+        AddEntry(key, entry);
+        const bool isOpen = bytes.size() - offset == fewestBytes_;
+        for (Word open = 0; open <= (isOpen ? kBitsOfKey : 0); ++open)
+            isKnown_[Hash(key | open << 8 * fewestBytes_) >> (64 - kHashBits)] = true;
     }
 }
 
 void PatternFilter::AddEntry(Word key, const Entry& entry) {
-    const std::uint64_t hash = Hash(key);
-    isKnown_[hash >> (64 - kHashBits)] = true;
-    std::uint32_t* last = &buckets_[hash >> bucketShift_];
+    std::uint32_t* last = &buckets_[BucketOf(key)];
     for (; *last != 0; last = &entries_[*last].next) {
         Entry& other = entries_[*last];
         if (other.bytes != entry.bytes || other.mask != entry.mask || other.offset != entry.offset) continue;

@@ -75,10 +75,9 @@ private:
     static std::uint64_t Hash(Word key) { return key * 0x9E3779B97F4A7C15u; }
     template <typename Visit>
     void VisitNear(Word bytes, std::string_view text, std::size_t place, Visit& visit) const {
-        const std::uint64_t hash = Hash(bytes & keyMask_);
-        if (!isKnown_[hash >> (64 - kHashBits)]) return;
+        if (!isKnown_[Hash(bytes & keyMask_) >> (64 - kHashBits)]) return;
         const Word fromOneBefore = bytes << 8 | static_cast<unsigned char>(text[place - 1]);
-        for (std::uint32_t next = buckets_[hash >> bucketShift_]; next != 0;) {
+        for (std::uint32_t next = buckets_[BucketOf(bytes)]; next != 0;) {
             const Entry& entry = entries_[next];
             const Word found = entry.offset == 0 ? bytes : fromOneBefore;
             if ((found & entry.mask) == entry.bytes) visit(place - entry.offset, entry.start);
@@ -89,14 +88,18 @@ private:
                       const Spellings& spellings);
     void AddStart(std::string_view bytes, const Start& start);
     void AddEntry(Word key, const Entry& entry);
+    /// Of a key, or of bytes that begin with one.
+    std::size_t BucketOf(Word key) const {
+        return Hash(text::FirstBytes(key & keyMask_, fewestBytes_)) >> bucketShift_;
+    }
 
     /// How many bytes of a key every pattern has behind its first one.
     std::size_t fewestBytes_ = kLongestKey - 1;
     /// Has one byte more, which is open in the key of a pattern that has no more.
     Word keyMask_ = 0;
-    /// By hash of the key: whether there is an entry. Small enough for the fastest memory.
+    /// By hash of the key: whether there may be an entry. Small enough for the fastest memory.
     std::array<bool, std::size_t{1} << kHashBits> isKnown_{};
-    /// The first entry with such a key, 0 for none.
+    /// By hash of those bytes of the key that none leaves open: the first entry, 0 for none.
     std::vector<std::uint32_t> buckets_;
     int bucketShift_;
     std::vector<Entry> entries_{1};

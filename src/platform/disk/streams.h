@@ -14,6 +14,7 @@
 
 namespace halvenmoor::disk {
 
+/// What streams read and write at once, in bytes.
 inline constexpr std::size_t kBufferSize = 64 * 1024;
 
 /// The bytes of a file that were read and not yet taken.
