@@ -4,6 +4,7 @@
 #include "fuzz/world.h"
 #include "import/txt_import.h"
 #include "tests/disk_program.h"
+#include "tests/files_test_helpers.h"
 
 #include <cstdlib>
 #include <malloc.h>
@@ -133,6 +134,20 @@ TEST_F(Bounded, SettingsTakeNoStringForEachComma) {
         const cSettingsClass read(files, folder / "Settings.ini");
         EXPECT_EQ(read.TypeFileNamePatterns()[1]->size(), kMaxPatterns + 1);
     });
+}
+
+TEST_F(Bounded, NamePatternsAreKeptReadyInAllTheirSpellings) {
+    folder.Put("asc/a.asc", "1.5, 52.5, \"no pattern\"\n");
+    for (const Strings& letters :
+         {Strings{"a", "b", "c", "d", "e", "f", "g", "h"}, Strings{"р", "с", "т", "у", "ф", "х", "ц", "ч"}}) {
+        std::string text = "[Type1]\n*\n[Fixed]\n";
+        for (std::size_t i = 0; i < 4096; ++i) {
+            for (const int shift : {9, 6, 3, 0}) text += letters[i >> shift & 7];
+            text += letters[0] + ',';
+        }
+        folder.Put("Settings.ini", text);
+        ExpectTakesAtMost(400 * text.size(), [this] { EXPECT_TRUE(DiskProgram(folder).Export()); });
+    }
 }
 
 }  // namespace
