@@ -132,11 +132,12 @@ protected:
         ExpectSoundProgram(program, GetParam());
         EXPECT_EQ(program.desktop.Ended(), act.effect == Effect::EndsProgram);
         if (act.effect == Effect::EndsProgram) return;
-        GetParam().expectSound(program);
+        ExpectSoundMessages(program);
+        GetParam().expectSound(program, whole);
         const bool isImport = GetParam().name.starts_with("Import");
         if (act.effect == Effect::Breaks || (act.effect == Effect::StopsImport && isImport)) return;
         EXPECT_EQ(program.memory.Calls(), undisturbedCalls) << "something else was run";
-        GetParam().expectDone(program);
+        EXPECT_EQ(Outcome(program), whole);
     }
 
     /// Before the run, as at the turn behind a file dialog, the user is free to do everything.
@@ -149,7 +150,7 @@ protected:
         EXPECT_TRUE(old.starts_with(JourneyProgram::kOldTarget)) << old;
     }
 
-    static void ExpectWorksAgain(JourneyProgram& program) {
+    void ExpectWorksAgain(JourneyProgram& program) {
         program.RestoreDisk();
         if (!program.desktop.Ended()) return ExpectWorks(program);
         JourneyProgram next;
@@ -158,16 +159,17 @@ protected:
         ExpectWorks(next);
     }
 
-    static void ExpectWorks(JourneyProgram& program) {
+    void ExpectWorks(JourneyProgram& program) {
         for (forms::Control* control : program.Window().Controls()) {
             auto* const box = dynamic_cast<forms::CheckBox*>(control);
             if (box && box->Value() == (box == &program.Window().CheckDemoMode)) box->UserPress();
         }
         program.Reload();
         GetParam().play(program);
-        GetParam().expectDone(program);
+        EXPECT_EQ(Outcome(program), whole);
     }
 
+    const Outcome whole = GetParam().Undisturbed();
     /// What the program asks of the disk when nothing comes in between.
     const Strings undisturbedCalls = [] {
         JourneyProgram program;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files_test_helpers.h"
 #include "import_program.h"
 
 #include <algorithm>
@@ -52,21 +53,36 @@ struct JourneyProgram : TestProgram {
     Disk installed;
     /// The disk stays broken: what was begun cannot be taken away again.
     bool faultLasts = false;
-    /// The picture with which the import dialog ended.
-    std::string picture;
+    /// What the user saw at the end, as the picture of an import.
+    std::string shown;
 };
+
+/// What there is when a journey is over.
+struct Outcome {
+    explicit Outcome(JourneyProgram& program);
+
+    Disk files;
+    std::vector<Strings> lists;
+    TypeTable<std::int32_t> filesProcessed, camerasExported, camerasSkipped;
+    bool resultsValid;
+    std::string shown;
+
+    bool operator==(const Outcome&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Outcome& outcome);
 
 /// Something that a user does from beginning to end, pressing on whatever happens.
 struct Journey {
     std::string name;
     std::function<void(JourneyProgram&)> play;
-    /// What it leaves when nothing goes wrong.
-    std::function<void(JourneyProgram&)> expectDone;
-    /// What it may leave when something does.
-    std::function<void(JourneyProgram&)> expectSound;
+    /// Checks what it left when something went wrong, against all that it should have left.
+    std::function<void(JourneyProgram&, const Outcome& whole)> expectSound;
     /// Files, or folders with a '/' at the end, that it may change.
     std::vector<std::string> targets = {};
     bool isStart = false;
+
+    /// What it leaves when nothing goes wrong.
+    Outcome Undisturbed() const;
 };
 
 inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
@@ -86,6 +102,8 @@ void UserRenames(headless::Twins& twins, frmMain& window, const std::string& ent
 
 /// Buttons, lists and windows agree, and every file is there that the journey is not about.
 void ExpectSoundProgram(JourneyProgram& program, const Journey& journey);
+/// The program ends by itself only with a message about the file system.
+void ExpectSoundMessages(const JourneyProgram& program);
 /// The part of it that shows in the window: each entry stands in one list, the buttons follow their rules.
 void ExpectSoundWindow(frmMain& window);
 
