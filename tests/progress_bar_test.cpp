@@ -26,41 +26,12 @@ constexpr Color light = Rgb(254, 254, 254);
 constexpr Color face = Rgb(192, 192, 192);
 constexpr Color highlight = Rgb(0, 0, 128);
 
-/// Pixels that also remember the last text.
-struct Paper : headless::MemoryCanvas {
-    using MemoryCanvas::MemoryCanvas;
-
-    void DrawText(std::string_view text, const forms::PixelRect& area, const forms::Font& font,
-                  Color color) override {
-        LastText = text;
-        MemoryCanvas::DrawText(text, area, font, color);
-    }
-
-    std::string LastText;
-};
-
-struct PaperView : headless::HeadlessView {
-    PaperView(forms::Form& form, Paper& canvas) : HeadlessView(form), paper(canvas) {}
-    forms::Canvas& Canvas(forms::PictureBox&) override { return paper; }
-
-    Paper& paper;
-};
-
-struct PaperToolkit : headless::HeadlessToolkit {
-    PaperToolkit(headless::ManualClock& clock, Paper& canvas) : HeadlessToolkit(clock), paper(canvas) {}
-    std::unique_ptr<forms::View> CreateView(forms::Form& form) override {
-        return std::make_unique<PaperView>(form, paper);
-    }
-
-    Paper& paper;
-};
-
 /// A red bar on green paper of 100 by 20 pixels, with a text; blue pixels are untouched.
 class ProgressBarTest : public testing::Test {
 protected:
     ProgressBarTest() {
         desktop.Show(form);
-        paper.FillRect(paper.ClientRect(), blue);
+        Paper().FillRect(Paper().ClientRect(), blue);
     }
 
     void ShowBar() {
@@ -72,25 +43,26 @@ protected:
     }
 
     /// The colours of a row from left to right, each with the number of its pixels.
-    std::string Row(int y) const {
+    std::string Row(int y) {
         static const std::map<Color, std::string> names{
             {black, "black"}, {white, "white"},   {red, "red"},   {green, "green"},        {blue, "blue"},
             {light, "light"}, {shadow, "shadow"}, {face, "face"}, {highlight, "highlight"}};
         std::string row;
         for (int x = 0, begin = 0; x < 100; ++x) {
-            if (x < 99 && paper.At(x, y) == paper.At(x + 1, y)) continue;
-            row += (begin > 0 ? ", " : "") + std::to_string(x + 1 - begin) + ' ' + names.at(paper.At(x, y));
+            if (x < 99 && Paper().At(x, y) == Paper().At(x + 1, y)) continue;
+            row += (begin > 0 ? ", " : "") + std::to_string(x + 1 - begin) + ' ' + names.at(Paper().At(x, y));
             begin = x + 1;
         }
         return row;
     }
 
-    Paper paper{{0, 0, 100 * 15, 20 * 15}};
+    headless::MemoryCanvas& Paper() { return static_cast<headless::MemoryCanvas&>(*box.Canvas()); }
+
     headless::ManualClock clock;
-    PaperToolkit toolkit{clock, paper};
+    headless::HeadlessToolkit toolkit{clock};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     forms::Form form{desktop, {}};
-    forms::PictureBox box{form, {.name = "box", .place = {}, .bordered = true}};
+    forms::PictureBox box{form, {.name = "box", .place = {0, 0, 100 * 15, 20 * 15}, .bordered = true}};
     headless::FixedTheme theme;
     cProgressBar bar{theme};
 };
@@ -98,7 +70,7 @@ protected:
 TEST_F(ProgressBarTest, TextColoursMeetAtTheEdgeOfTheBar) {
     ShowBar();
     bar.SetValue(100);
-    EXPECT_EQ(paper.LastText, "50%");
+    EXPECT_EQ(Paper().LastText(), "50%");
     EXPECT_EQ(bar.Percent(), 50.0);
     // The text is 21 pixels wide and 9 high: from 39 to 60, and from 5 to 14.
     EXPECT_EQ(Row(10), "1 shadow, 38 red, 11 white, 10 black, 39 green, 1 light");
@@ -118,7 +90,7 @@ TEST_F(ProgressBarTest, HalvesGoToTheEvenNeighbour) {
     for (const auto& test : cases) {
         bar.SetValue(test.value);
         EXPECT_EQ(bar.Percent(), test.percent);
-        EXPECT_EQ(paper.LastText, test.text);
+        EXPECT_EQ(Paper().LastText(), test.text);
         EXPECT_EQ(Row(2), test.row);
     }
 }
@@ -127,11 +99,11 @@ TEST_F(ProgressBarTest, ValuesOutsideTheRangeGiveAnEmptyAndAFullBar) {
     ShowBar();
     bar.SetMin(-200);
     bar.SetValue(-201);
-    EXPECT_EQ(paper.LastText, "0%");
+    EXPECT_EQ(Paper().LastText(), "0%");
     EXPECT_EQ(bar.Percent(), 0.0);
     EXPECT_EQ(Row(10), "1 shadow, 42 green, 14 black, 42 green, 1 light");
     bar.SetValue(201);
-    EXPECT_EQ(paper.LastText, "100%");
+    EXPECT_EQ(Paper().LastText(), "100%");
     EXPECT_EQ(bar.Percent(), 100.0);
     EXPECT_EQ(Row(10), "1 shadow, 35 red, 28 white, 35 red, 1 light");
 }
@@ -146,16 +118,16 @@ TEST_F(ProgressBarTest, FrameIsSunkenAndLeavesOutTheLastPixelOfItsLines) {
 
 TEST_F(ProgressBarTest, InitialColoursFillNothingAndNoTextIsDrawnUnlessWanted) {
     bar.SetPicBox(&box);
-    EXPECT_EQ(paper.Refreshes(), 0) << "handing over the box draws nothing";
+    EXPECT_EQ(Paper().Refreshes(), 0) << "handing over the box draws nothing";
     EXPECT_FALSE(box.Bordered());
     bar.SetValue(50);
     EXPECT_EQ(Row(10), "1 shadow, 98 blue, 1 light");
-    EXPECT_EQ(paper.LastText, "");
+    EXPECT_EQ(Paper().LastText(), "");
     EXPECT_EQ(bar.Percent(), 50.0);
     bar.SetBackColor(forms::kButtonFace);
     bar.SetBarColor(forms::kHighlight);
     EXPECT_EQ(Row(10), "1 shadow, 49 highlight, 49 face, 1 light");
-    EXPECT_EQ(paper.Refreshes(), 3) << "each change is on the screen at once";
+    EXPECT_EQ(Paper().Refreshes(), 3) << "each change is on the screen at once";
 }
 
 TEST_F(ProgressBarTest, WithoutABoxValuesAreOnlyStored) {

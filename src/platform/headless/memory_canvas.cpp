@@ -36,6 +36,7 @@ void MemoryCanvas::FillRect(const forms::PixelRect& area, forms::Color color) {
 
 void MemoryCanvas::DrawText(std::string_view text, const forms::PixelRect& area, const forms::Font&,
                             forms::Color color) {
+    lastText_ = text;
     const int width = static_cast<int>(text::CharacterCount(text)) * kCharacterWidth;
     const int left = (area.left + area.right - width) / 2;
     const int top = (area.top + area.bottom - kCharacterHeight) / 2;

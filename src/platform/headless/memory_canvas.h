@@ -2,6 +2,7 @@
 
 #include "forms/canvas.h"
 
+#include <string>
 #include <vector>
 
 namespace halvenmoor::headless {
@@ -26,6 +27,8 @@ public:
 
     forms::Color At(int x, int y) const { return pixels_.at(static_cast<std::size_t>(y * width_ + x)); }
     int Refreshes() const { return refreshes_; }
+    /// The text that was drawn last.
+    const std::string& LastText() const { return lastText_; }
 
 private:
     int width_;
@@ -33,6 +36,7 @@ private:
     forms::PixelRect clip_;
     std::vector<forms::Color> pixels_;
     int refreshes_ = 0;
+    std::string lastText_;
 };
 
 }  // namespace halvenmoor::headless
