@@ -4,8 +4,6 @@
 namespace halvenmoor {
 namespace {
 
-const Failure kFault(failure::FileAccess, "Device I/O error");
-
 /// The enabled ones of the buttons that follow the lists; the one with the focus stands in brackets.
 std::string Buttons(TestProgram& program) {
     frmMain& window = program.Window();
@@ -42,24 +40,6 @@ TEST(CameraFilesTest, AreListedSortedWithoutExtension) {
     program.memory.AddFolder("/p/demo/asc_demo/folder.asc");
     program.Start();
     EXPECT_EQ(program.Items(0), (Strings{"A", "b", "K\xF6ln", "twice", "X", "x.y"}));
-}
-
-TEST(CameraFilesTest, FailedSearchShowsWhatItFound) {
-    TestProgram program;
-    for (const auto* name : {"a", "b", "c"}) program.AddCameraFile(name);
-    program.Start();
-    program.Move(2, {"b"});
-    const int before = program.files.Calls();
-    program.Click(program.Window().ButtonReloadFiles);
-    const int calls = program.files.Calls() - before;
-
-    program.files.FailCall(calls, kFault);  // at the third name
-    program.Click(program.Window().CheckAuto[1]);
-    EXPECT_EQ(program.Items(0), (Strings{"a", "b"}));
-    program.files.FailCall(calls - 3, kFault);  // at the search itself
-    program.Click(program.Window().CheckAuto[1]);
-    EXPECT_EQ(program.Items(0), Strings());
-    EXPECT_TRUE(program.messages.Messages.empty());
 }
 
 class CatalogueTest : public testing::Test {
@@ -281,14 +261,6 @@ TEST_F(LanguageTest, NamesAreShownInProperCase) {
     EXPECT_EQ(ExitCaption(), "Exit Deutsch");
     Choose("English");
     EXPECT_EQ(ExitCaption(), "Exit English");
-}
-
-TEST_F(LanguageTest, StoredChoiceComesBack) {
-    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
-    program.SetOption("Language", "deutsch");
-    program.Start();
-    EXPECT_EQ(Chosen(), "Deutsch");
-    EXPECT_EQ(ExitCaption(), "Beenden");
 }
 
 TEST_F(LanguageTest, VanishedFileLeavesTheLanguageInUse) {

@@ -103,26 +103,6 @@ TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
     EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
 }
 
-TEST_F(DiskTest, AFailedWriteKeepsWhatFitsAndIsNotRepeated) {
-    constexpr rlim_t largest = disk::kBufferSize + 10;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto setLimit = [&](rlim_t limit) {
-        const rlimit limits{limit, before.rlim_max};
-        return ::setrlimit(RLIMIT_FSIZE, &limits);
-    };
-    const auto writer = object->CreateTextFile(folder / "a");
-    const std::string line(2 * disk::kBufferSize, 'x');
-    ASSERT_EQ(setLimit(largest), 0);
-    EXPECT_EQ(FailureNumber([&] { writer->WriteLine(line); }), failure::DiskFull);
-    ASSERT_EQ(setLimit(before.rlim_cur), 0);
-    std::signal(SIGXFSZ, handler);
-
-    EXPECT_EQ(FailureNumber([&] { writer->Close(); }), failure::DiskFull);
-    EXPECT_TRUE(folder.Text("a") == line.substr(0, largest));
-}
-
 TEST_F(DiskTest, FoldersPipesAndDevicesAreNoFilesToRead) {
     ASSERT_EQ(::mkfifo((folder / "pipe.asc").c_str(), 0600), 0);
     for (const std::string& path : {folder / "pipe.asc", std::string("/dev/zero")}) {

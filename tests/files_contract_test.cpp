@@ -191,20 +191,6 @@ TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {
     }
 }
 
-TYPED_TEST(FilesContract, ReadsBytesInOrder) {
-    this->world.Put("a.OV2", std::string("\xEF\xBB\xBF\0\r\n", 6));
-    const auto reader = this->host.OpenBytes(this->At("a.ov2"));
-    std::array<char, 4> buffer{};
-    EXPECT_EQ(reader->Remaining(), 6u);
-    EXPECT_EQ(reader->Read(buffer), 4u);
-    EXPECT_EQ(std::string(buffer.data(), 4), std::string("\xEF\xBB\xBF\0", 4));
-    EXPECT_EQ(reader->Remaining(), 2u);
-    EXPECT_EQ(reader->Read(buffer), 2u);
-    EXPECT_EQ(std::string(buffer.data(), 2), "\r\n");
-    EXPECT_EQ(reader->Remaining(), 0u);
-    EXPECT_EQ(reader->Read(buffer), 0u);
-}
-
 TYPED_TEST(FilesContract, RenameNeverReplaces) {
     this->world.Put("asc/Old.ASC", "old");
     this->world.Put("asc/taken.asc", "taken");

@@ -299,13 +299,6 @@ TEST_F(FormsTest, ViewsAreBroughtUpToDateAtYieldsAndAfterEvents) {
     EXPECT_FALSE(main.HasChanges());
 }
 
-TEST_F(FormsTest, ScriptAtItsEndIsReported) {
-    ShowMain();
-    desktop.ShowModal(dialog);
-    EXPECT_EQ(log.back(), "dialog stuck");
-    EXPECT_TRUE(desktop.Ended());
-}
-
 TEST_F(FormsTest, ListsOrderByFoldedCharactersAndEqualOnesByBytes) {
     list.AddItems({"z", "b", "\xC3\xA4", "a", "B"});
     list.AddItems({"\xC4", "A", "a b", "\xC3\x84", "Z10", "Z1"});

@@ -10,21 +10,12 @@
 
 #include <gtest/gtest.h>
 #include <set>
-#include <tuple>
 
 namespace halvenmoor {
 namespace {
 
 using forms::Control;
 using forms::Place;
-
-using Row = std::tuple<int, int, int, int, int>;
-
-/// Place and tab number of a control, as a row of its window's table.
-Row RowOf(const Control& control) {
-    const Place& place = control.AtDesign().place;
-    return {place.left, place.top, place.width, place.height, control.AtDesign().tab};
-}
 
 /// Where a control lies on its window.
 Place OnWindow(const Control& control) {
@@ -105,27 +96,6 @@ TEST_F(LayoutTest, NothingThatTheUserOperatesIsCovered) {
             }
         }
     }
-}
-
-TEST_F(LayoutTest, RowsOfTheTables) {
-    EXPECT_EQ(RowOf(main.TypeList[5]), Row(1440, 6720, 3375, 1230, 34));
-    EXPECT_EQ(RowOf(main.ButtonRemove[3]), Row(4860, 4425, 855, 375, 20));
-    EXPECT_EQ(RowOf(main.CheckAuto[1]), Row(4920, 540, 795, 255, 12));
-    EXPECT_EQ(RowOf(main.Picture[1]), Row(150, 480, 1230, 1230, 28));
-    EXPECT_EQ(RowOf(main.Picture[2]), Row(150, 2040, 1230, 1230, 35));
-    EXPECT_EQ(RowOf(main.MainList), Row(5760, 480, 3375, 7470, 29));
-    EXPECT_EQ(RowOf(main.OptionExportMode[3]), Row(9360, 6300, 2295, 390, 8));
-    EXPECT_EQ(RowOf(main.ButtonExitApplication), Row(9660, 8040, 1695, 375, 11));
-    EXPECT_EQ(RowOf(results.FrameType[1]), Row(180, 1080, 8595, 615, 0));
-    EXPECT_EQ(RowOf(results.LabelType[5]), Row(120, 240, 3195, 255, 9));
-    EXPECT_EQ(RowOf(results.LabelFilesResult[0]), Row(3360, 240, 975, 255, 17));
-    EXPECT_EQ(RowOf(results.LabelSkippedResult[5]), Row(7200, 240, 975, 255, 29));
-    EXPECT_EQ(results.LabelSkippedResult[0].AtDesign().frame, &results.FrameAllTypes);
-    EXPECT_EQ(results.LabelExportedResult[4].AtDesign().frame, &results.FrameType[4]);
-    EXPECT_EQ(RowOf(imports.OptionSource[2]), Row(360, 3960, 7215, 416, 4));
-    EXPECT_EQ(RowOf(imports.LabelAddedRecords), Row(2520, 1860, 2655, 255, 18));
-    EXPECT_EQ(RowOf(exports.picProgress), Row(480, 720, 6025, 285, 1));
-    EXPECT_EQ(RowOf(renames.ButtonCancel), Row(2580, 480, 855, 315, 2));
 }
 
 TEST_F(LayoutTest, StartValues) {

@@ -11,6 +11,7 @@
 namespace halvenmoor {
 namespace {
 
+using namespace std::string_literals;
 using Patterns = TypeTable<PatternList>;
 
 const text::CodePage& kPage = text::WindowsCodePage(1252);
@@ -19,61 +20,39 @@ Patterns Lists(Strings one, Strings two = {}, Strings three = {}, Strings four =
     return {PatternList(), one, two, three, four, five};
 }
 
-int TypeOf(std::string_view name, const Patterns& patterns) {
-    return NamePatterns(patterns, kPage).NameMatchesAnyPattern(name);
-}
-
-TEST(NamePatternsTest, FindsTextsAnywhereIgnoringCase) {
-    const Patterns patterns = Lists({"(fixed)"}, {}, {}, {}, {" Mobile "});
-    EXPECT_EQ(TypeOf("\"A40 (FIXED)\"", patterns), 1);
-    EXPECT_EQ(TypeOf("\"automobiles\"", patterns), 5) << "a pattern is trimmed";
-    EXPECT_EQ(TypeOf("\"mobil\"", patterns), 0);
-    EXPECT_EQ(TypeOf("\"m*bile?\"", Lists({"m*bile?"})), 1) << "no wildcards";
-    EXPECT_EQ(TypeOf("\"name\"", Lists({"\"name"})), 1) << "the quotes belong to the name";
-    EXPECT_EQ(TypeOf("\"name\"", Lists({})), 0);
-}
-
-TEST(NamePatternsTest, LowestTypeWins) {
-    EXPECT_EQ(TypeOf("mobile section", Lists({}, {"section"}, {}, {"mobile"})), 2);
-    EXPECT_EQ(TypeOf("redlight", Lists({}, {}, {"redlight"}, {"red"}, {"edl"})), 3);
-    EXPECT_EQ(TypeOf("redlight", Lists({"light"}, {}, {"redlight"}, {"red"})), 1);
-    EXPECT_EQ(TypeOf("abcd", Lists({"bcx"}, {}, {"bc"}, {}, {"abcd"})), 3) << "a pattern inside another";
-    EXPECT_EQ(TypeOf("mobile", Lists({"mobil"}, {}, {}, {}, {"mobile section"})), 1)
-        << "one begins with another";
-    EXPECT_EQ(TypeOf("red", Lists({}, {"red"}, {}, {"RED"})), 2) << "one pattern twice";
-    EXPECT_EQ(TypeOf("aab", Lists({}, {}, {}, {"ab"}, {"aac"})), 4) << "a pattern begins within a failed one";
-}
-
-TEST(NamePatternsTest, TellsEqualCharactersOfAPatternApart) {
-    const Patterns patterns = Lists({std::string(40, 'a')});
-    EXPECT_EQ(TypeOf(std::string(39, 'a'), patterns), 0);
-    EXPECT_EQ(TypeOf(std::string(40, 'a'), patterns), 1);
-}
-
-TEST(NamePatternsTest, EmptyPatternIsFoundInEveryNameThatIsNotEmpty) {
-    const Patterns patterns = Lists({}, {"red"}, {"  "}, {"section"});
-    EXPECT_EQ(TypeOf("x", patterns), 3);
-    EXPECT_EQ(TypeOf("section", patterns), 3);
-    EXPECT_EQ(TypeOf("red", patterns), 2);
-    EXPECT_EQ(TypeOf("\"\"", patterns), 3);
-    EXPECT_EQ(TypeOf("", patterns), 0);
-}
-
-TEST(NamePatternsTest, ComparesCharacters) {
-    EXPECT_EQ(TypeOf("K\xD6LN", Lists({"k\xC3\xB6ln"})), 1);
-    EXPECT_EQ(TypeOf("K\xC3\x96LN", Lists({"k\xF6ln"})), 1);
-    EXPECT_EQ(TypeOf("ПОДВИЖНАЯ", Lists({}, {"подвижная"})), 2);
-    EXPECT_EQ(TypeOf("\xC3\xB6", Lists({"\xB6"})), 0) << "no character begins inside another";
-}
-
-TEST(NamePatternsTest, FindsZeroBytesOnlyWhereTheyAre) {
-    const Patterns patterns = Lists({std::string("ab\0", 3)});
-    EXPECT_EQ(TypeOf("ab", patterns), 0);
-    EXPECT_EQ(TypeOf(std::string("ab\0", 3), patterns), 1);
-}
-
-TEST(NamePatternsTest, NeedsTheLists) {
-    EXPECT_EQ(FailureNumber([] { TypeOf("name", Patterns()); }), failure::TypeMismatch);
+TEST(NamePatternsTest, LowestTypeOfThePatternsFoundWins) {
+    const struct {
+        std::string name;
+        Patterns patterns;
+        int type;
+    } cases[] = {
+        {"\"A40 (FIXED)\"", Lists({"(fixed)"}), 1},
+        {"\"automobiles\"", Lists({}, {}, {}, {}, {" Mobile "}), 5},  // a pattern is trimmed
+        {"\"mobil\"", Lists({"mobile"}), 0},
+        {"\"m*bile?\"", Lists({"m*bile?"}), 1},  // no wildcards
+        {"\"name\"", Lists({"\"name"}), 1},      // the quotes belong to the name
+        {"\"name\"", Lists({}), 0},
+        {"mobile section", Lists({}, {"section"}, {}, {"mobile"}), 2},
+        {"redlight", Lists({}, {}, {"redlight"}, {"red"}, {"edl"}), 3},
+        {"abcd", Lists({"bcx"}, {}, {"bc"}, {}, {"abcd"}), 3},  // one inside another
+        {"mobile", Lists({"mobil"}, {}, {}, {}, {"mobile section"}), 1},
+        {"aab", Lists({}, {}, {}, {"ab"}, {"aac"}), 4},  // one begins within another that fails
+        {std::string(39, 'a'), Lists({std::string(40, 'a')}), 0},
+        {"red", Lists({}, {"red"}, {"  "}, {"section"}), 2},
+        {"section", Lists({}, {"red"}, {"  "}, {"section"}), 3},  // the empty one is found everywhere
+        {"", Lists({}, {}, {"  "}), 0},                           // but in nothing
+        {"K\xD6LN", Lists({"k\xC3\xB6ln"}), 1},
+        {"K\xC3\x96LN", Lists({"k\xF6ln"}), 1},
+        {"\xC3\xB6", Lists({"\xB6"}), 0},  // no character begins inside another
+        {"ab", Lists({"ab\0"s}), 0},
+        {"ab\0"s, Lists({"ab\0"s}), 1},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(NamePatterns(test.patterns, kPage).NameMatchesAnyPattern(test.name), test.type)
+            << testing::PrintToString(test.name) << testing::PrintToString(test.patterns);
+    }
+    EXPECT_EQ(FailureNumber([] { NamePatterns(Patterns(), kPage).NameMatchesAnyPattern("name"); }),
+              failure::TypeMismatch);
 }
 
 /// One pattern after the other, each looked for by itself.

@@ -98,29 +98,6 @@ TEST_F(NamesTest, TextsAreReadAnewUntilSwitchedOff) {
     EXPECT_EQ(program.files.Calls(), calls) << "the built-in texts need no file";
 }
 
-TEST_F(NamesTest, BuiltInTextsAreEnglish) {
-    names.SetEnabled(false);
-    std::string shown;
-    for (const auto* text : names.Texts()) shown += (*text)() + '|';
-    EXPECT_EQ(names.Texts().size(), 54U);
-    EXPECT_EQ(
-        shown,
-        "Speed Camera|Type|Fixed Speed Camera|Red Speed Camera|Red Light Camera|Section Speed Camera|"
-        "Mobile Speed Camera|Speed Camera Files|Unclassified|Select Language|File Options|Classify Files|"
-        "Reload Files|Rename File|Import Files|Demonstration Mode|Export Cameras|Export|Replace File|"
-        "Save File As|Append To File|Save Results To File|Show Results|Exit|Save As New Speed Camera File|"
-        "Append To Existing Speed Camera File|New|Exporting Speed Cameras|Appending Speed Cameras|"
-        "Export Speed Cameras|Append Speed Cameras|Exported Speed Camera Results|"
-        "Appended Speed Camera Results|Files Processed|Exported Cameras|Appended Cameras|Skipped Cameras|"
-        "All Types|Total Files and Cameras|Close|Show results summary after exporting speed cameras|"
-        "Import Files|Selections|Source Folder|Target Folder|File|Camera|Actions|"
-        "Delete any existing files in target folder, then|"
-        "Convert all OV2 source files to Ascii and save in target folder|"
-        "Convert all TXT source files to Ascii and save in target folder|Start|Cancel|Finish|");
-    EXPECT_EQ(names.LabelTypeDescription(1), "Fixed Speed Camera");
-    EXPECT_EQ(names.LabelTypeDescription(5), "Mobile Speed Camera");
-}
-
 const std::filesystem::path kLanguages = HALVENMOOR_DATA "/lang";
 
 /// Keys and values of the section of a language file.
@@ -153,21 +130,6 @@ TEST_F(NamesTest, EveryLanguageThatComesWithTheProgramIsComplete) {
             EXPECT_EQ((*text)(), value) << "letters show as the file has them";
         }
     }
-}
-
-TEST(LanguagesTest, ThoseThatComeWithTheProgramAreOfferedByTheirOwnNames) {
-    TestProgram program;
-    for (const auto& file : std::filesystem::directory_iterator(kLanguages)) {
-        program.AddLanguage(file.path().stem().string(), "");
-    }
-    program.Start();
-    std::set<std::string> shown;
-    for (int i = 0; i < program.Window().LanguageList.ListCount(); ++i) {
-        shown.insert(program.Window().LanguageList.List(i));
-    }
-    EXPECT_EQ(shown, (std::set<std::string>{"Deutsch", "English", "Español", "Français", "Italiano", "Magyar",
-                                            "Nederlands", "Polski", "Português", "Română", "Svenska",
-                                            "Türkçe", "Čeština", "Ελληνικά", "Русский", "Українська"}));
 }
 
 TEST(LanguagesTest, OldFilesShowRightUnderTheirSystemLanguage) {

@@ -5,8 +5,6 @@
 namespace halvenmoor {
 namespace {
 
-const Failure kFault(failure::PermissionDenied, "Permission denied");
-
 class RenameTest : public testing::Test {
 protected:
     using Action = std::function<void(frmRename&)>;
@@ -181,14 +179,6 @@ TEST_F(RenameTest, TakesTheNameAsItWasTyped) {
     }
 }
 
-TEST_F(RenameTest, FindsTheOldFileInAnyLetterCase) {
-    program.memory.Put("/p/demo/asc_demo/Berlin.ASC", "text");
-    Start({});
-    EXPECT_TRUE(Rename("Berlin", "Bonn"));
-    EXPECT_EQ(TextOf("Bonn"), "text");
-    EXPECT_FALSE(program.memory.Has("/p/demo/asc_demo/Berlin.ASC"));
-}
-
 TEST_F(RenameTest, AFailureLeavesWhatWasTyped) {
     Start();
     // Making the file-system object, the test, the renaming: the last one as if the name were taken
@@ -225,16 +215,6 @@ TEST_F(RenameTest, ReportsAFileThatHasGone) {
     EXPECT_EQ(program.Items(0), (Strings{"a", "K\xF6ln"}));
     program.Click(Window().CheckAuto[1]);
     EXPECT_EQ(program.Items(0), Strings{"a"}) << "until the next reload";
-}
-
-TEST_F(RenameTest, AFailureBeforeTheDialogShowsNothing) {
-    Start();
-    for (int call = 1; call <= 2; ++call) {
-        program.Select(0, {"b"});
-        program.files.FailCall(call, kFault);
-        EXPECT_FALSE(OpenForSelection()) << call;
-        ExpectNothingChanged();
-    }
 }
 
 TEST_F(RenameTest, NeedsOneSelectedRow) {

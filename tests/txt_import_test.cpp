@@ -156,33 +156,5 @@ TEST(TxtImportTest, CameraFileThatCannotBeMadeEndsItsTypeOnly) {
     EXPECT_EQ(program.CameraFolder(), (Strings{"Fixed_Camera_050.asc", "RedSpeed_Camera_050.asc"}));
 }
 
-TEST(TxtImportTest, ExportedCamerasComeBack) {
-    ImportProgram program(
-        "[Settings]\nSourceStructure=3\n[Type1]\nFixed*\n[Type2]\nRedSpeed*\n[Type3]\nRedLight*\n"
-        "[Type4]\nSection*\n[Type5]\nMobile*\n");
-    const std::string cameras = Crlf(
-        "X,Y,TYPE,SPEED,DirType,Direction\n"
-        "1.5,52.5,1,50,1,90\n"
-        "-1.25,52.25,1,120,2,180\n"
-        "3.5,52.5,2,30,0,0\n"
-        "4.5,-12.5,3,0,1,5\n"
-        "5.5,52.5,4,80,2,359\n"
-        "6.5,52.5,5,70,1,1\n");
-    for (int round = 1; round <= 2; ++round) {
-        program.AddTxt("exported", round == 1 ? cameras : program.Target());
-        EXPECT_EQ(program.Import(kTxt), "PictureFinished");
-        program.Click(program.Window().ButtonClassifyFiles);
-        EXPECT_TRUE(program.Export());
-        EXPECT_EQ(program.Target(), cameras);
-    }
-    program.AddTxt("exported", "7.5,52.5,2,40\n8.5,52.5,1,50,0,77\n");
-    EXPECT_EQ(program.Import(kTxt), "PictureFinished");
-    program.Click(program.Window().ButtonClassifyFiles);
-    EXPECT_TRUE(program.Export());
-    EXPECT_EQ(program.Target(), Crlf("X,Y,TYPE,SPEED,DirType,Direction\n"
-                                     "8.5,52.5,1,50,0,0\n"
-                                     "7.5,52.5,2,40,0,0\n"));
-}
-
 }  // namespace
 }  // namespace halvenmoor

@@ -97,18 +97,5 @@ TEST_F(RenameWindow, EnterConfirmsAndEscapeCancelsOnItsButtons) {
     EXPECT_FALSE(HasFile("other"));
 }
 
-TEST_F(RenameWindow, ARefusedNameGivesWayToTheOldOne) {
-    Rename(0, 0, [](QWidget& dialog, QLineEdit& field) {
-        for (const char* const name : {"camera 11", "what?"}) {
-            QTest::keyClicks(&field, name);
-            QTest::mouseClick(dialog.findChild<QWidget*>("ButtonRename"), Qt::LeftButton);
-            EXPECT_TRUE(dialog.isVisible());
-            EXPECT_EQ(field.selectedText(), "camera 10");
-            EXPECT_EQ(QApplication::focusWidget(), &field);
-        }
-    });
-    EXPECT_TRUE(HasFile("camera 10"));
-}
-
 }  // namespace
 }  // namespace halvenmoor::qt
