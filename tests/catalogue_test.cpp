@@ -114,6 +114,7 @@ TEST_F(CatalogueTest, ButtonsFollowTheLists) {
     program.Select(0, {"a", "b"});
     EXPECT_EQ(Buttons(program), "ClassifyFiles ImportFiles");
     EXPECT_TRUE(Window().MainList.HasFocus());
+    program.Select(0, {"a"});
     program.Click(Window().ButtonAdd[1]);
     EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles [ExportCameras]");
     program.Select(0, {"c"});
@@ -125,7 +126,7 @@ TEST_F(CatalogueTest, ButtonsFollowTheLists) {
     program.Click(Window().ButtonAdd[2]);
     EXPECT_EQ(Buttons(program), "ClassifyFiles ReloadFiles ImportFiles [ExportCameras]")
         << "moving nothing ends the results too";
-    program.Move(2, {"c", "d", "e"});
+    program.Move(2, {"b", "c", "d", "e"});
     EXPECT_EQ(Buttons(program), "ReloadFiles ImportFiles [ExportCameras]");
     program.Click(Window().ButtonReloadFiles);
     EXPECT_EQ(Buttons(program), "[ClassifyFiles] ImportFiles");

@@ -3,6 +3,7 @@
 #include "files_test_helpers.h"
 #include "program.h"
 
+#include <set>
 #include <utility>
 
 namespace halvenmoor {
@@ -33,9 +34,9 @@ protected:
             if (!entries.empty()) program.Move(type, entries);
         }
     }
-    /// One camera in a file of type 1, and its line in the target.
+    /// One camera and one bad line in a file of type 1, and what comes into the target.
     void StartWithOneCamera() {
-        Add(1, "one_50", "1.5,52.5,x");
+        Add(1, "one_50", "skipped, 52.5, x\n1.5,52.5,x");
         Start();
     }
     const std::string oneLine = "1.5,52.5,1,50,0,0\r\n";
@@ -136,6 +137,7 @@ TEST_F(ExportTest, AppendsBehindTheLastByte) {
     EXPECT_TRUE(program.ExportTo(3, "/p/a.txt"));
     EXPECT_EQ(program.Text("/p/a.txt"), kHeader + "old\r\n" + oneLine + oneLine);
     EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1})) << "of the last run only";
+    EXPECT_EQ(Exports().CamerasSkipped, (Counter{0, 1}));
 
     program.memory.Put("/p/b.txt", " x,y,type,speed,dirtype,DIRECTION \nold");
     EXPECT_TRUE(program.ExportTo(3, "/p/b.txt"));
@@ -265,23 +267,29 @@ TEST_F(ExportTest, TakesItsTime) {
 TEST_F(ExportTest, WindowTellsWhatItDoes) {
     StartWithOneCamera();
     Window().MoveTo({100, 200});
+    const forms::Color face = program.theme.SystemColor(forms::kButtonFaceNumber).value();
+    const forms::Color highlight = program.theme.SystemColor(forms::kHighlightNumber).value();
     for (const int mode : {1, 3}) {
         program.Click(Window().OptionExportMode[mode]);
         ASSERT_TRUE(Exports().BuildExportFileList());
         frmExport window(Exports());
         window.SetExportFileName(program.TargetPath());
-        bool turned = false;
+        std::string shown;
+        std::set<forms::Color> colors;  // of a place that the bar comes to
         program.toolkit.OnTurn = [&] {
-            turned = true;
             EXPECT_EQ(window.Position().left, 1880);
             EXPECT_EQ(window.Position().top, 3500);
             EXPECT_EQ(window.Caption(), mode == 3 ? "Append Speed Cameras" : "Export Speed Cameras");
             EXPECT_EQ(window.LabelProgress.Caption(),
                       mode == 3 ? "Appending Speed Cameras..." : "Exporting Speed Cameras...");
+            const auto& bar = static_cast<headless::MemoryCanvas&>(*window.picProgress.Canvas());
+            shown += bar.LastText() + '|';
+            colors.insert(bar.At(10, 10));
         };
         program.desktop.ShowModal(window);
         program.toolkit.OnTurn = nullptr;
-        EXPECT_TRUE(turned);
+        EXPECT_TRUE(shown.starts_with("0%|") && shown.ends_with("|100%|")) << shown;
+        EXPECT_EQ(colors, (std::set<forms::Color>{face, highlight}));
         EXPECT_TRUE(window.ExportResultsValid());
         EXPECT_FALSE(window.IsOpen());
     }

@@ -137,8 +137,11 @@ TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
     list.RemoveItem(0);
     EXPECT_TRUE(list.MoveItemsTo(other, [this](int i) { return list.Selected(i); }));
     EXPECT_EQ(list.SelCount() + other.SelCount(), 0);
-    list.Clear();
+    other.SetSelected(0, true);
+    other.Clear();
+    EXPECT_EQ(other.SelCount(), 0);
     combo.Clear();
+    EXPECT_EQ(combo.ListIndex(), -1);
     EXPECT_EQ(combo.Text(), "");
     EXPECT_EQ(clicks, 0);
 }

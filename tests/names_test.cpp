@@ -1,12 +1,12 @@
 #include "core/text/decode.h"
-#include "program.h"
+#include "import_program.h"
 #include "temporary_folder.h"
 #include "ui/cNamesClass.h"
+#include "ui/frmRename.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <set>
 #include <sstream>
 
 namespace halvenmoor {
@@ -129,6 +129,42 @@ TEST_F(NamesTest, EveryLanguageThatComesWithTheProgramIsComplete) {
             EXPECT_NE(value, "") << key;
             EXPECT_EQ((*text)(), value) << "letters show as the file has them";
         }
+    }
+}
+
+TEST(LanguagesTest, EveryTextShowsAndNoneIsLeftInEnglish) {
+    ImportProgram program;
+    const cNamesClass english(program.core.Services());
+    const auto& texts = english.Texts();
+    ASSERT_EQ(texts.size(), 54u);
+    std::string language;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        language += std::string(texts[i]->Key()) + "=<" + std::to_string(i) + ">\n";
+    program.AddLanguage("english", language);
+    program.Select(program.Window().LanguageList, "English");
+    for (const char* entry : {"a", "b"}) program.AddCameraFile(entry, "1.5,52.5,x\n");
+    program.AddTxt("c", "1.5,52.5,1,50\n");
+    program.Click(program.Window().CheckAuto[1]);
+
+    std::string shown;
+    const auto look = [&shown](const forms::Form& form) {
+        shown += form.Caption() + '\n';
+        for (const forms::Control* control : form.Controls())
+            shown += control->Caption() + '\n' + control->AccessibleName() + '\n';
+    };
+    program.toolkit.OnTurn = [&] {  // while an export runs, too
+        if (const forms::Form* dialog = program.toolkit.OpenDialog()) look(*dialog);
+    };
+    look(program.Window());
+    program.Select(0, {"b"});
+    EXPECT_TRUE(program.TestProgram::Open<frmRename>(program.Window().ButtonRenameFile, look));
+    program.Move(1, {"a"});
+    for (const int mode : {2, 3}) EXPECT_TRUE(program.ExportTo(mode, "/p/txt/a.txt", look));
+    EXPECT_EQ(program.Import(ImportProgram::kTxt, look), "PictureFinished");
+    for (const auto& dialog : program.fileDialogs.Asked) shown += dialog.title + dialog.suggestedName;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        EXPECT_NE(shown.find('<' + std::to_string(i) + '>'), std::string::npos) << texts[i]->Key();
+        EXPECT_EQ(shown.find((*texts[i])()), std::string::npos) << (*texts[i])();
     }
 }
 

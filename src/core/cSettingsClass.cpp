@@ -64,7 +64,6 @@ SectionTexts ReadSections(platform::TextReader& file) {
 /// A list with too many elements ends with one too many, which holds the rest: nobody walks over such a list,
 /// and a string for each comma would take a hundred times the room of the file.
 std::vector<std::string> SplitList(std::string_view source) {
-    source = text::Trim(source);
     std::vector<std::string> list;
     if (source.empty()) return list;
     while (list.size() < kMaxPatterns) {
