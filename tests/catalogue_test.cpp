@@ -152,18 +152,6 @@ TEST_F(CatalogueTest, AutoBoxesResetTheLists) {
     EXPECT_EQ(program.Items(3), Strings{"new"}) << "the settings were read again";
 }
 
-TEST_F(CatalogueTest, DemonstrationModeWorksOnItsOwnFolders) {
-    program.memory.Put("/p/demo/asc_demo/demo.asc", "");
-    program.Move(1, {"a"});
-    program.Click(Window().CheckDemoMode);
-    EXPECT_EQ(program.Option("DemoMode"), "1");
-    EXPECT_EQ(program.Items(0), Strings{"demo"});
-    EXPECT_EQ(program.Items(1), Strings());
-    program.Click(Window().CheckDemoMode);
-    EXPECT_EQ(program.Option("DemoMode"), "0");
-    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "d", "e"}));
-}
-
 class ClassificationTest : public testing::Test {
 protected:
     void Classify(std::string_view settings, const Strings& names) {

@@ -244,24 +244,6 @@ TEST_F(FormsTest, ForcedEndAsksNobodyAndNothingOpensAfterIt) {
     EXPECT_FALSE(main.IsOpen() || main.second.UserPress());
 }
 
-TEST_F(FormsTest, EscapePressesTheCancelButtonAndNothingElseClosesAFormWithoutCloseBox) {
-    TestForm running(desktop, log, {.name = "running", .title = "", .closeBox = false});
-    running.first.OnClick = [&] { running.Tell("cancelled"); };
-    ShowMain();
-    toolkit.Script([&](Form&) {
-        log.clear();
-        EXPECT_FALSE(running.UserClose() || running.UserEscape());
-        running.SetCancelButton(&running.first);
-        EXPECT_TRUE(running.UserEscape());
-        running.first.SetEnabled(false);
-        EXPECT_FALSE(running.UserEscape());
-        running.Unload();
-    });
-    desktop.ShowModal(running);
-    EXPECT_EQ(log,
-              (Log{"running cancelled", "lost first", "got second", "running program?", "main activate"}));
-}
-
 TEST_F(FormsTest, FailureEndsOnlyItsOwnEvent) {
     main.OnActivate = [] { throw std::runtime_error("failure"); };
     ShowMain();

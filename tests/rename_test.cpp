@@ -71,19 +71,6 @@ TEST_F(RenameTest, TheEntryTakesItsSortedPlace) {
     EXPECT_EQ(program.memory.Calls(), Strings{"rename /p/demo/asc_demo/b.asc > /p/demo/asc_demo/D2.asc"});
 }
 
-TEST_F(RenameTest, OffersTheOldNameSelected) {
-    program.AddLanguage("Deutsch", "ButtonRenameFile=Datei #umbenennen\n");
-    program.SetOption("Language", "Deutsch");
-    Start();
-    EXPECT_TRUE(Open("c", [](frmRename& dialog) {
-        EXPECT_EQ(dialog.Caption(), "Datei umbenennen");
-        EXPECT_EQ(dialog.TextFileName.Text(), "c");
-        EXPECT_TRUE(dialog.TextFileName.TakeSelectAll());
-        EXPECT_TRUE(dialog.TextFileName.HasFocus());
-    }));
-    ExpectNothingChanged();
-}
-
 TEST_F(RenameTest, OpensBesideTheRow) {
     Start();
     // The main window stands at 3600, 2955. To the right it goes on by a frame of 3 pixels and the list's
