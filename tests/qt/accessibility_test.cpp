@@ -5,7 +5,9 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QLabel>
+#include <algorithm>
 #include <map>
+#include <set>
 
 namespace halvenmoor::qt {
 namespace {
@@ -64,6 +66,60 @@ TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     EXPECT_EQ(NameOf(Form().ButtonRemove[1]),
               "Blitzer Typ \"1\" (Fester Blitzer) \u2192 Blitzerdateien (Ohne Typ)");
     EXPECT_EQ(LabelOf(Form().LanguageList), "Sprache wählen");
+}
+
+/// Tab goes from each control to the next one in the order, which shows that it has the focus.
+void ExpectFocusSeenInOrder(forms::Form& form) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&WidgetOf(form)));
+    std::vector<forms::Control*> stops;
+    for (forms::Control* const control : form.InTabOrder()) {
+        const auto* const option = dynamic_cast<forms::OptionButton*>(control);
+        if (control->CanTakeFocus() && (option == nullptr || option->Value())) stops.push_back(control);
+    }
+    if (stops.empty()) return;
+    stops.back()->SetFocus();
+    form.Owner().Yield();
+    for (const forms::Control* control : stops) {
+        const QImage before = WidgetOf(*control).grab().toImage();
+        QTest::keyClick(&WidgetOf(form), Qt::Key_Tab);
+        ASSERT_EQ(form.ActiveControl(), control) << control->Name();
+        EXPECT_TRUE(stops.size() == 1 || WidgetOf(*control).grab().toImage() != before) << control->Name();
+    }
+}
+
+TEST_F(AllWindows, ShowWhereTheFocusIs) {
+    LookAtAllWindows(ExpectFocusSeenInOrder);
+}
+
+/// A caption shows, for without it the control looks different. So do glyphs, which differ, and pictures,
+/// which have more colours than a ground and a border.
+void ExpectPainted(forms::Form& form) {
+    const auto look = [&form](const forms::Control& control) {
+        form.Owner().Yield();
+        return WidgetOf(control).grab().toImage();
+    };
+    std::map<forms::Glyph, QImage> glyphs;
+    for (forms::Control* const control : form.Controls()) {
+        const QImage image = look(*control);
+        const std::string caption = control->Caption();
+        if (control->AtDesign().glyph != forms::Glyph::None) {
+            glyphs[control->AtDesign().glyph] = image;
+        } else if (!caption.empty() && control->Kind() != forms::Kind::ComboBox) {
+            control->SetCaption("");
+            EXPECT_NE(look(*control), image) << control->Name();
+            control->SetCaption(caption);
+        } else if (!control->AtDesign().picture.empty()) {
+            std::set<QRgb> colors;
+            for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, image.height() / 2));
+            EXPECT_GT(colors.size(), 3u) << control->Name();
+        }
+    }
+    const auto isPlain = [](const auto& a, const auto& b) { return a.second == b.second; };
+    EXPECT_EQ(std::adjacent_find(glyphs.begin(), glyphs.end(), isPlain), glyphs.end());
+}
+
+TEST_F(AllWindows, PaintAllThatTheyHave) {
+    LookAtAllWindows(ExpectPainted);
 }
 
 /// The main window with two camera files, of which no name tells the type.

@@ -21,7 +21,6 @@ protected:
     static bool GetsFocus(const QWidget& widget) {
         return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
     }
-    static void PressInFocus(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
     /// Scrolls the list, clicks the row and the button, and acts in the dialog, which closes in any case.
     void Rename(int topRow, int row, const std::function<void(QWidget& dialog, QLineEdit& field)>& action) {
@@ -75,26 +74,6 @@ TEST_F(RenameWindow, RenamesByKeysAlone) {
     EXPECT_EQ(List().selectionModel()->selectedRows(), QModelIndexList{List().currentIndex()});
     ExpectCurrentRowShows();
     EXPECT_EQ(List().verticalScrollBar()->value(), 0) << "the new place is far above";
-}
-
-TEST_F(RenameWindow, EnterConfirmsAndEscapeCancelsOnItsButtons) {
-    Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
-        QTest::keyClicks(&field, "zebra");
-        QTest::keyClick(&field, Qt::Key_Tab);
-        PressInFocus(Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget()->objectName(), "ButtonCancel");
-        PressInFocus(Qt::Key_Return);
-        EXPECT_FALSE(dialog.isVisible());
-    });
-    EXPECT_TRUE(HasFile("zebra"));
-    ExpectCurrentRowShows();
-    Rename(0, 3, [](QWidget& dialog, QLineEdit& field) {
-        QTest::keyClicks(&field, "other");
-        QTest::keyClick(&field, Qt::Key_Tab);
-        PressInFocus(Qt::Key_Escape);
-        EXPECT_FALSE(dialog.isVisible());
-    });
-    EXPECT_FALSE(HasFile("other"));
 }
 
 }  // namespace
