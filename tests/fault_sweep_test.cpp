@@ -22,14 +22,14 @@ protected:
         }
     }
 
-    /// The user comes back once the disk is well. A program that has ended is started again, and so is one
-    /// that could not list its languages: they are listed at the start only.
     void ExpectSound(JourneyProgram& program) {
         ExpectSoundProgram(program, GetParam());
         ExpectSoundMessages(program);
-        GetParam().expectSound(program, whole_);
+        GetParam().expectSound(program, whole);
     }
 
+    /// The user comes back once the disk is well. A program that has ended is started again, and so is one
+    /// that could not list its languages: they are listed at the start only.
     void ExpectWorksAgain(JourneyProgram& program) {
         program.files.FailCall(0, kFault);
         program.RestoreDisk();
@@ -42,13 +42,13 @@ protected:
         }
         program.Reload();
         Play(program);
-        EXPECT_EQ(Outcome(program), whole_);
+        EXPECT_EQ(Outcome(program), whole);
     }
 
     void ExpectWorks(JourneyProgram& program) {
         if (!GetParam().isStart) program.Start();
         Play(program);
-        EXPECT_EQ(Outcome(program), whole_);
+        EXPECT_EQ(Outcome(program), whole);
         ExpectSound(program);
     }
 
@@ -74,12 +74,12 @@ protected:
         return hasResults;
     }
 
-private:
-    const Outcome whole_ = GetParam().Undisturbed();
+    const Outcome whole = GetParam().Undisturbed();
 };
 
 TEST_P(FaultSweep, EveryCallFails) {
     JourneyProgram undisturbed;
+    EXPECT_EQ(whole.files != undisturbed.installed, !GetParam().targets.empty()) << "it does its work";
     ExpectWorks(undisturbed);
     const int calls = CountCalls();
     int runs = 0;
