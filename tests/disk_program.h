@@ -63,10 +63,11 @@ struct DiskProgram : headless::Twins {
 
     /// Whether the results came up. The path is that of a file dialog.
     bool Export(int mode = 1, const std::string& path = "") {
+        Window().ButtonClassifyFiles.UserPress();
         return UserExports(*this, Window(), mode, path);
     }
     /// The picture at the end.
-    std::string Import(int source) { return UserImports(*this, Window(), source); }
+    std::string Import(int source) { return UserImports(*this, Window(), source, ImportProgram::ExpectDone); }
     void Rename(const std::string& entry, const std::string& newName) {
         UserRenames(*this, Window(), entry, newName);
     }

@@ -54,7 +54,7 @@ TEST(ImportDialogTest, OpensReady) {
         EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "1 File(s)");
         EXPECT_EQ(dialog.LabelTargetFiles.ForeColor(), std::nullopt);
         EXPECT_EQ(dialog.CheckDelete.Caption(), "Delete any existing files in target folder, then ...");
-        EXPECT_EQ(program.PictureOf(dialog), "PictureDelete");
+        EXPECT_EQ(ShownPicture(dialog), "PictureDelete");
         EXPECT_TRUE(dialog.ButtonStart.HasFocus());
         EXPECT_FALSE(dialog.ButtonFinish.Enabled());
         EXPECT_FALSE(program.List(0).Enabled());
@@ -70,7 +70,7 @@ TEST(ImportDialogTest, OpensReady) {
         program.memory.Remove(program.CameraPath("old_50"));
         program.Click(dialog.OptionSource[kOv2]);
         EXPECT_EQ(dialog.LabelSourceFiles.Caption(), "2 File(s)");
-        EXPECT_EQ(program.PictureOf(dialog), "PictureNoDelete") << "other files do not count";
+        EXPECT_EQ(ShownPicture(dialog), "PictureNoDelete") << "other files do not count";
     });
 }
 
@@ -108,7 +108,7 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
                 program.Click(dialog.OptionSource[source]);
                 program.Click(dialog.ButtonStart);
                 program.ExpectDone(dialog);
-                EXPECT_EQ(program.PictureOf(dialog), "PictureFinished");
+                EXPECT_EQ(ShownPicture(dialog), "PictureFinished");
                 EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "2 File(s)");
                 EXPECT_EQ(dialog.LabelTargetFiles.ForeColor(), std::nullopt);
                 EXPECT_EQ(dialog.LabelAddedRecords.Caption(), source == kTxt ? "3 Camera(s)" : "");
@@ -161,7 +161,7 @@ TEST(ImportDialogTest, FileThatCannotBeDeletedEndsTheRun) {
         program.files.FailCall(6, kFault);
         program.Click(dialog.ButtonStart);
         program.ExpectDone(dialog);
-        EXPECT_EQ(program.PictureOf(dialog), "PictureDelete");
+        EXPECT_EQ(ShownPicture(dialog), "PictureDelete");
         EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "3 File(s)") << "no new count";
         EXPECT_FALSE(dialog.FilesModified());
     });
@@ -190,8 +190,7 @@ TEST(ImportDialogTest, StopAtEveryTurn) {
                 program.Click(dialog.ButtonStart);
                 program.toolkit.OnTurn = nullptr;
                 program.ExpectDone(dialog);
-                EXPECT_EQ(program.PictureOf(dialog),
-                          turn == lastTurn ? "PictureFinished" : "PictureIncomplete");
+                EXPECT_EQ(ShownPicture(dialog), turn == lastTurn ? "PictureFinished" : "PictureIncomplete");
                 EXPECT_TRUE(dialog.OptionSource[source].Value());
                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "") << "nothing has failed";
             });

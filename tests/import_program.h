@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/frmImport.h"
 #include "program.h"
+#include "tools/user.h"
 
 #include <functional>
 #include <string>
@@ -48,21 +48,13 @@ struct ImportProgram : TestProgram {
         Open([&](frmImport& dialog) {
             Click(dialog.OptionSource[source]);
             Click(dialog.ButtonStart);
-            picture = PictureOf(dialog);
+            picture = ShownPicture(dialog);
             ExpectDone(dialog);
             if (look) look(dialog);
         });
         return picture;
     }
 
-    static std::string PictureOf(const frmImport& dialog) {
-        std::string shown;
-        for (const forms::PictureBox* picture : {&dialog.PictureNoDelete, &dialog.PictureDelete,
-                                                 &dialog.PictureFinished, &dialog.PictureIncomplete}) {
-            if (picture->Visible()) shown += picture->Name();
-        }
-        return shown;
-    }
     static void ExpectDone(const frmImport& dialog) {
         EXPECT_TRUE(dialog.IsOpen());
         EXPECT_FALSE(dialog.ButtonStart.Enabled());

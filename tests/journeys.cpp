@@ -1,7 +1,5 @@
 #include "journeys.h"
 
-#include "ui/frmRename.h"
-
 namespace halvenmoor {
 
 namespace {
@@ -139,13 +137,6 @@ void ExpectSoundRename(JourneyProgram& program, const Outcome&) {
     EXPECT_EQ(CameraFiles(program).size(), 3u);
 }
 
-void Choose(JourneyProgram& program, const std::string& language) {
-    forms::ComboBox& list = program.Window().LanguageList;
-    for (int i = 0; i < list.ListCount(); ++i) {
-        if (list.List(i) == language) list.UserChoose(i);
-    }
-}
-
 void ExpectSomeEntries(JourneyProgram& program, const Outcome& whole) {
     const Strings some = program.Items(0);
     const Strings& all = whole.lists[0];
@@ -178,48 +169,6 @@ Outcome Journey::Undisturbed() const {
     return Outcome(program);
 }
 
-bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path) {
-    bool shown = false;
-    // More than one, should something else open a window on the way.
-    for (int i = 0; i < 4; ++i) {
-        twins.toolkit.Script([&shown](forms::Form& form) { shown = form.UserEscape(); });
-    }
-    twins.fileDialogs.Answers = {path, path};
-    window.ButtonClassifyFiles.UserPress();
-    window.OptionExportMode[mode].UserPress();
-    window.ButtonExportCameras.UserPress();
-    twins.toolkit.ForgetScript();
-    return shown;
-}
-
-std::string UserImports(headless::Twins& twins, frmMain& window, int source) {
-    std::string picture;
-    twins.toolkit.Script([&](forms::Form& form) {
-        auto& dialog = static_cast<frmImport&>(form);
-        dialog.OptionSource[source].UserPress();
-        dialog.ButtonStart.UserPress();
-        if (dialog.IsOpen()) ImportProgram::ExpectDone(dialog);
-        picture = ImportProgram::PictureOf(dialog);
-        dialog.ButtonFinish.UserPress();
-    });
-    window.ButtonImportFiles.UserPress();
-    twins.toolkit.ForgetScript();
-    return picture;
-}
-
-void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
-                 const std::string& newName) {
-    twins.toolkit.Script([&newName](forms::Form& form) {
-        auto& dialog = static_cast<frmRename&>(form);
-        dialog.TextFileName.UserTyped(newName);
-        dialog.ButtonRename.UserPress();
-        dialog.UserEscape();
-    });
-    headless::Select(window.MainList, {entry});
-    window.ButtonRenameFile.UserPress();
-    twins.toolkit.ForgetScript();
-}
-
 void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
     ExpectOtherFilesAsInstalled(program, journey);
     EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
@@ -247,6 +196,7 @@ Journey ExportJourney(int mode) {
     return {.name = "Export" + std::to_string(mode),
             .play =
                 [mode](JourneyProgram& program) {
+                    program.Window().ButtonClassifyFiles.UserPress();
                     UserExports(program, program.Window(), mode, ExportTarget(mode));
                 },
             .expectSound = [mode](JourneyProgram& program,
@@ -258,7 +208,7 @@ Journey ImportJourney(int source) {
     return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
             .play =
                 [source](JourneyProgram& program) {
-                    program.shown = UserImports(program, program.Window(), source);
+                    program.shown = UserImports(program, program.Window(), source, ImportProgram::ExpectDone);
                 },
             .expectSound = [source](JourneyProgram& program,
                                     const Outcome& whole) { ExpectSoundImport(program, whole, source); },
@@ -276,8 +226,8 @@ Journey LanguageJourney() {
     return {.name = "Language",
             .play =
                 [](JourneyProgram& program) {
-                    Choose(program, "English");
-                    Choose(program, "Deutsch");
+                    UserChoosesLanguage(program.Window(), "English");
+                    UserChoosesLanguage(program.Window(), "Deutsch");
                     program.shown =
                         program.Option("Language") + program.Window().ButtonExitApplication.Caption();
                 },

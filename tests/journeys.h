@@ -89,15 +89,6 @@ inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
     return out << journey.name;
 }
 
-// What a user does in the main window and its dialogs, whatever comes in between.
-
-/// Classifies and exports by mode, with the path for its file dialog. Whether the results came up.
-bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path);
-/// By ImportProgram::kOv2 or kTxt. Returns the picture at the end.
-std::string UserImports(headless::Twins& twins, frmMain& window, int source);
-void UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
-                 const std::string& newName);
-
 // Checks that any journey has to pass at its end, whatever happened on the way.
 
 /// Buttons, lists and windows agree, and every file is there that the journey is not about.

@@ -142,7 +142,7 @@ TEST(TxtImportTest, SourceThatFailsKeepsWhatWasRead) {
         };
         program.Click(dialog.ButtonStart);
         program.toolkit.OnTurn = nullptr;
-        EXPECT_EQ(program.PictureOf(dialog), "PictureFinished");
+        EXPECT_EQ(ShownPicture(dialog), "PictureFinished");
         EXPECT_EQ(dialog.LabelAddedRecords.Caption(), "1 Camera(s)");
     });
     EXPECT_EQ(program.Camera("Fixed_Camera_050"), kHeader + "1, 1, \"Fixed Camera\"\r\n");

@@ -5,8 +5,6 @@
 // One step a line (see Journey::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
-#include "catalogue/frmMain.h"
-#include "import/frmImport.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
@@ -14,7 +12,7 @@
 #include "platform/headless/twins.h"
 #include "platform/headless/user.h"
 #include "program.h"
-#include "ui/frmRename.h"
+#include "tools/user.h"
 
 #include <cstdio>
 #include <iostream>
@@ -56,7 +54,7 @@ public:
     Outcome Play(const std::string& step) {
         const auto [word, rest] = FirstWord(step);
         if (word == "demo") return Set(Window().CheckDemoMode, rest);
-        if (word == "language") return ChooseLanguage(rest);
+        if (word == "language") return OkIf(UserChoosesLanguage(Window(), rest));
         if (word == "auto") return SetAuto(rest);
         if (word == "classify") return OkIf(Window().ButtonClassifyFiles.UserPress());
         if (word == "move") return Move(rest);
@@ -95,13 +93,6 @@ private:
         return isType ? std::optional(digit[0] - '0') : std::nullopt;
     }
 
-    Outcome ChooseLanguage(const std::string& name) {
-        for (int i = 0; i < Window().LanguageList.ListCount(); ++i) {
-            if (Window().LanguageList.List(i) == name) return OkIf(Window().LanguageList.UserChoose(i));
-        }
-        return Outcome::Refused;
-    }
-
     Outcome SetAuto(const std::string& words) {
         const auto [digit, wanted] = FirstWord(words);
         const auto type = Number(digit, kFirstType);
@@ -120,57 +111,27 @@ private:
         return Outcome::Refused;
     }
 
+    /// An export that reached its end shows its results.
     Outcome Export(const std::string& words) {
         const auto [mode, path] = FirstWord(words);
-        if (mode == "replace" && path.empty()) return ExportWithMode(1);
+        if (mode == "replace" && path.empty()) return OkIf(UserExports(platform_, Window(), 1));
         if (path.empty() || (mode != "save-as" && mode != "append")) return Outcome::NotUnderstood;
-        platform_.fileDialogs.Answers = {path.front() == '/' ? path : programFolder_ + "/" + path};
-        return ExportWithMode(mode == "save-as" ? 2 : 3);
-    }
-
-    /// An export that reached its end shows its results.
-    Outcome ExportWithMode(int mode) {
-        bool resultsShown = false;
-        platform_.toolkit.Script(
-            [&resultsShown](forms::Form& results) { resultsShown = results.UserEscape(); });
-        Window().OptionExportMode[mode].UserPress();
-        Window().ButtonExportCameras.UserPress();
-        platform_.toolkit.ForgetScript();
-        platform_.fileDialogs.Answers.clear();
-        return OkIf(resultsShown);
+        return OkIf(UserExports(platform_, Window(), mode == "save-as" ? 2 : 3,
+                                path.front() == '/' ? path : programFolder_ + "/" + path));
     }
 
     /// The old and the new name, with a tab between them.
     Outcome Rename(const std::string& names) {
         const std::size_t tab = names.find('\t');
         if (tab == std::string::npos) return Outcome::NotUnderstood;
-        const std::string oldName = names.substr(0, tab);
-        const std::string newName = names.substr(tab + 1);
-        platform_.toolkit.Script([&newName](forms::Form& form) {
-            auto& dialog = static_cast<frmRename&>(form);
-            dialog.TextFileName.UserTyped(newName);
-            dialog.ButtonRename.UserPress();
-            dialog.UserEscape();  // a refused name leaves it open
-        });
-        const bool pressed = headless::Select(List(0), {oldName}) && Window().ButtonRenameFile.UserPress();
-        platform_.toolkit.ForgetScript();
-        return OkIf(pressed && headless::IndexOf(List(0), oldName) < 0);
+        return OkIf(UserRenames(platform_, Window(), names.substr(0, tab), names.substr(tab + 1)));
     }
 
     /// Also ok when the import ended as incomplete.
     Outcome Import(const std::string& source) {
         if (source != "ov2" && source != "txt") return Outcome::NotUnderstood;
-        bool hasRun = false;
-        platform_.toolkit.Script([&](forms::Form& form) {
-            auto& dialog = static_cast<frmImport&>(form);
-            dialog.OptionSource[source == "ov2" ? 1 : 2].UserPress();
-            dialog.ButtonStart.UserPress();
-            hasRun = dialog.FilesModified();
-            dialog.ButtonFinish.UserPress();
-        });
-        Window().ButtonImportFiles.UserPress();
-        platform_.toolkit.ForgetScript();
-        return OkIf(hasRun);
+        const std::string picture = UserImports(platform_, Window(), source == "ov2" ? 1 : 2);
+        return OkIf(picture == "PictureFinished" || picture == "PictureIncomplete");
     }
 
     Outcome PrintLists() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/platform/platform.h"
 #include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
