@@ -3,7 +3,7 @@
 #include "fuzz/property.h"
 #include "fuzz/world.h"
 #include "platform/disk/streams.h"
-#include "tests/files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>

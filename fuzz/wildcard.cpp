@@ -4,7 +4,7 @@
 
 #include "core/text/compare.h"
 #include "fuzz/property.h"
-#include "tests/files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <optional>
 #include <string>

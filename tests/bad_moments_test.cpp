@@ -2,8 +2,8 @@
 // presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
 // start over, and nothing may be lost.
 
-#include "files_test_helpers.h"
 #include "journeys.h"
+#include "tools/file_helpers.h"
 
 #include <stdexcept>
 

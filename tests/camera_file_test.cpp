@@ -1,8 +1,8 @@
 #include "export/camera_file.h"
 
 #include "core/failure.h"
-#include "files_test_helpers.h"
 #include "platform/headless/services.h"
+#include "tools/file_helpers.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "files_test_helpers.h"
 #include "program.h"
+#include "tools/file_helpers.h"
 
 namespace halvenmoor {
 namespace {

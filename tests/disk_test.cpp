@@ -1,12 +1,12 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
-#include "files_test_helpers.h"
 #include "platform/disk/clock.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/disk/locale.h"
 #include "platform/disk/streams.h"
 #include "temporary_folder.h"
+#include "tools/file_helpers.h"
 
 #include <array>
 #include <chrono>

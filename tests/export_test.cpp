@@ -1,7 +1,7 @@
 #include "export/frmExport.h"
 #include "export/results_file.h"
-#include "files_test_helpers.h"
 #include "program.h"
+#include "tools/file_helpers.h"
 
 #include <set>
 #include <utility>

@@ -2,8 +2,8 @@
 // and what is left afterwards has to be sound and of use. What cannot fail by its contract is left out:
 // clock, turns, forms, stored options.
 
-#include "files_test_helpers.h"
 #include "journeys.h"
+#include "tools/file_helpers.h"
 
 #include <iostream>
 

@@ -1,10 +1,10 @@
 // What files must do, on the disk and in its twin in memory alike.
 
-#include "files_test_helpers.h"
 #include "platform/disk/file_system.h"
 #include "platform/disk/host_files.h"
 #include "platform/headless/memory_files.h"
 #include "temporary_folder.h"
+#include "tools/file_helpers.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "files_test_helpers.h"
 #include "import_program.h"
+#include "tools/file_helpers.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
-#include "files_test_helpers.h"
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
+#include "tools/file_helpers.h"
 #include "ui/frmExportLayout.h"
 #include "ui/frmImportLayout.h"
 #include "ui/frmMainLayout.h"

@@ -3,7 +3,7 @@
 #include "core/failure.h"
 #include "core/text/compare.h"
 #include "core/text/trim.h"
-#include "files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,6 +1,6 @@
 #include "core/text/numbers.h"
 
-#include "files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,7 +1,7 @@
-#include "files_test_helpers.h"
 #include "import/ov2_record.h"
 #include "import_program.h"
 #include "temporary_folder.h"
+#include "tools/file_helpers.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #include "core/failure.h"
-#include "files_test_helpers.h"
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
+#include "tools/file_helpers.h"
 #include "ui/cProgressBar.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // The whole program on a real disk that is full, closed to it, or not what it expects.
 
 #include "disk_program.h"
-#include "files_test_helpers.h"
 #include "journeys.h"
+#include "tools/file_helpers.h"
 
 #include <csignal>
 #include <sys/resource.h>

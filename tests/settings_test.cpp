@@ -1,7 +1,7 @@
 #include "core/cSettingsClass.h"
-#include "files_test_helpers.h"
 #include "platform/headless/failing_files.h"
 #include "platform/headless/memory_files.h"
+#include "tools/file_helpers.h"
 
 #include <gtest/gtest.h>
 #include <string>

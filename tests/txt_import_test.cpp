@@ -1,5 +1,5 @@
-#include "files_test_helpers.h"
 #include "import_program.h"
+#include "tools/file_helpers.h"
 
 #include <set>
 

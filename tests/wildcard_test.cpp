@@ -1,7 +1,7 @@
 #include "core/text/wildcard.h"
 
 #include "core/text/compare.h"
-#include "files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <gtest/gtest.h>
 #include <string>

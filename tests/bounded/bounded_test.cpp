@@ -4,7 +4,7 @@
 #include "fuzz/world.h"
 #include "import/txt_import.h"
 #include "tests/disk_program.h"
-#include "tests/files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <cstdlib>
 #include <malloc.h>

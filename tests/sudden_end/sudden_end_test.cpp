@@ -6,7 +6,7 @@
 #include "platform/qt/instance_guard.h"
 #include "platform/qt/settings.h"
 #include "tests/disk_program.h"
-#include "tests/files_test_helpers.h"
+#include "tools/file_helpers.h"
 
 #include <QCoreApplication>
 #include <algorithm>
