@@ -10,11 +10,9 @@
 
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <ctime>
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

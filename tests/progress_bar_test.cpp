@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <map>
-#include <memory>
 
 namespace halvenmoor {
 namespace {

@@ -24,8 +24,6 @@
 namespace halvenmoor {
 namespace {
 
-namespace fs = std::filesystem;
-
 using Work = std::function<void()>;
 
 /// Runs the work in a process of its own.
