@@ -21,17 +21,13 @@ Split SplitLine(std::string_view line) {
 }
 
 TEST(SplitCameraLineTest, SplitsAtCommas) {
-    EXPECT_EQ(SplitLine("1.5,50.25,name"), (Split{true, {"1.5", "50.25", "name"}}));
     EXPECT_EQ(SplitLine("  1.5 ,\t2.5 , a b  "), (Split{true, {"1.5", "\t2.5", "a b"}}));
     EXPECT_EQ(SplitLine("no comma"), (Split{true, {"no comma"}}));
-    EXPECT_EQ(SplitLine(""), (Split{true, {""}}));
     EXPECT_EQ(SplitLine(" "), (Split{true, {""}}));
-    EXPECT_EQ(SplitLine(","), (Split{true, {"", ""}}));
     EXPECT_EQ(SplitLine("1,,3,"), (Split{true, {"1", "", "3", ""}}));
 }
 
 TEST(SplitCameraLineTest, QuotedFieldsEndAtTheNextQuote) {
-    EXPECT_EQ(SplitLine(R"(1.5, 50.25, "A, B")"), (Split{true, {"1.5", "50.25", R"("A, B")"}}));
     EXPECT_EQ(SplitLine(R"("A,B" , 2)"), (Split{true, {R"("A,B")", "2"}}));
     EXPECT_EQ(SplitLine(R"(1,"",3)"), (Split{true, {"1", R"("")", "3"}}));
     EXPECT_EQ(SplitLine(R"(1,2," A " word,4)"), (Split{true, {"1", "2", R"(" A ")", "4"}}));
@@ -124,19 +120,11 @@ std::string_view Stripped(std::string_view name, const PatternList& units) {
 
 TEST(StripUnitSuffixTest, RemovesTheFirstUnitThatFits) {
     EXPECT_EQ(Stripped("Fixed 50 MPH", Strings{"km/h", " mph "}), "Fixed 50 ");
-    EXPECT_EQ(Stripped("50kmhmph", Strings{"kmh", "mph"}), "50kmh");
     EXPECT_EQ(Stripped("50kmh", Strings{"h", "kmh"}), "50km");
     EXPECT_EQ(Stripped("50 mph", Strings{"", "mph"}), "50 mph") << "an empty unit ends the search";
-    EXPECT_EQ(Stripped("mph 50", Strings{"mph"}), "mph 50");
-    EXPECT_EQ(Stripped("h", Strings{"mph"}), "h");
-    EXPECT_EQ(Stripped("50mph", Strings{}), "50mph");
-    EXPECT_EQ(FailureNumber([] { Stripped("50mph", PatternList()); }), failure::TypeMismatch);
-}
-
-TEST(StripUnitSuffixTest, ComparesCharacters) {
-    EXPECT_EQ(Stripped("50\xD6", Strings{"\xC3\xB6"}), "50");
-    EXPECT_EQ(Stripped("50\xC3\x96", Strings{"\xF6"}), "50");
+    EXPECT_EQ(Stripped("50\xD6", Strings{"\xC3\xB6"}), "50") << "characters are compared";
     EXPECT_EQ(Stripped("50КМ/Ч", Strings{"км/ч"}), "50");
+    EXPECT_EQ(FailureNumber([] { Stripped("50mph", PatternList()); }), failure::TypeMismatch);
 }
 
 std::string Speed(std::string_view name, const std::string& separator = ".") {
@@ -150,7 +138,8 @@ TEST(SpeedFromFileNameTest, ReadsTheEndOfTheName) {
         {"Fixed 50 mph", "50"}, {"Fixed_120MPH", "120"}, {"Fixed_1120", "120"}, {"Fixed-30", "30"},
         {"Fixed M25", "25"},    {"Fixed050", "50"},      {"Fixed 7", "7"},      {"7", "7"},
         {"50km/h", "50"},       {"x&H9", "9"},           {"x&o7", "7"},         {"x1e3", "1000"},
-        {"x 1 2", "12"},        {"x1.5", "1.5"}};
+        {"x 1 2", "12"},        {"x1.5", "1.5"},         {"120\xC3\xA9", "20"}, {"\u00e950", "50"},
+        {"80\xD6H", "80"}};
     for (const auto& [name, speed] : speeds) EXPECT_EQ(Speed(name), speed) << name;
     for (const auto* name : {"", "mph", "Fixed", "Fixed K5", "Fixed-5", "Fixed 50 mph new", "Fixed000"}) {
         EXPECT_EQ(Speed(name), "0") << name;
@@ -159,12 +148,6 @@ TEST(SpeedFromFileNameTest, ReadsTheEndOfTheName) {
     EXPECT_EQ(Speed("x1,5", ","), "1") << "a name has its point whatever the locale";
     EXPECT_EQ(Speed("x 120 mph"), "20") << "the blank before a unit stays";
     EXPECT_EQ(Speed("x 100 mph"), "0");
-}
-
-TEST(SpeedFromFileNameTest, CountsCharacters) {
-    EXPECT_EQ(Speed("120\xC3\xA9"), "20");
-    EXPECT_EQ(Speed("\u00e950"), "50");
-    EXPECT_EQ(Speed("80\xD6H"), "80") << "the unit is UTF-8, the name is not";
 }
 
 }  // namespace

@@ -202,15 +202,6 @@ TEST_F(ClassificationTest, MalformedPatternEndsItsTypeOnly) {
     EXPECT_TRUE(program.messages.Messages.empty());
 }
 
-TEST_F(ClassificationTest, UnreadableSettingsMoveNothing) {
-    program.memory.Remove("/p/Settings.ini");
-    program.AddCameraFile("a");
-    program.Start();
-    program.Click(program.Window().ButtonClassifyFiles);
-    EXPECT_EQ(program.Items(0), Strings{"a"});
-    EXPECT_TRUE(program.messages.Messages.empty());
-}
-
 class LanguageTest : public testing::Test {
 protected:
     void Choose(const std::string& language) { program.Select(program.Window().LanguageList, language); }
@@ -223,20 +214,6 @@ protected:
 
     TestProgram program;
 };
-
-TEST_F(LanguageTest, EnglishNeedsNoFile) {
-    program.Start();
-    EXPECT_EQ(Languages(program), Strings{"English"});
-    EXPECT_EQ(Chosen(), "English");
-    EXPECT_EQ(program.Option("Language"), "English");
-    EXPECT_EQ(program.Window().LabelTypeList[1].Caption(), "Speed Camera Type \"1\" (Fixed Speed Camera)");
-    EXPECT_EQ(program.Window().LabelMainList.Caption(), "Speed Camera Files (Unclassified)");
-    EXPECT_EQ(program.Window().OptionExportMode[2].Caption(), "Save File As...");
-
-    program.AddLanguage("english", "ButtonExitApplication=leave");
-    Choose("English");
-    EXPECT_EQ(ExitCaption(), "Leave");
-}
 
 TEST_F(LanguageTest, NamesAreShownInProperCase) {
     for (const auto* name : {"DEUTSCH", "deutsch", "english", "espa\xF1ol", "brazilian portuguese"}) {

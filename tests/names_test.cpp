@@ -86,18 +86,6 @@ TEST_F(NamesTest, ValuesAreCutAt254Characters) {
     EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=x" + letters), "X" + letters.substr(0, 506));
 }
 
-TEST_F(NamesTest, TextsAreReadAnewUntilSwitchedOff) {
-    EXPECT_EQ(names.ButtonStart(), "Start") << "no such file";
-    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=a"), "A");
-    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=b"), "B");
-    program.files.FailCall(3, Failure(failure::FileAccess, "Device I/O error"));
-    EXPECT_EQ(names.ButtonStart(), "Start");
-    names.SetEnabled(false);
-    const int calls = program.files.Calls();
-    EXPECT_EQ(names.ButtonStart(), "Start");
-    EXPECT_EQ(program.files.Calls(), calls) << "the built-in texts need no file";
-}
-
 const std::filesystem::path kLanguages = HALVENMOOR_DATA "/lang";
 
 /// Keys and values of the section of a language file.
@@ -165,34 +153,6 @@ TEST(LanguagesTest, EveryTextShowsAndNoneIsLeftInEnglish) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         EXPECT_NE(shown.find('<' + std::to_string(i) + '>'), std::string::npos) << texts[i]->Key();
         EXPECT_EQ(shown.find((*texts[i])()), std::string::npos) << (*texts[i])();
-    }
-}
-
-TEST(LanguagesTest, OldFilesShowRightUnderTheirSystemLanguage) {
-    const struct {
-        const char* systemLanguage;
-        const char* bytes;
-        const char* shown;
-        const char* shownAsWritten;
-    } cases[] = {
-        {"cs_CZ.UTF-8", "\x9Elu\x9Dou\xE8k\xFD #k\xF9\xF2 \x8A\xCD\xD8", "Žluťoučký kůň Šíř",
-         "Žluťoučký kůň ŠÍŘ"},
-        {"ru_RU.UTF-8", "\xFF\xE7\xFB\xEA #\xE8 \xA8\xC6", "Язык и Ёж", "Язык и ЁЖ"},
-        {"fr_FR.UTF-8", "\xE9t\xE9 #\xE0 N\xCEMES \x9Cuf", "Été à Nîmes Œuf", "Été à NÎMES œuf"},
-        {"el_GR.UTF-8", "\xDC\xEB\xEB\xE7 #\xE3\xEB\xFE\xF3\xF3\xE1 \xF4\xFD\xF0\xEF\xF2",
-         "Άλλη γλώσσα Τύπος", "Άλλη γλώσσα τύπος"},
-        {"tr_TR.UTF-8", "\xDD\xFElenen #\xE7\xFDk\xFD\xFE \xFE\xFD\xF0", "İşlenen çıkış Şığ",
-         "İşlenen çıkış şığ"},
-    };
-    for (const auto& test : cases) {
-        TestProgram program;
-        program.locale.CodePageNumber = text::WindowsCodePageForLanguage(test.systemLanguage);
-        program.AddLanguage("old", std::string("ButtonExitApplication=") + test.bytes +
-                                       "\r\nCheckDeleteExistingFiles=" + test.bytes + "\r\n");
-        program.SetOption("Language", "old");
-        program.Start();
-        EXPECT_EQ(program.Window().ButtonExitApplication.Caption(), test.shown) << test.systemLanguage;
-        EXPECT_EQ(program.core.Names->CheckDeleteExistingFiles(), test.shownAsWritten) << test.systemLanguage;
     }
 }
 

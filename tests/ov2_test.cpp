@@ -55,24 +55,6 @@ TEST(Ov2RecordTest, LengthsAtTheirLimits) {
     expectKinds("\0\2\3"s, {most}, Kind::Cut, Kind::Cut);
 }
 
-TEST(Ov2RecordTest, CoordinatesKeepEachDigit) {
-    const std::pair<std::int32_t, const char*> cases[] = {
-        {0, "0.00000"},
-        {1, "0.00001"},
-        {-1, "-0.00001"},
-        {-99999, "-0.99999"},
-        {100000, "1.00000"},
-        {-12345678, "-123.45678"},
-        {2147483647, "21474.83647"},
-        {std::numeric_limits<std::int32_t>::min(), "-21474.83648"},
-    };
-    for (const auto& [value, expected] : cases) {
-        std::string text = ">";
-        ScaleCoordinate(text, value);
-        EXPECT_EQ(text, std::string(">") + expected);
-    }
-}
-
 TEST(Ov2RecordTest, NamesAreCleaned) {
     const std::pair<std::string, const char*> cases[] = {
         {"x", R"("")"},  // only the byte that is dropped
@@ -116,13 +98,15 @@ TEST(Ov2ImportTest, FilesOfAnotherProgram) {
 TEST(Ov2ImportTest, LayoutFollowsTheSettings) {
     const auto imported = [](std::string_view iniFile) {
         ImportProgram program(iniFile);
-        program.AddOv2("a", kDeleted + kSkipper + Point("a") + Point("b", -1, 0, 3));
+        program.AddOv2("a", kDeleted + kSkipper + Point("a") +
+                                Point("b", -1, std::numeric_limits<std::int32_t>::min(), 3));
         EXPECT_EQ(program.Import(kOv2), "PictureFinished");
         return program.Camera("a");
     };
-    const std::string plain = kHeader + LineOf("a") + "-0.00001, 0.00000, \"b\"\r\n";
+    const std::string plain = kHeader + LineOf("a") + "-0.00001, -21474.83648, \"b\"\r\n";
     EXPECT_EQ(imported("[Settings]\nSourceStructure=1\n"), plain);
-    const std::string lines = "\r\n\r\n1.50000, 52.50000, \"a\", 0, 0\r\n-0.00001, 0.00000, \"b\", 0, 0\r\n";
+    const std::string lines =
+        "\r\n\r\n1.50000, 52.50000, \"a\", 0, 0\r\n-0.00001, -21474.83648, \"b\", 0, 0\r\n";
     EXPECT_EQ(imported("[Settings]\nSourceStructure=2\n"),
               "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction)." + lines);
     EXPECT_EQ(imported("[Settings]\nSourceStructure=3\n"),

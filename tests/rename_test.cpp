@@ -22,17 +22,7 @@ protected:
     /// is cancelled.
     bool Open(const std::string& entry, const Action& action = {}) {
         program.Select(0, {entry});
-        return OpenForSelection(action);
-    }
-    bool OpenForSelection(const Action& action = {}) {
-        bool opened = false;
-        program.toolkit.Script([&](forms::Form& form) {
-            opened = true;
-            if (action) action(static_cast<frmRename&>(form));
-            form.UserEscape();
-        });
-        program.Click(Window().ButtonRenameFile);
-        program.toolkit.ForgetScript();
+        const bool opened = program.Open<frmRename>(Window().ButtonRenameFile, action);
         EXPECT_TRUE(List().HasFocus());
         return opened;
     }
@@ -112,18 +102,6 @@ TEST_F(RenameTest, EnterConfirmsAnywhere) {
     EXPECT_EQ(TextOf("y"), "a");
 }
 
-TEST_F(RenameTest, CancellingChangesNothing) {
-    Start();
-    for (const bool byKey : {false, true}) {
-        EXPECT_TRUE(Open("a", [byKey](frmRename& dialog) {
-            EXPECT_TRUE(dialog.TextFileName.UserTyped("x"));
-            EXPECT_TRUE(byKey ? dialog.UserEscape() : dialog.ButtonCancel.UserPress());
-            EXPECT_FALSE(dialog.IsOpen());
-        }));
-    }
-    ExpectNothingChanged();
-}
-
 TEST_F(RenameTest, AnEqualOrEmptyNameClosesOnly) {
     Start();
     for (const char* name : {"", "b", "B"}) EXPECT_TRUE(Rename("b", name)) << name;
@@ -153,17 +131,6 @@ TEST_F(RenameTest, RefusesTakenNamesAndTwelveCharacters) {
     ExpectNothingChanged();
     EXPECT_EQ(program.memory.Calls(), Strings()) << "nothing was tried";
     EXPECT_EQ(program.Text("/p/demo/asc_demo/Other.ASC"), "other");
-}
-
-TEST_F(RenameTest, TakesTheNameAsItWasTyped) {
-    Start({"a"});
-    std::string entry = "a";
-    for (const std::string name : {" x ", "x.asc", "1.5, M\u00fcnchen (&)", "x'[$]%~"}) {
-        EXPECT_TRUE(Rename(entry, name)) << name;
-        EXPECT_EQ(program.Items(0), Strings{name});
-        EXPECT_EQ(TextOf(name), "a");
-        entry = name;
-    }
 }
 
 TEST_F(RenameTest, AFailureLeavesWhatWasTyped) {
@@ -214,20 +181,6 @@ TEST_F(RenameTest, NeedsOneSelectedRow) {
     EXPECT_TRUE(List().UserSelect({1}, -1));
     RenameSelectedFile(program.core, List());  // a selected row, but no current one
     ExpectNothingChanged();
-}
-
-TEST_F(RenameTest, WorksOnTheCurrentRowNotOnTheSelection) {
-    Start();
-    EXPECT_TRUE(List().UserSelect({0}, 3));
-    EXPECT_TRUE(OpenForSelection([](frmRename& dialog) {
-        EXPECT_EQ(dialog.TextFileName.Text(), "d");
-        EXPECT_TRUE(Enter(dialog, "B2"));
-    }));
-    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "B2", "c", "e"}));
-    EXPECT_EQ(TextOf("B2"), "d");
-    EXPECT_EQ(List().ListIndex(), 2);
-    EXPECT_TRUE(List().Selected(0) && List().Selected(2));
-    EXPECT_FALSE(Window().ButtonRenameFile.Enabled()) << "the click of the list has counted two rows";
 }
 
 }  // namespace

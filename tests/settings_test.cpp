@@ -33,16 +33,6 @@ void ExpectNothingRead(const cSettingsClass& settings) {
     for (const PatternList& list : settings.TypeSearchPatterns()) EXPECT_TRUE(IsArrayEmpty(list));
 }
 
-TEST_F(SettingsTest, EmptyFileGivesListsWithoutElements) {
-    const cSettingsClass settings = Read("");
-    EXPECT_EQ(settings.SourceStructure(), 2);
-    EXPECT_EQ(Elements(settings.UnitSearchPatterns()), Strings{});
-    for (const auto* table : {&settings.TypeFileNamePatterns(), &settings.TypeSearchPatterns()}) {
-        EXPECT_TRUE(IsArrayEmpty((*table)[0]));
-        for (std::size_t type = 1; type <= 5; ++type) EXPECT_EQ(Elements((*table)[type]), Strings{});
-    }
-}
-
 TEST_F(SettingsTest, EachSectionFeedsItsList) {
     const cSettingsClass settings = Read(
         "\xEF\xBB\xBF[mobile]\r\nm\r\n [SECTION] behind it \r\ns\r\n"

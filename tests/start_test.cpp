@@ -19,6 +19,8 @@ TEST(StartTest, FirstRunShowsTheDemonstrationInEnglish) {
     EXPECT_TRUE(window.CheckDemoMode.Value() && window.CheckSaveResults.Value());
     EXPECT_FALSE(window.ButtonImportFiles.Enabled());
     EXPECT_EQ(window.LanguageList.Text(), "English");
+    EXPECT_EQ(window.LabelTypeList[1].Caption(), "Speed Camera Type \"1\" (Fixed Speed Camera)");
+    EXPECT_EQ(window.OptionExportMode[2].Caption(), "Save File As...");
     EXPECT_EQ(program.Option("DemoMode") + program.Option("SaveResults"), "(none)(none)");
     EXPECT_EQ(window.ActiveControl(), &window.ButtonClassifyFiles);
 }
@@ -99,20 +101,6 @@ TEST(StartTest, WithoutAFileSystemObjectTheProgramEndsAfterAMessage) {
         EXPECT_TRUE(program.desktop.Ended());
         EXPECT_EQ(program.Window().LabelSelectLanguage.Caption(), "Select Language") << "loaded to its end";
     }
-}
-
-TEST(StartTest, FileSystemObjectIsTestedAgainAfterEachDialog) {
-    TestProgram program;
-    program.Start();
-    forms::Form dialog(program.desktop, {});
-    program.toolkit.Script([&program](forms::Form& form) {
-        program.files.FailFromCall(1, Failure(7, "Out of memory"));
-        form.Unload();
-    });
-    EXPECT_FALSE(program.desktop.Ended());
-    program.desktop.ShowModal(dialog);
-    EXPECT_EQ(program.messages.Messages.size(), 1U);
-    EXPECT_TRUE(program.desktop.Ended());
 }
 
 TEST(StartTest, ExitEndsTheProgramAndStoresNothing) {

@@ -154,15 +154,6 @@ TEST(Comparing, FindsEndings) {
     EXPECT_EQ(WithoutEnding("70mp", "mph", western), std::nullopt);
 }
 
-TEST(Comparing, OfFixedWordsFoldsAsciiOnly) {
-    EXPECT_TRUE(EqualIgnoringAsciiCase("[TYPE1]", "[Type1]"));
-    EXPECT_FALSE(EqualIgnoringAsciiCase("[TYPE1] ", "[Type1]"));
-    EXPECT_FALSE(EqualIgnoringAsciiCase("{type1}", "[Type1]"));
-    EXPECT_TRUE(StartsWithIgnoringAsciiCase("[units] and more", "[Units]"));
-    EXPECT_FALSE(StartsWithIgnoringAsciiCase("[unit", "[Units]"));
-    EXPECT_FALSE(EqualIgnoringAsciiCase("\xC4", "\xE4"));
-}
-
 TEST(ProperCase, RaisesTheLetterBehindASeparator) {
     EXPECT_EQ(ProperCase("eXPORT aLL  files"), "Export All  Files");
     EXPECT_EQ(ProperCase("a\tb\nc\vd\fe\rf\0g"s), "A\tB\nC\vD\fE\rF\0G"s);

@@ -128,26 +128,6 @@ TEST(TxtImportTest, CountMovesEvery97Records) {
               (std::set<std::string>{"", "97 Camera(s)", "194 Camera(s)", "200 Camera(s)", "201 Camera(s)"}));
 }
 
-TEST(TxtImportTest, SourceThatFailsKeepsWhatWasRead) {
-    ImportProgram program;
-    program.AddTxt("a", "1,1,1,50\n2,2,1,50\n");
-    program.AddTxt("b", "");
-    program.Open([&](frmImport& dialog) {
-        program.Click(dialog.OptionSource[kTxt]);
-        int turn = 0;  // 1: the folder is empty; 2: the first file; 3 and 4: its lines; 5: the second file
-        program.toolkit.OnTurn = [&] {
-            ++turn;
-            if (turn == 4) program.files.FailCall(1, Failure(failure::FileAccess, "gone"));
-            EXPECT_TRUE(turn != 5 || dialog.LabelAddedRecords.Caption().empty()) << "not of a broken file";
-        };
-        program.Click(dialog.ButtonStart);
-        program.toolkit.OnTurn = nullptr;
-        EXPECT_EQ(ShownPicture(dialog), "PictureFinished");
-        EXPECT_EQ(dialog.LabelAddedRecords.Caption(), "1 Camera(s)");
-    });
-    EXPECT_EQ(program.Camera("Fixed_Camera_050"), kHeader + "1, 1, \"Fixed Camera\"\r\n");
-}
-
 TEST(TxtImportTest, CameraFileThatCannotBeMadeEndsItsTypeOnly) {
     ImportProgram program;
     program.AddTxt("a", "1,1,1,50\n2,2,1,60\n3,3,1,70\n4,4,2,50\n");
