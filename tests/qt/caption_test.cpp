@@ -100,7 +100,7 @@ TEST_F(AllWindows, HaveRoomForEveryCaption) {
         words.insert(Form().LabelSelectLanguage.Caption());
         LookAtAllWindows(ExpectAllFits);
     }
-    EXPECT_EQ(words.size(), 16U) << "each language showed";
+    EXPECT_GE(words.size(), 16U) << "each language showed";
 }
 
 }  // namespace
