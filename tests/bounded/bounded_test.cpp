@@ -1,5 +1,7 @@
 // No file makes the program take more memory than a megabyte and a stated multiple of the file's size. This
 // program has its own operator new, which counts. Large files have holes: they take no room on the disk.
+//
+// HALVENMOOR_LARGE says how many megabytes they have, 256 unless it is set.
 
 #include "fuzz/world.h"
 #include "import/txt_import.h"
@@ -58,7 +60,10 @@ namespace halvenmoor {
 namespace {
 
 constexpr std::size_t kMegabyte = 1024 * 1024;
-constexpr std::size_t kLarge = 256 * kMegabyte;
+const std::size_t kLarge = [] {
+    const char* const wanted = std::getenv("HALVENMOOR_LARGE");
+    return (wanted == nullptr ? 256 : std::stoul(wanted)) * kMegabyte;
+}();
 constexpr int kOv2 = ImportProgram::kOv2;
 constexpr int kTxt = ImportProgram::kTxt;
 
@@ -96,10 +101,11 @@ TEST_F(Bounded, LengthsThatAFileDoesNotHaveTakeNothing) {
 }
 
 TEST_F(Bounded, LargeRecordIsHeldOnceAndItsLineOnce) {
-    PutLarge("import/ov2/a.ov2", std::string("\2\0\0\0\x10xxxxyyyyx", 14));  // a name of 256 MB
+    const std::string length{0, 0, static_cast<char>(kLarge >> 16), static_cast<char>(kLarge >> 24)};
+    PutLarge("import/ov2/a.ov2", '\2' + length + "xxxxyyyyx");
     ExpectImportTakesAtMost(3 * kLarge, kOv2);
     EXPECT_TRUE(std::filesystem::exists(folder / "asc/a.asc"));
-    PutLarge("import/ov2/a.ov2", std::string("\0\0\0\0\x10", 5));
+    PutLarge("import/ov2/a.ov2", '\0' + length);
     ExpectImportTakesAtMost(3 * kLarge, kOv2);
 }
 
