@@ -277,6 +277,7 @@ TEST_F(ExportTest, WindowTellsWhatItDoes) {
         std::string shown;
         std::set<forms::Color> colors;  // of a place that the bar comes to
         program.toolkit.OnTurn = [&] {
+            EXPECT_TRUE(window.Busy());
             EXPECT_EQ(window.Position().left, 1880);
             EXPECT_EQ(window.Position().top, 3500);
             EXPECT_EQ(window.Caption(), mode == 3 ? "Append Speed Cameras" : "Export Speed Cameras");
@@ -369,8 +370,10 @@ Dateien und Blitzer gesamt.............:         1                   1          
     EXPECT_EQ(program.ResultsFile(), file);
 
     program.Click(Window().OptionExportMode[1]);
-    for (const auto* cameras : {"Exportiert", "Angehängte Blitzer"}) {
-        ShowResults([&](frmResults& window) {
+    for (const auto& [caption, cameras] :
+         {std::pair("Export Speed Cameras", "Exportiert"), {"Append Speed Cameras", "Angehängte Blitzer"}}) {
+        ShowResults([&, caption = caption, cameras = cameras](frmResults& window) {
+            EXPECT_EQ(window.Caption(), caption);
             EXPECT_EQ(window.LabelTitleExported.Caption(), cameras);
             EXPECT_EQ(window.LabelExportedResult[0].Caption(), "1");
         });

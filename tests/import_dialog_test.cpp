@@ -182,6 +182,7 @@ TEST(ImportDialogTest, StopAtEveryTurn) {
                 program.Click(dialog.OptionSource[source]);
                 program.toolkit.OnTurn = [&] {
                     if (++turns != turn) return;
+                    EXPECT_TRUE(dialog.Busy());
                     EXPECT_FALSE(dialog.UserEscape()) << "no button has Escape during a run";
                     program.Click(dialog.OptionSource[3 - source]);
                     EXPECT_TRUE(turn % 2 == 0 ? dialog.ButtonCancel.UserPress() : dialog.UserClose());

@@ -44,19 +44,14 @@ struct ImportProgram : TestProgram {
     }
     /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
     std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {
-        std::string picture;
-        Open([&](frmImport& dialog) {
-            Click(dialog.OptionSource[source]);
-            Click(dialog.ButtonStart);
-            picture = ShownPicture(dialog);
+        return UserImports(*this, Window(), source, [&look](frmImport& dialog) {
             ExpectDone(dialog);
             if (look) look(dialog);
         });
-        return picture;
     }
 
     static void ExpectDone(const frmImport& dialog) {
-        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_TRUE(dialog.IsOpen() && !dialog.Busy());
         EXPECT_FALSE(dialog.ButtonStart.Enabled());
         EXPECT_FALSE(dialog.ButtonCancel.Enabled());
         EXPECT_TRUE(dialog.ButtonFinish.Enabled());

@@ -68,6 +68,7 @@ TEST_F(SettingsTest, CommasAndLinesSeparateItems) {
 
 TEST_F(SettingsTest, LastValidStructureWins) {
     EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=1\n"), 1);
+    EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=2\n"), 2);
     EXPECT_EQ(Structure("sourcestructure = 1,  S o u r c eSTRUCTURE=  3"), 3);
     EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=0\nSourceStructure=4\nSourceStructure=12\n"), 3);
     EXPECT_EQ(Structure("SourceStructure=1 ; why\nSourceStructure=\t1\nOther=1\nSourceStructure\n"), 2);

@@ -31,6 +31,8 @@ TEST(TxtImportTest, TellsRecordsFromOtherLines) {
                    "1.5,2.5,1,50,1,90,\n"  // seven
                    "1.5,2.5,1\n"           // three
                    "5,6,7,8\n"             // bad from here on
+                   "1.5,2.5,0,50\n"
+                   "1.5,2.5,15,50\n"
                    "1.5,2.5,01,50\n"
                    "1.5,2.5,,50\n"
                    "1.5,2.5,\t1,50\n"
@@ -38,7 +40,7 @@ TEST(TxtImportTest, TellsRecordsFromOtherLines) {
     EXPECT_EQ(program.Import(kTxt,
                              [](frmImport& dialog) {
                                  EXPECT_EQ(dialog.LabelAddedRecords.Caption(), "5 Camera(s)");
-                                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "5 Camera(s)");
+                                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "7 Camera(s)");
                                  EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "4 File(s)");
                              }),
               "PictureIncomplete");

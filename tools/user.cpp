@@ -27,7 +27,7 @@ bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::s
 }
 
 std::string UserImports(headless::Twins& twins, frmMain& window, int source,
-                        const std::function<void(const frmImport&)>& look) {
+                        const std::function<void(frmImport&)>& look) {
     std::string picture;
     twins.toolkit.Script([&](forms::Form& form) {
         auto& dialog = static_cast<frmImport&>(form);

@@ -18,7 +18,7 @@ bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::s
 /// From OV2 (1) or TXT (2); somebody may look at the dialog when the import is done. Returns the name of the
 /// picture that it ended with, or nothing if it did not open.
 std::string UserImports(headless::Twins& twins, frmMain& window, int source,
-                        const std::function<void(const frmImport&)>& look = {});
+                        const std::function<void(frmImport&)>& look = {});
 bool UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
                  const std::string& newName);
 
