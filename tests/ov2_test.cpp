@@ -99,14 +99,17 @@ TEST(Ov2ImportTest, LayoutFollowsTheSettings) {
     const auto imported = [](std::string_view iniFile) {
         ImportProgram program(iniFile);
         program.AddOv2("a", kDeleted + kSkipper + Point("a") +
-                                Point("b", -1, std::numeric_limits<std::int32_t>::min(), 3));
+                                Point("b", -1, std::numeric_limits<std::int32_t>::min(), 3) +
+                                Point("c", 0, 0));
         EXPECT_EQ(program.Import(kOv2), "PictureFinished");
         return program.Camera("a");
     };
-    const std::string plain = kHeader + LineOf("a") + "-0.00001, -21474.83648, \"b\"\r\n";
+    const std::string plain =
+        kHeader + LineOf("a") + "-0.00001, -21474.83648, \"b\"\r\n0.00000, 0.00000, \"c\"\r\n";
     EXPECT_EQ(imported("[Settings]\nSourceStructure=1\n"), plain);
     const std::string lines =
-        "\r\n\r\n1.50000, 52.50000, \"a\", 0, 0\r\n-0.00001, -21474.83648, \"b\", 0, 0\r\n";
+        "\r\n\r\n1.50000, 52.50000, \"a\", 0, 0\r\n-0.00001, -21474.83648, \"b\", 0, 0\r\n0.00000, 0.00000, "
+        "\"c\", 0, 0\r\n";
     EXPECT_EQ(imported("[Settings]\nSourceStructure=2\n"),
               "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction)." + lines);
     EXPECT_EQ(imported("[Settings]\nSourceStructure=3\n"),
