@@ -3,7 +3,6 @@
 // clock, turns, forms, stored options.
 
 #include "journeys.h"
-#include "tools/file_helpers.h"
 
 #include <iostream>
 

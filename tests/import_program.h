@@ -44,10 +44,14 @@ struct ImportProgram : TestProgram {
     }
     /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
     std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {
-        return UserImports(*this, Window(), source, [&look](frmImport& dialog) {
+        bool looked = false;
+        const std::string picture = UserImports(*this, Window(), source, [&](frmImport& dialog) {
+            looked = true;
             ExpectDone(dialog);
             if (look) look(dialog);
         });
+        EXPECT_TRUE(looked) << "the dialog did not open or closed by itself";
+        return picture;
     }
 
     static void ExpectDone(const frmImport& dialog) {

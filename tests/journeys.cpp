@@ -7,7 +7,7 @@ namespace {
 /// Whether the text is made of lines of the whole, in their order.
 bool IsMadeOfLinesOf(std::string_view whole, std::string_view text) {
     while (!whole.empty()) {
-        const std::string_view line = whole.substr(0, whole.find('\n') + 1);
+        const std::string_view line = whole.substr(0, std::min(whole.find('\n'), whole.size() - 1) + 1);
         if (text.starts_with(line)) text.remove_prefix(line.size());
         whole.remove_prefix(line.size());
     }

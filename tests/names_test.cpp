@@ -77,6 +77,8 @@ TEST_F(NamesTest, TextsAreFoundInTheLanguageFile) {
         {"", "Start"},
     };
     for (const auto& [file, shown] : cases) EXPECT_EQ(StartIn(file), shown) << file;
+    program.locale.CodePageNumber = 1250;
+    EXPECT_EQ(StartIn("[Halvenmoor]\nButtonStart=\x9Elu\x9D"), "Žluť") << "an old file on its own system";
 }
 
 TEST_F(NamesTest, ValuesAreCutAt254Characters) {

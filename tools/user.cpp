@@ -56,11 +56,12 @@ bool UserRenames(headless::Twins& twins, frmMain& window, const std::string& ent
 }
 
 std::string ShownPicture(const frmImport& dialog) {
+    std::string shown;
     for (const forms::PictureBox* picture : {&dialog.PictureNoDelete, &dialog.PictureDelete,
                                              &dialog.PictureFinished, &dialog.PictureIncomplete}) {
-        if (picture->Visible()) return picture->Name();
+        if (picture->Visible()) shown += picture->Name();
     }
-    return "";
+    return shown;
 }
 
 }  // namespace halvenmoor

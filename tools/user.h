@@ -22,7 +22,7 @@ std::string UserImports(headless::Twins& twins, frmMain& window, int source,
 bool UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
                  const std::string& newName);
 
-/// The name of the picture of state that shows.
+/// The name of the picture of state that shows, or the names, should there be more than one.
 std::string ShownPicture(const frmImport& dialog);
 
 }  // namespace halvenmoor

@@ -1,7 +1,7 @@
 // No file makes the program take more memory than a megabyte and a stated multiple of the file's size. This
 // program has its own operator new, which counts. Large files have holes: they take no room on the disk.
 //
-// HALVENMOOR_LARGE says how many megabytes they have, 256 unless it is set.
+// HALVENMOOR_LARGE says how many megabytes they have, 256 unless it is set, and 2047 at most.
 
 #include "fuzz/world.h"
 #include "import/txt_import.h"

@@ -114,8 +114,8 @@ void ExpectPainted(forms::Form& form) {
             EXPECT_GT(colors.size(), 3u) << control->Name();
         }
     }
-    const auto isPlain = [](const auto& a, const auto& b) { return a.second == b.second; };
-    EXPECT_EQ(std::adjacent_find(glyphs.begin(), glyphs.end(), isPlain), glyphs.end());
+    const auto areAlike = [](const auto& a, const auto& b) { return a.second == b.second; };
+    EXPECT_EQ(std::adjacent_find(glyphs.begin(), glyphs.end(), areAlike), glyphs.end());
 }
 
 TEST_F(AllWindows, PaintAllThatTheyHave) {
