@@ -95,11 +95,11 @@ TEST_F(RenameTest, EnterConfirmsAnywhere) {
     EXPECT_EQ(TextOf("x"), "a");
     EXPECT_TRUE(Open("x", [](frmRename& dialog) {
         EXPECT_FALSE(dialog.UserClose()) << "there is no close box";
-        EXPECT_TRUE(dialog.TextFileName.UserTyped("y"));
+        EXPECT_TRUE(dialog.TextFileName.UserTyped(" y'[$].asc "));
         EXPECT_TRUE(dialog.ButtonRename.UserPress());
         EXPECT_FALSE(dialog.IsOpen());
     }));
-    EXPECT_EQ(TextOf("y"), "a");
+    EXPECT_EQ(TextOf(" y'[$].asc "), "a") << "as it was typed";
 }
 
 TEST_F(RenameTest, AnEqualOrEmptyNameClosesOnly) {

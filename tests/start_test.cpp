@@ -103,6 +103,20 @@ TEST(StartTest, WithoutAFileSystemObjectTheProgramEndsAfterAMessage) {
     }
 }
 
+TEST(StartTest, FileSystemObjectIsTestedAgainAfterEachDialog) {
+    TestProgram program;
+    program.Start();
+    forms::Form dialog(program.desktop, {});
+    program.toolkit.Script([&program](forms::Form& form) {
+        program.files.FailFromCall(1, Failure(7, "Out of memory"));
+        form.Unload();
+    });
+    EXPECT_FALSE(program.desktop.Ended());
+    program.desktop.ShowModal(dialog);
+    EXPECT_EQ(program.messages.Messages.size(), 1U);
+    EXPECT_TRUE(program.desktop.Ended());
+}
+
 TEST(StartTest, ExitEndsTheProgramAndStoresNothing) {
     TestProgram program;
     program.Start();

@@ -38,6 +38,7 @@ TEST(Wildcards, CoverTheWholeName) {
                    {"*K\xD6LN*", {"A1 Köln.asc"}, {"Koln"}},  // the code page meets UTF-8
                    {"*KÖLN*", {"A1 k\xF6ln.asc"}, {}},
                    {"", {""}, {"x"}}});
+    EXPECT_TRUE(WildcardPattern("*\xCF\xF3\xF2\xFC*", WindowsCodePage(1251)).Matches("ПУТЬ 60"));
 }
 
 TEST(Wildcards, QuestionMarkAndDigitTakeExactlyOneCharacter) {
