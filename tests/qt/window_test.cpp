@@ -44,6 +44,7 @@ TEST_F(Window, ShowsWhatTheProgramChangesWithoutAnEcho) {
     form.label.SetVisible(false);
     form.first.SetEnabled(false);
     form.SetCaption("Other [*]");
+    form.SetBusy(true);
     Heard();
     EXPECT_FALSE(Find<QCheckBox>("check").isChecked()) << "the view waits for the end of the event";
     const QImage unchecked = Find("check").grab().toImage();
@@ -58,6 +59,7 @@ TEST_F(Window, ShowsWhatTheProgramChangesWithoutAnEcho) {
     EXPECT_TRUE(Find("label").isHidden());
     EXPECT_FALSE(Find("first").isEnabled());
     EXPECT_EQ(Root().windowTitle(), "Other [*][*]");
+    EXPECT_EQ(Root().cursor().shape(), Qt::BusyCursor);
     EXPECT_EQ(Heard(), Words{});
 }
 
