@@ -186,7 +186,9 @@ TEST(InstanceGuard, IsFirstWhateverAKilledOneLeftBehind) {
     EXPECT_TRUE(guard.IsFirst());
     bool isCalled = false;
     guard.OnRaise = [&isCalled](const QByteArray&) { isCalled = true; };
-    InstanceGuard(Path(folder)).RaiseOther();
+    InstanceGuard second(Path(folder));
+    EXPECT_FALSE(second.IsFirst());
+    second.RaiseOther();
     EXPECT_TRUE(QTest::qWaitFor([&isCalled] { return isCalled; }));
 }
 
