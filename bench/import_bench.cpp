@@ -5,13 +5,13 @@
 // Prints the CPU seconds from the click on Start to its end; the start of the program is not in them.
 
 #include "catalogue/frmMain.h"
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/locale.h"
-#include "platform/disk/path_finder.h"
 #include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/locale.h"
+#include "platform/posix/path_finder.h"
 #include "platform/qt/qt_platform.h"
 #include "program.h"
 

@@ -2,8 +2,8 @@
 // classifying all entries and moving all of them back at once. Prints lines NAME ENTRIES CPU_SECONDS.
 
 #include "catalogue/frmMain.h"
+#include "platform/headless/fakes.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/twins.h"
 #include "program.h"
 
 #ifdef HALVENMOOR_QT

@@ -3,7 +3,7 @@
 
 #include "export/camera_file.h"
 
-#include "core/text/compare.h"
+#include "base/text/compare.h"
 #include "export/export_run.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"

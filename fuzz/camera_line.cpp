@@ -1,7 +1,7 @@
 // One line of a camera file, taken apart; its first two fields as a position.
 
-#include "core/text/numbers.h"
-#include "core/text/trim.h"
+#include "base/text/numbers.h"
+#include "base/text/trim.h"
 #include "export/camera_file.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"

@@ -1,10 +1,10 @@
 // A language file, and the marks of its texts.
 
-#include "core/text/decode.h"
+#include "base/text/decode.h"
 #include "fuzz/property.h"
 #include "fuzz/world.h"
-#include "ui/cNamesClass.h"
-#include "ui/profile.h"
+#include "ui/language/cNamesClass.h"
+#include "ui/language/profile.h"
 
 using namespace halvenmoor;
 using fuzz::Require;

@@ -2,7 +2,7 @@
 
 #include "fuzz/property.h"
 #include "fuzz/world.h"
-#include "platform/disk/streams.h"
+#include "platform/posix/streams.h"
 #include "tools/file_helpers.h"
 
 #include <fcntl.h>

@@ -3,8 +3,8 @@
 
 #include "export/name_patterns.h"
 
-#include "core/text/compare.h"
-#include "core/text/trim.h"
+#include "base/text/compare.h"
+#include "base/text/trim.h"
 #include "fuzz/property.h"
 
 using namespace halvenmoor;

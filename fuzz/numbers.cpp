@@ -1,8 +1,8 @@
 // Numbers at the beginning of a text, compared with the C library's reading of the same digits.
 
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "fuzz/property.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // The import of an OV2 file, compared with a plain walk over its records, and read back as a camera file.
 
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
 #include "fuzz/world.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text/trim.h"
+#include "base/text/trim.h"
 #include "export/camera_file.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 // The import of a TXT source. The first byte chooses the order of the extra fields.
 
-#include "core/text/compare.h"
+#include "base/text/compare.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
 #include "fuzz/world.h"

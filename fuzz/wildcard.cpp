@@ -1,8 +1,8 @@
 // A wildcard pattern, up to the first line feed, against the name behind it: the same as a slow matcher.
 
-#include "core/text/wildcard.h"
+#include "base/text/wildcard.h"
 
-#include "core/text/compare.h"
+#include "base/text/compare.h"
 #include "fuzz/property.h"
 #include "tools/file_helpers.h"
 

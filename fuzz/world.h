@@ -1,8 +1,8 @@
 #pragma once
 
 #include "import/import_task.h"
+#include "platform/headless/fakes.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/twins.h"
 
 #include <map>
 #include <string>

@@ -1,8 +1,8 @@
-#include "platform/disk/clock.h"
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/locale.h"
-#include "platform/disk/path_finder.h"
+#include "platform/posix/clock.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/locale.h"
+#include "platform/posix/path_finder.h"
 #include "platform/qt/qt_platform.h"
 #include "program.h"
 

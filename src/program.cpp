@@ -1,7 +1,7 @@
 #include "program.h"
 
+#include "base/text/compare.h"
 #include "catalogue/frmMain.h"
-#include "core/text/compare.h"
 #include "ui/frmRename.h"
 
 #include <memory>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/modMain.h"
-#include "core/platform/platform.h"
 #include "export/modExport.h"
 #include "forms/desktop.h"
 #include "import/modImport.h"
+#include "platform/platform.h"
 
 #include <optional>
 

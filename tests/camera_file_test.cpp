@@ -1,6 +1,6 @@
 #include "export/camera_file.h"
 
-#include "core/failure.h"
+#include "base/failure.h"
 #include "platform/headless/services.h"
 #include "tools/file_helpers.h"
 

@@ -2,9 +2,9 @@
 
 #include "import_program.h"
 #include "journeys.h"
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/path_finder.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/path_finder.h"
 #include "temporary_folder.h"
 
 #include <filesystem>

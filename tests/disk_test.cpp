@@ -1,10 +1,10 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
-#include "platform/disk/clock.h"
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/locale.h"
-#include "platform/disk/streams.h"
+#include "platform/posix/clock.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/locale.h"
+#include "platform/posix/streams.h"
 #include "temporary_folder.h"
 #include "tools/file_helpers.h"
 

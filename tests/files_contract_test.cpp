@@ -1,8 +1,8 @@
 // What files must do, on the disk and in its twin in memory alike.
 
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
 #include "platform/headless/memory_files.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
 #include "temporary_folder.h"
 #include "tools/file_helpers.h"
 

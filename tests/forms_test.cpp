@@ -1,7 +1,7 @@
-#include "core/text/compare.h"
+#include "base/text/compare.h"
 #include "forms/desktop.h"
+#include "platform/headless/list_actions.h"
 #include "platform/headless/toolkit.h"
-#include "platform/headless/user.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "program.h"
-#include "tools/user.h"
+#include "test_program.h"
+#include "tools/user_actions.h"
 
 #include <functional>
 #include <string>

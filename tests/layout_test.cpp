@@ -1,11 +1,11 @@
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
-#include "ui/frmExportLayout.h"
-#include "ui/frmImportLayout.h"
-#include "ui/frmMainLayout.h"
-#include "ui/frmRenameLayout.h"
-#include "ui/frmResultsLayout.h"
 #include "ui/group_text_color.h"
+#include "ui/layouts/frmExportLayout.h"
+#include "ui/layouts/frmImportLayout.h"
+#include "ui/layouts/frmMainLayout.h"
+#include "ui/layouts/frmRenameLayout.h"
+#include "ui/layouts/frmResultsLayout.h"
 
 #include <gtest/gtest.h>
 #include <set>

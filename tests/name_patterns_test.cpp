@@ -1,8 +1,8 @@
 #include "export/name_patterns.h"
 
-#include "core/failure.h"
-#include "core/text/compare.h"
-#include "core/text/trim.h"
+#include "base/failure.h"
+#include "base/text/compare.h"
+#include "base/text/trim.h"
 #include "tools/file_helpers.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "core/text/decode.h"
+#include "base/text/decode.h"
 #include "import_program.h"
 #include "temporary_folder.h"
-#include "ui/cNamesClass.h"
 #include "ui/frmRename.h"
+#include "ui/language/cNamesClass.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 
 #include "tools/file_helpers.h"
 

@@ -1,4 +1,4 @@
-#include "core/failure.h"
+#include "base/failure.h"
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
 #include "tools/file_helpers.h"

@@ -1,4 +1,4 @@
-#include "program.h"
+#include "test_program.h"
 
 namespace halvenmoor {
 namespace {

@@ -1,8 +1,8 @@
-#include "core/text/codepage.h"
-#include "core/text/compare.h"
-#include "core/text/decode.h"
-#include "core/text/lettercase.h"
-#include "core/text/trim.h"
+#include "base/text/codepage.h"
+#include "base/text/compare.h"
+#include "base/text/decode.h"
+#include "base/text/lettercase.h"
+#include "base/text/trim.h"
 
 #include <gtest/gtest.h>
 #include <set>

@@ -1,4 +1,4 @@
-#include "core/text/wildcard.h"
+#include "base/text/wildcard.h"
 
 #include "tools/file_helpers.h"
 

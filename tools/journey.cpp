@@ -5,14 +5,14 @@
 // One step a line (see Journey::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/locale.h"
-#include "platform/disk/path_finder.h"
-#include "platform/headless/twins.h"
-#include "platform/headless/user.h"
+#include "platform/headless/fakes.h"
+#include "platform/headless/list_actions.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/locale.h"
+#include "platform/posix/path_finder.h"
 #include "program.h"
-#include "tools/user.h"
+#include "tools/user_actions.h"
 
 #include <cstdio>
 #include <iostream>

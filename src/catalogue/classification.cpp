@@ -1,8 +1,8 @@
 #include "catalogue/classification.h"
 
+#include "base/text/compare.h"
+#include "base/text/wildcard.h"
 #include "catalogue/frmMain.h"
-#include "core/text/compare.h"
-#include "core/text/wildcard.h"
 
 #include <exception>
 

@@ -1,10 +1,10 @@
 #include "catalogue/frmMain.h"
 
-#include "catalogue/camera_files.h"
+#include "base/text/compare.h"
+#include "catalogue/camera_list.h"
 #include "catalogue/classification.h"
 #include "catalogue/languages.h"
-#include "core/text/compare.h"
-#include "ui/cNamesClass.h"
+#include "ui/language/cNamesClass.h"
 
 namespace halvenmoor {
 

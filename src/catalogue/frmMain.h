@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/modMain.h"
-#include "ui/frmMainLayout.h"
+#include "ui/layouts/frmMainLayout.h"
 
 #include <cstdint>
 #include <string>

@@ -1,9 +1,9 @@
 #include "catalogue/languages.h"
 
+#include "base/text/compare.h"
+#include "base/text/decode.h"
 #include "catalogue/frmMain.h"
-#include "core/text/compare.h"
-#include "core/text/decode.h"
-#include "ui/cNamesClass.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
 

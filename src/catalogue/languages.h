@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/platform/files.h"
+#include "platform/files.h"
 
 #include <string_view>
 

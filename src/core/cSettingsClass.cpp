@@ -1,7 +1,7 @@
 #include "core/cSettingsClass.h"
 
-#include "core/text/compare.h"
-#include "core/text/trim.h"
+#include "base/text/compare.h"
+#include "base/text/trim.h"
 
 #include <algorithm>
 #include <exception>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/patterns.h"
-#include "core/platform/files.h"
+#include "platform/files.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "core/modMain.h"
 
-#include "core/failure.h"
+#include "base/failure.h"
 
 #include <exception>
 

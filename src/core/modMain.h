@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/cSettingsClass.h"
-#include "core/platform/platform.h"
 #include "forms/desktop.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <functional>

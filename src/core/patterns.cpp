@@ -1,7 +1,7 @@
 #include "core/patterns.h"
 
-#include "core/failure.h"
-#include "core/text/numbers.h"
+#include "base/failure.h"
+#include "base/text/numbers.h"
 
 namespace halvenmoor {
 

@@ -1,10 +1,10 @@
 #include "export/camera_file.h"
 
-#include "core/text/compare.h"
-#include "core/text/decode.h"
-#include "core/text/numbers.h"
-#include "core/text/trim.h"
-#include "core/text/words.h"
+#include "base/text/compare.h"
+#include "base/text/decode.h"
+#include "base/text/numbers.h"
+#include "base/text/trim.h"
+#include "base/text/words.h"
 
 #include <algorithm>
 #include <bit>

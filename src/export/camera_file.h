@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/patterns.h"
-#include "core/platform/services.h"
+#include "platform/services.h"
 
 #include <array>
 #include <cstddef>

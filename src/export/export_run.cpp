@@ -1,7 +1,7 @@
 #include "export/export_run.h"
 
-#include "core/text/numbers.h"
-#include "core/text/trim.h"
+#include "base/text/numbers.h"
+#include "base/text/trim.h"
 
 namespace halvenmoor {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/platform/files.h"
 #include "export/camera_file.h"
 #include "export/modExport.h"
 #include "export/name_patterns.h"
+#include "platform/files.h"
 
 #include <memory>
 #include <optional>

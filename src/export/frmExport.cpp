@@ -1,9 +1,9 @@
 #include "export/frmExport.h"
 
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 #include "export/export_run.h"
 #include "export/results_file.h"
-#include "ui/cNamesClass.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
 

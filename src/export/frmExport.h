@@ -2,7 +2,7 @@
 
 #include "export/modExport.h"
 #include "ui/cProgressBar.h"
-#include "ui/frmExportLayout.h"
+#include "ui/layouts/frmExportLayout.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 #include "export/frmResults.h"
 
-#include "core/text/numbers.h"
-#include "ui/cNamesClass.h"
+#include "base/text/numbers.h"
 #include "ui/group_text_color.h"
+#include "ui/language/cNamesClass.h"
 
 namespace halvenmoor {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/modExport.h"
-#include "ui/frmResultsLayout.h"
+#include "ui/layouts/frmResultsLayout.h"
 
 namespace halvenmoor {
 

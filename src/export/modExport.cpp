@@ -1,7 +1,7 @@
 #include "export/modExport.h"
 
-#include "core/text/compare.h"
-#include "core/text/trim.h"
+#include "base/text/compare.h"
+#include "base/text/trim.h"
 #include "export/camera_file.h"
 #include "export/frmExport.h"
 #include "export/frmResults.h"

@@ -1,6 +1,6 @@
 #include "export/modSaveOpen.h"
 
-#include "ui/cNamesClass.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "export/name_patterns.h"
 
-#include "core/text/compare.h"
-#include "core/text/lettercase.h"
-#include "core/text/trim.h"
+#include "base/text/compare.h"
+#include "base/text/lettercase.h"
+#include "base/text/trim.h"
 
 #include <algorithm>
 #include <bit>

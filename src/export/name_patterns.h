@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/text/codepage.h"
+#include "base/text/decode.h"
 #include "core/patterns.h"
-#include "core/text/codepage.h"
-#include "core/text/decode.h"
 #include "export/pattern_filter.h"
 
 #include <cstdint>

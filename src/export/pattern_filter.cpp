@@ -1,7 +1,7 @@
 #include "export/pattern_filter.h"
 
-#include "core/text/decode.h"
-#include "core/text/lettercase.h"
+#include "base/text/decode.h"
+#include "base/text/lettercase.h"
 
 #include <algorithm>
 #include <bit>

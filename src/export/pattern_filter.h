@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/text/codepage.h"
+#include "base/text/words.h"
 #include "core/patterns.h"
-#include "core/text/codepage.h"
-#include "core/text/words.h"
 
 #include <algorithm>
 #include <array>

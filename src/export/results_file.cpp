@@ -1,8 +1,8 @@
 #include "export/results_file.h"
 
-#include "core/text/decode.h"
-#include "core/text/numbers.h"
-#include "ui/cNamesClass.h"
+#include "base/text/decode.h"
+#include "base/text/numbers.h"
+#include "ui/language/cNamesClass.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "import/ov2_import.h"
 #include "import/txt_import.h"
-#include "ui/cNamesClass.h"
 #include "ui/group_text_color.h"
+#include "ui/language/cNamesClass.h"
 
 #include <array>
 #include <exception>

@@ -2,7 +2,7 @@
 
 #include "catalogue/frmMain.h"
 #include "import/import_task.h"
-#include "ui/frmImportLayout.h"
+#include "ui/layouts/frmImportLayout.h"
 
 #include <cstdint>
 #include <initializer_list>

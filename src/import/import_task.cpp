@@ -1,6 +1,6 @@
 #include "import/import_task.h"
 
-#include "core/text/compare.h"
+#include "base/text/compare.h"
 
 namespace halvenmoor {
 

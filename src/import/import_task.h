@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/platform/platform.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "import/ov2_record.h"
 
-#include "core/text/words.h"
+#include "base/text/words.h"
 
 #include <array>
 

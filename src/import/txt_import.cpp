@@ -1,8 +1,8 @@
 #include "import/txt_import.h"
 
-#include "core/text/compare.h"
-#include "core/text/numbers.h"
-#include "core/text/trim.h"
+#include "base/text/compare.h"
+#include "base/text/numbers.h"
+#include "base/text/trim.h"
 
 #include <algorithm>
 #include <array>

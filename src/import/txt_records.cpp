@@ -1,7 +1,7 @@
 #include "import/txt_records.h"
 
-#include "core/text/compare.h"
-#include "core/text/numbers.h"
+#include "base/text/compare.h"
+#include "base/text/numbers.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/text/codepage.h"
+#include "base/text/codepage.h"
 
 #include <cstdint>
 #include <string>

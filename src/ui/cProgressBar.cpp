@@ -1,7 +1,7 @@
 #include "ui/cProgressBar.h"
 
-#include "core/failure.h"
-#include "core/text/numbers.h"
+#include "base/failure.h"
+#include "base/text/numbers.h"
 
 #include <algorithm>
 #include <string>

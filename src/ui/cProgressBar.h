@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/platform/services.h"
 #include "forms/canvas.h"
 #include "forms/controls.h"
+#include "platform/services.h"
 
 #include <cstdint>
 

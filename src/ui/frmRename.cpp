@@ -1,8 +1,8 @@
 #include "ui/frmRename.h"
 
-#include "core/text/compare.h"
-#include "core/text/decode.h"
-#include "ui/cNamesClass.h"
+#include "base/text/compare.h"
+#include "base/text/decode.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/modMain.h"
-#include "ui/frmRenameLayout.h"
+#include "ui/layouts/frmRenameLayout.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/platform/services.h"
 #include "forms/color.h"
+#include "platform/services.h"
 
 namespace halvenmoor {
 

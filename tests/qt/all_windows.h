@@ -5,8 +5,8 @@
 #include "import/frmImport.h"
 #include "program_fixture.h"
 #include "tests/temporary_folder.h"
-#include "ui/cNamesClass.h"
 #include "ui/frmRename.h"
+#include "ui/language/cNamesClass.h"
 
 #include <filesystem>
 #include <functional>

@@ -1,9 +1,9 @@
 // Captions that are too wide for their controls, and whether those of the languages fit.
 
-#include "platform/qt/caption.h"
+#include "platform/qt/windows/caption.h"
 
 #include "all_windows.h"
-#include "platform/qt/conversions.h"
+#include "platform/qt/windows/conversions.h"
 
 #include <QFontInfo>
 #include <map>

@@ -1,8 +1,8 @@
 // The program as a user has it: real windows over real files, from the start to the target file.
 
-#include "platform/disk/file_system.h"
-#include "platform/disk/host_files.h"
-#include "platform/disk/path_finder.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/path_finder.h"
 #include "program_fixture.h"
 #include "tests/temporary_folder.h"
 

@@ -1,4 +1,4 @@
-#include "platform/qt/list_view.h"
+#include "platform/qt/windows/list_view.h"
 #include "window_fixture.h"
 
 #include <QDropEvent>

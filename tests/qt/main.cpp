@@ -1,6 +1,6 @@
 // The window tests run without a display, in folders of their own, and fail on any warning of the toolkit.
 
-#include "platform/qt/application.h"
+#include "platform/qt/services/application.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
-#include "platform/disk/clock.h"
 #include "platform/headless/memory_files.h"
 #include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
+#include "platform/posix/clock.h"
 #include "src/program.h"
 #include "window_fixture.h"
 

@@ -2,8 +2,8 @@
 
 #include "forms/desktop.h"
 #include "platform/headless/services.h"
-#include "platform/qt/form_window.h"
-#include "platform/qt/toolkit.h"
+#include "platform/qt/windows/form_window.h"
+#include "platform/qt/windows/toolkit.h"
 
 #include <QApplication>
 #include <QListView>

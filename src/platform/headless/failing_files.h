@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/failure.h"
-#include "core/platform/files.h"
+#include "base/failure.h"
+#include "platform/files.h"
 
 #include <functional>
 #include <limits>

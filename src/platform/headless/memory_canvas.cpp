@@ -1,6 +1,6 @@
 #include "platform/headless/memory_canvas.h"
 
-#include "core/text/decode.h"
+#include "base/text/decode.h"
 
 #include <algorithm>
 #include <utility>

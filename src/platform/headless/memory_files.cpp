@@ -1,7 +1,7 @@
 #include "platform/headless/memory_files.h"
 
-#include "core/failure.h"
-#include "core/text/compare.h"
+#include "base/failure.h"
+#include "base/text/compare.h"
 
 #include <algorithm>
 #include <span>

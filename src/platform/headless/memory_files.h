@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/platform/files.h"
-#include "core/text/codepage.h"
+#include "base/text/codepage.h"
+#include "platform/files.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/platform/services.h"
+#include "platform/services.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/platform/services.h"
-#include "core/version.h"
+#include "platform/services.h"
+#include "platform/version.h"
 
 #include <deque>
 #include <map>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/qt/application.h"
-#include "platform/qt/file_dialogs.h"
-#include "platform/qt/message_box.h"
-#include "platform/qt/settings.h"
-#include "platform/qt/theme.h"
-#include "platform/qt/toolkit.h"
+#include "platform/qt/services/application.h"
+#include "platform/qt/services/file_dialogs.h"
+#include "platform/qt/services/message_box.h"
+#include "platform/qt/services/settings.h"
+#include "platform/qt/services/theme.h"
+#include "platform/qt/windows/toolkit.h"
 
 #include <QTranslator>
 #include <array>

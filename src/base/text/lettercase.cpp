@@ -1,0 +1,105 @@
+#include "base/text/lettercase.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace halvenmoor::text {
+namespace {
+
+/// Capitals from first to last, each `step` characters apart, whose small letters lie `distance` behind them.
+struct CapitalRange {
+    char32_t first;
+    char32_t last;
+    char32_t step;
+    char32_t distance;
+};
+
+constexpr CapitalRange capitalRanges[] = {
+    {U'A', U'Z', 1, 32},      // Latin
+    {0x00C0, 0x00D6, 1, 32},  // À to Ö
+    {0x00D8, 0x00DE, 1, 32},  // Ø to Þ
+    {0x0100, 0x012E, 2, 1},   // Ā to Į; then İ and ı, which are no pair
+    {0x0132, 0x0136, 2, 1},   // Ĳ to Ķ
+    {0x0139, 0x0147, 2, 1},   // Ĺ to Ň
+    {0x014A, 0x0176, 2, 1},   // Ŋ to Ŷ
+    {0x0179, 0x017D, 2, 1},   // Ź to Ž
+    {0x01A0, 0x01A4, 2, 1},   // Ơ to Ƥ
+    {0x01CD, 0x01DB, 2, 1},   // Ǎ to Ǜ
+    {0x01DE, 0x01EE, 2, 1},   // Ǟ to Ǯ
+    {0x01F8, 0x021E, 2, 1},   // Ǹ to Ȟ
+    {0x0222, 0x0232, 2, 1},   // Ȣ to Ȳ
+    {0x0246, 0x024E, 2, 1},   // Ɇ to Ɏ
+    {0x0391, 0x03A1, 1, 32},  // Greek: Α to Ρ
+    {0x03A3, 0x03AB, 1, 32},  // Σ to Ϋ
+    {0x03D8, 0x03EE, 2, 1},   // Ϙ to Ϯ
+    {0x0400, 0x040F, 1, 80},  // Cyrillic: Ѐ to Џ
+    {0x0410, 0x042F, 1, 32},  // А to Я
+    {0x0460, 0x0480, 2, 1},   // Ѡ to Ҁ
+    {0x048A, 0x04BE, 2, 1},   // Ҋ to Ҿ
+    {0x04C1, 0x04CD, 2, 1},   // Ӂ to Ӎ
+    {0x04D0, 0x052E, 2, 1},   // Ӑ to Ԯ
+    {0x1E00, 0x1E94, 2, 1},   // Latin Extended Additional: Ḁ to Ẕ
+    {0x1EA0, 0x1EFE, 2, 1},   // Ạ to Ỿ
+};
+
+// Pairs that lie apart, capital above small letter.
+constexpr std::u32string_view singleCapitals = U"ŸƁƂƄƆƇƉƊƋƎƏƐƑƓƔƖƗƘƜƝƟƦƧƩƬƮƯƱƲƳƵƷƸƼǶǷǴȠȻȽɁɃɄɅΆΈΉΊΌΎΏӀ";
+constexpr std::u32string_view singleSmall = U"ÿɓƃƅɔƈɖɗƌǝəɛƒɠɣɩɨƙɯɲɵʀƨʃƭʈưʊʋƴƶʒƹƽƕƿǵƞȼƚɂƀʉʌάέήίόύώӏ";
+static_assert(singleCapitals.size() == singleSmall.size());
+
+constexpr char32_t blockEnd = 0x0530;  // Latin, Greek and Cyrillic fill the table up to here
+constexpr char32_t additionalFirst = 0x1E00;
+constexpr char32_t additionalEnd = 0x1F00;
+constexpr std::size_t tableSize = blockEnd + (additionalEnd - additionalFirst);
+
+/// The place of a character in the tables; tableSize if it is in none.
+constexpr std::size_t TableIndex(char32_t character) {
+    if (character < blockEnd) return character;
+    if (character >= additionalFirst && character < additionalEnd)
+        return character - additionalFirst + blockEnd;
+    return tableSize;
+}
+
+struct CaseTables {
+    std::array<char16_t, tableSize> lower{};
+    std::array<char16_t, tableSize> upper{};
+
+    constexpr void Set(char32_t character, char32_t lowerForm, char32_t upperForm) {
+        lower[TableIndex(character)] = static_cast<char16_t>(lowerForm);
+        upper[TableIndex(character)] = static_cast<char16_t>(upperForm);
+    }
+
+    constexpr void AddPair(char32_t capital, char32_t small) {
+        Set(capital, small, capital);
+        Set(small, small, capital);
+    }
+};
+
+constexpr CaseTables MakeTables() {
+    CaseTables tables;
+    for (char32_t c = 0; c < blockEnd; ++c) tables.Set(c, c, c);
+    for (char32_t c = additionalFirst; c < additionalEnd; ++c) tables.Set(c, c, c);
+    for (const CapitalRange& range : capitalRanges) {
+        for (char32_t c = range.first; c <= range.last; c += range.step)
+            tables.AddPair(c, c + range.distance);
+    }
+    for (std::size_t i = 0; i < singleCapitals.size(); ++i) tables.AddPair(singleCapitals[i], singleSmall[i]);
+    return tables;
+}
+
+constexpr CaseTables caseTables = MakeTables();
+
+}  // namespace
+
+char32_t LowerCase(char32_t character) noexcept {
+    const std::size_t index = TableIndex(character);
+    return index < tableSize ? caseTables.lower[index] : character;
+}
+
+char32_t UpperCase(char32_t character) noexcept {
+    const std::size_t index = TableIndex(character);
+    return index < tableSize ? caseTables.upper[index] : character;
+}
+
+}  // namespace halvenmoor::text

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/headless/manual_clock.h"
+#include "platform/headless/memory_settings.h"
+#include "platform/headless/services.h"
+#include "platform/headless/toolkit.h"
+#include "platform/platform.h"
+
+#include <string>
+#include <utility>
+
+namespace halvenmoor::headless {
+
+/// The twins of all services but the files, and of the toolkit.
+struct Twins {
+    explicit Twins(std::string programFolder = "/p") : application(std::move(programFolder)) {}
+
+    /// The platform of these twins and the files given. Twins and files outlive it.
+    platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles) {
+        return With(fileSystem, hostFiles, locale);
+    }
+    /// The same with another locale.
+    platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles,
+                            const platform::Locale& otherLocale) {
+        return {fileSystem, hostFiles,   application, clock,      settings,
+                messages,   fileDialogs, theme,       otherLocale};
+    }
+
+    FixedApplication application;
+    ManualClock clock;
+    MemorySettings settings;
+    MessageLog messages;
+    ScriptedFileDialogs fileDialogs;
+    FixedTheme theme;
+    FixedLocale locale;
+    HeadlessToolkit toolkit{clock};
+};
+
+}  // namespace halvenmoor::headless

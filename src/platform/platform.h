@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/files.h"
+#include "platform/services.h"
+
+namespace halvenmoor::platform {
+
+/// The services that the program runs on, for handing round. Their owner outlives the program's objects.
+struct Platform {
+    FileSystem& fileSystem;
+    HostFiles& hostFiles;
+    Application& application;
+    Clock& clock;
+    SettingsStore& settings;
+    MessageBox& messages;
+    FileDialogs& fileDialogs;
+    Theme& theme;
+    const Locale& locale;
+};
+
+}  // namespace halvenmoor::platform

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/posix/system.h"
+
+#include <dirent.h>
+#include <memory>
+
+namespace halvenmoor::disk {
+
+/// A walk over the entries of a folder.
+class Directory {
+public:
+    /// Throws Failure.
+    explicit Directory(FileDescriptor folder);
+
+    /// The next entry, hidden ones too but neither "." nor "..", valid until the next call; null at the end.
+    /// Throws Failure.
+    const dirent* Next();
+    /// Whether the entry is a folder or a link to one.
+    bool IsFolder(const dirent& entry) const;
+
+private:
+    struct Closer {
+        void operator()(DIR* stream) const noexcept { ::closedir(stream); }
+    };
+
+    std::unique_ptr<DIR, Closer> stream_;
+};
+
+}  // namespace halvenmoor::disk

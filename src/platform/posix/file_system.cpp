@@ -1,0 +1,82 @@
+#include "platform/posix/file_system.h"
+
+#include "platform/posix/directory.h"
+#include "platform/posix/streams.h"
+#include "platform/posix/system.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace halvenmoor::disk {
+namespace {
+
+/// A folder by its descriptor, so that it stays the same one whatever happens to its path.
+class DiskFolder : public platform::Folder {
+public:
+    explicit DiskFolder(FileDescriptor folder) : folder_(std::move(folder)) {}
+
+    std::vector<std::string> Files() const override {
+        Directory directory(OpenFolder(folder_));
+        std::vector<std::string> names;
+        while (const dirent* entry = directory.Next()) {
+            if (!directory.IsFolder(*entry)) names.emplace_back(entry->d_name);
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    void Delete(std::string_view name) override {
+        const std::string path(name);
+        const bool leavesTheFolder = name.find('/') != std::string_view::npos;
+        if (leavesTheFolder) throw SystemFailure(ENOENT);
+        if (::unlinkat(folder_.Get(), SystemPath(path), 0) != 0) throw SystemFailure(errno);
+    }
+
+private:
+    FileDescriptor folder_;
+};
+
+class DiskFileSystemObject : public platform::FileSystemObject {
+public:
+    explicit DiskFileSystemObject(PathFinder& finder) : finder_(finder) {}
+
+    bool FileExists(std::string_view path) override { return KindOf(finder_.Find(path)) == Kind::File; }
+
+    bool FolderExists(std::string_view path) override { return KindOf(finder_.Find(path)) == Kind::Folder; }
+
+    std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
+        return std::make_unique<DiskFolder>(OpenFolder(finder_.Find(path)));
+    }
+
+    void DeleteFile(std::string_view path) override {
+        // Whether the file may be written does not matter to unlink: that is the folder's right.
+        if (::unlink(SystemPath(finder_.Find(path))) != 0) throw SystemFailure(errno);
+    }
+
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
+        return std::make_unique<DiskTextWriter>(OpenForWriting(finder_.FindPlace(path), WriteMode::Replace));
+    }
+
+    std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
+        return std::make_unique<DiskTextReader>(OpenForReading(finder_.Find(path)));
+    }
+
+    std::unique_ptr<platform::TextWriter> OpenForAppending(std::string_view path) override {
+        return std::make_unique<DiskTextWriter>(OpenForWriting(finder_.Find(path), WriteMode::Append));
+    }
+
+private:
+    PathFinder& finder_;
+};
+
+}  // namespace
+
+std::unique_ptr<platform::FileSystemObject> DiskFileSystem::CreateFileSystemObject() {
+    return std::make_unique<DiskFileSystemObject>(finder_);
+}
+
+}  // namespace halvenmoor::disk

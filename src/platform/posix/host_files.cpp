@@ -1,0 +1,59 @@
+#include "platform/posix/host_files.h"
+
+#include "base/text/compare.h"
+#include "platform/posix/directory.h"
+#include "platform/posix/streams.h"
+#include "platform/posix/system.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <stdio.h>  // renameat2
+#include <string>
+#include <utility>
+
+namespace halvenmoor::disk {
+namespace {
+
+bool IsHidden(std::string_view name) {
+    return name.starts_with('.');
+}
+
+bool HasExtension(std::string_view name, std::string_view extension) {
+    return name.size() >= extension.size() &&
+           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
+}
+
+}  // namespace
+
+void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
+                           const std::function<void(std::string_view)>& found) {
+    Directory directory(OpenFolder(finder_.Find(folder)));
+    while (const dirent* entry = directory.Next()) {
+        const std::string_view name(entry->d_name);
+        if (!IsHidden(name) && HasExtension(name, extension) && !directory.IsFolder(*entry)) found(name);
+    }
+}
+
+bool DiskHostFiles::IsListed(std::string_view path) {
+    const std::string real = finder_.Find(path);
+    return !IsHidden(std::string_view(real).substr(real.rfind('/') + 1)) && KindOf(real) == Kind::File;
+}
+
+std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view path) {
+    FileDescriptor file = OpenForReading(finder_.Find(path));
+    const std::uint64_t size = file.Size();
+    return std::make_unique<DiskByteReader>(std::move(file), size);
+}
+
+void DiskHostFiles::Rename(std::string_view oldPath, std::string_view newPath) {
+    const std::string from = finder_.Find(oldPath);
+    const std::string to = finder_.FindPlace(newPath);
+    if (::renameat2(AT_FDCWD, SystemPath(from), AT_FDCWD, SystemPath(to), RENAME_NOREPLACE) == 0) return;
+    const bool canTellItself = errno != EINVAL && errno != ENOSYS;
+    if (canTellItself) throw SystemFailure(errno);
+    if (EntryExists(to)) throw SystemFailure(EEXIST);
+    if (::rename(SystemPath(from), SystemPath(to)) != 0) throw SystemFailure(errno);
+}
+
+}  // namespace halvenmoor::disk

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/failure.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace halvenmoor::disk {
+
+/// The failure that an error number of the system stands for.
+Failure SystemFailure(int error);
+
+/// The path as system calls take it. One with a NUL would name another file and becomes empty, which every
+/// call refuses.
+inline const char* SystemPath(const std::string& path) {
+    return path.find('\0') == std::string::npos ? path.c_str() : "";
+}
+
+/// Whether there is an entry of this path; a link is not followed at the end.
+bool EntryExists(const std::string& path);
+
+enum class Kind { Nothing, File, Folder };
+
+/// What the path leads to, through links; a file is all that is no folder.
+Kind KindOf(const std::string& path);
+
+/// An open file or folder.
+class FileDescriptor {
+public:
+    /// Takes over the descriptor.
+    explicit FileDescriptor(int descriptor) noexcept : descriptor_(descriptor) {}
+    FileDescriptor(FileDescriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&&) = delete;
+    ~FileDescriptor() { Close(); }
+
+    int Get() const noexcept { return descriptor_; }
+    int Release() noexcept { return std::exchange(descriptor_, -1); }
+    bool IsOpen() const noexcept { return descriptor_ >= 0; }
+
+    /// Returns the error number, 0 for success and for what is closed already.
+    int Close() noexcept;
+    /// Bytes of a regular file. Throws Failure.
+    std::uint64_t Size() const;
+    /// Returns how many bytes came, 0 at the end of the file. Throws Failure.
+    std::size_t Read(std::span<char> buffer) const;
+    /// Writes all the bytes. Returns the error number, 0 for success.
+    int Write(std::string_view bytes) const noexcept;
+
+private:
+    int descriptor_;
+};
+
+/// Opens a regular file. Never waits: anything else is refused. Throws Failure.
+FileDescriptor OpenForReading(const std::string& path);
+
+enum class WriteMode { Replace, Append };
+
+/// Replace makes or empties the file, Append needs one. Never waits for a reader. Throws Failure.
+FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
+
+/// Opens a folder, also through a link. Throws Failure.
+FileDescriptor OpenFolder(const std::string& path);
+/// Opens an open folder once more, for a walk of its own. Throws Failure.
+FileDescriptor OpenFolder(const FileDescriptor& folder);
+
+}  // namespace halvenmoor::disk

@@ -1,0 +1,147 @@
+#include "platform/qt/windows/button_views.h"
+
+#include "platform/qt/windows/conversions.h"
+
+#include <QPainter>
+#include <QPolygonF>
+#include <QShortcut>
+#include <QStyleOptionButton>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <algorithm>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+/// The outline of a glyph within the square from -1, -1 to 1, 1. The cross comes as two strokes in a row.
+QPolygonF GlyphPoints(forms::Glyph glyph) {
+    switch (glyph) {
+        case forms::Glyph::TriangleLeft:
+            return QPolygonF({{0.6, -1}, {0.6, 1}, {-0.6, 0}});
+        case forms::Glyph::TriangleRight:
+            return QPolygonF({{-0.6, -1}, {-0.6, 1}, {0.6, 0}});
+        case forms::Glyph::Tick:
+            return QPolygonF({{-0.9, 0}, {-0.3, 0.7}, {0.9, -0.8}});
+        case forms::Glyph::Cross:
+            return QPolygonF({{-0.8, -0.8}, {0.8, 0.8}, {0, 0}, {-0.8, 0.8}, {0.8, -0.8}});
+        case forms::Glyph::None:
+            break;
+    }
+    return {};
+}
+
+bool IsFilled(forms::Glyph glyph) {
+    return glyph == forms::Glyph::TriangleLeft || glyph == forms::Glyph::TriangleRight;
+}
+
+}  // namespace
+
+QRect GlyphButton::CaptionRoom() const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    constexpr int kGap = 3;  // between the words and the border
+    return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).adjusted(kGap, 0, -kGap, 0);
+}
+
+void GlyphButton::paintEvent(QPaintEvent* event) {
+    QPushButton::paintEvent(event);
+    if (glyph_ == forms::Glyph::None) return;
+    constexpr double kShareOfHeight = 0.22;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(rect()).center());
+    painter.scale(height() * kShareOfHeight, height() * kShareOfHeight);
+    const QColor color = palette().color(QPalette::ButtonText);
+    if (IsFilled(glyph_)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPolygon(GlyphPoints(glyph_));
+    } else {
+        painter.setPen(QPen(color, 0.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(GlyphPoints(glyph_));
+    }
+}
+
+template <class Base>
+QRect WrappingToggle<Base>::CaptionRoom() const {
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    return this->style()->subElementRect(
+        kIsCheckBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option, this);
+}
+
+template <class Base>
+void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    const QString words = std::exchange(option.text, {});
+    const bool hasFocus = option.state & QStyle::State_HasFocus;
+    option.state &= ~QStyle::State_HasFocus;
+
+    QStylePainter painter(this);
+    painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
+    const QRect contents = CaptionRoom();
+    const int flags =
+        static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
+    if (!hasFocus) return;
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(option);
+    focus.rect = this->style()
+                     ->itemTextRect(option.fontMetrics, contents, flags, true, words)
+                     .adjusted(-2, -1, 2, 1)
+                     .intersected(this->rect());
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+}
+
+CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& parent,
+                                     const text::CodePage& page)
+    : ViewOf(button, parent, page) {
+    Widget().SetGlyph(button.AtDesign().glyph);
+    if (const char digit = button.AtDesign().altDigit; digit != 0) {
+        // Not the button's own shortcut, which shows a press of a tenth of a second before it acts.
+        auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(digit)), &Widget());
+        QObject::connect(shortcut, &QShortcut::activated, &Widget(), &QPushButton::click);
+    }
+    Widget().setAutoDefault(true);  // the Enter key presses the button that has the focus
+    QObject::connect(&Widget(), &QPushButton::clicked, [this] {
+        Control().UserPress();
+        Update();
+    });
+}
+
+void CommandButtonView::ShowState() {
+    if (Control().AtDesign().glyph != forms::Glyph::None) return;
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextSingleLine)));
+}
+
+CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::CodePage& page)
+    : ViewOf(box, parent, page) {
+    QObject::connect(&Widget(), &QCheckBox::clicked, [this] {
+        Control().UserPress();
+        Update();
+    });
+}
+
+void CheckBoxView::ShowState() {
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
+    Widget().setChecked(Control().Value());
+}
+
+OptionButtonView::OptionButtonView(forms::OptionButton& button, QWidget& parent, const text::CodePage& page)
+    : ViewOf(button, parent, page) {
+    QObject::connect(&Widget(), &QRadioButton::clicked, [this] {
+        Control().UserPress();
+        Update();
+    });
+}
+
+void OptionButtonView::ShowState() {
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
+    Widget().setAutoExclusive(false);  // a group would not let its last button go off
+    Widget().setChecked(Control().Value());
+    Widget().setAutoExclusive(true);
+}
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,88 @@
+#include "platform/qt/windows/control_view.h"
+
+#include "platform/qt/windows/button_views.h"
+#include "platform/qt/windows/caption.h"
+#include "platform/qt/windows/combo_view.h"
+#include "platform/qt/windows/conversions.h"
+#include "platform/qt/windows/list_view.h"
+#include "platform/qt/windows/picture_view.h"
+#include "platform/qt/windows/text_views.h"
+
+#include <QTextDocument>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+template <class View>
+std::unique_ptr<ControlView> Make(forms::Control& control, QWidget& parent, const text::CodePage& page) {
+    return std::make_unique<View>(static_cast<typename View::ControlType&>(control), parent, page);
+}
+
+/// Qt shows as markup what looks like it, so plain text is made markup that shows it.
+QString ToToolTip(const QString& text) {
+    return text.isEmpty() ? text : Qt::convertFromPlainText(text);
+}
+
+std::unique_ptr<ControlView> MakeByKind(forms::Control& control, QWidget& parent,
+                                        const text::CodePage& page) {
+    switch (control.Kind()) {
+        case forms::Kind::Label:
+            return Make<LabelView>(control, parent, page);
+        case forms::Kind::Frame:
+            return Make<FrameView>(control, parent, page);
+        case forms::Kind::CommandButton:
+            return Make<CommandButtonView>(control, parent, page);
+        case forms::Kind::CheckBox:
+            return Make<CheckBoxView>(control, parent, page);
+        case forms::Kind::OptionButton:
+            return Make<OptionButtonView>(control, parent, page);
+        case forms::Kind::ListBox:
+            return Make<ListView>(control, parent, page);
+        case forms::Kind::ComboBox:
+            return Make<ComboView>(control, parent, page);
+        case forms::Kind::PictureBox:
+            return Make<PictureView>(control, parent, page);
+        case forms::Kind::TextBox:
+            return Make<TextBoxView>(control, parent, page);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void ControlView::Update() {
+    widget_.setEnabled(control_.Enabled());
+    widget_.setVisible(control_.Visible());
+    if (const auto color = control_.ForeColor()) {
+        QPalette colors;
+        colors.setColor(widget_.foregroundRole(), ToQColor(*color));
+        widget_.setPalette(colors);
+    }
+    widget_.setAccessibleName(ToText(control_.AccessibleName(), page_));
+    const QString toolTip = QString::fromStdString(control_.ToolTip());
+    widget_.setToolTip(ToToolTip(toolTip));
+    widget_.setAccessibleDescription(toolTip);
+    ShowState();
+}
+
+QString ControlView::ShownCaption(const QSize& room, Qt::TextFlag lines) {
+    const QString caption = ToText(control_.Caption(), page_);
+    const FittedCaption fitted = FitCaption(caption, ToFont({}), room, lines);
+    widget_.setFont(fitted.font);
+    if (fitted.text != caption && control_.ToolTip().empty()) widget_.setToolTip(ToToolTip(caption));
+    return fitted.text;
+}
+
+std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& parent,
+                                             const text::CodePage& page) {
+    std::unique_ptr<ControlView> view = MakeByKind(control, parent, page);
+    QWidget& widget = view->Widget();
+    widget.setObjectName(QString::fromStdString(control.Name()));
+    widget.setFont(ToFont({}));
+    widget.setGeometry(ToRect(control.AtDesign().place));
+    view->Update();
+    return view;
+}
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/text/codepage.h"
+#include "forms/color.h"
+#include "forms/font.h"
+#include "forms/geometry.h"
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace halvenmoor::qt {
+
+/// Bytes as they are shown: UTF-8, anything else by the code page.
+QString ToText(std::string_view bytes, const text::CodePage& page);
+
+/// The same for one row of a list: characters that would break the line show as their signs.
+QString ToRow(std::string_view bytes, const text::CodePage& page);
+
+/// A text for a control that would take an & for the mark of a shortcut.
+QString WithoutShortcut(QString text);
+
+/// The side on which lines of such a text begin.
+Qt::Alignment SideOf(const QString& text);
+
+std::string ToUtf8(const QString& text);
+
+/// The font in the pixel size that belongs to its points at 96 dots per inch.
+QFont ToFont(const forms::Font& font);
+
+QRect ToRect(const forms::Place& place);
+QRect ToRect(const forms::PixelRect& area);
+
+forms::Color ToColor(const QColor& color);
+/// A system colour is taken from the theme; the palette's text colour stands in for one that it lacks.
+QColor ToQColor(forms::Color color);
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,189 @@
+#include "platform/qt/windows/list_view.h"
+
+#include "platform/qt/windows/conversions.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <algorithm>
+
+namespace halvenmoor::qt {
+
+void ListRows::Reload() {
+    beginResetModel();
+    count_ = list_.ListCount();
+    endResetModel();
+}
+
+int ListRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count_;
+}
+
+QVariant ListRows::data(const QModelIndex& index, int role) const {
+    // The list may have shrunk since the last reload.
+    const bool isWanted = role == Qt::DisplayRole || role == Qt::TextAlignmentRole;
+    if (!isWanted || index.row() >= list_.ListCount()) return {};
+    const QString row = ToRow(list_.List(index.row()), page_);
+    if (role == Qt::DisplayRole) return row;
+    return QVariant::fromValue(Qt::AlignVCenter | SideOf(row));
+}
+
+Qt::ItemFlags ListRows::flags(const QModelIndex&) const {
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+}
+
+DraggedItems::DraggedItems() {
+    // A format that no other program knows, so that none takes the drop.
+    setData(QStringLiteral("application/x-halvenmoor-items"), "items");
+}
+
+ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(false);
+}
+
+void ListWidget::Join(forms::ListBox& list, const text::CodePage& page) {
+    list_ = &list;
+    rows_ = new ListRows(list, page, this);
+    setModel(rows_);
+}
+
+void ListWidget::ShowState() {
+    const int top = verticalScrollBar()->value();
+    if (shownItems_ != list_->ItemsVersion()) {
+        rows_->Reload();
+        doItemsLayout();
+        shownItems_ = list_->ItemsVersion();
+    }
+    ShowSelection();
+    ShowCurrentRow();
+    verticalScrollBar()->setValue(top);  // the current row has scrolled into view, wanted or not
+    if (list_->TakeScroll()) scrollTo(currentIndex());
+    selectionChanged_ = false;
+}
+
+int ListWidget::TopRow() const {
+    return std::max(indexAt({0, 0}).row(), 0);
+}
+
+void ListWidget::ShowSelection() {
+    std::vector<int> wanted;
+    for (int row = 0; row < list_->ListCount(); ++row) {
+        if (list_->Selected(row)) wanted.push_back(row);
+    }
+    if (wanted == SelectedRows()) return;
+    QItemSelection ranges;
+    for (std::size_t i = 0; i < wanted.size();) {
+        std::size_t last = i;
+        while (last + 1 < wanted.size() && wanted[last + 1] == wanted[last] + 1) ++last;
+        ranges.append({rows_->index(wanted[i]), rows_->index(wanted[last])});
+        i = last + 1;
+    }
+    selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
+}
+
+void ListWidget::ShowCurrentRow() {
+    if (currentIndex().row() == list_->ListIndex()) return;
+    selectionModel()->setCurrentIndex(rows_->index(list_->ListIndex()), QItemSelectionModel::NoUpdate);
+}
+
+std::vector<int> ListWidget::SelectedRows() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+bool ListWidget::event(QEvent* event) {
+    const bool handled = QListView::event(event);
+    if (selectionChanged_) Report();
+    return handled;
+}
+
+bool ListWidget::viewportEvent(QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) {
+        const auto& mouse = static_cast<const QMouseEvent&>(*event);
+        clickPending_ = mouse.button() == Qt::LeftButton && indexAt(mouse.position().toPoint()).isValid();
+    }
+    if (type == QEvent::ToolTip) {
+        ShowWholeText(static_cast<const QHelpEvent&>(*event));
+        return true;
+    }
+    const bool handled = QListView::viewportEvent(event);
+    // A click that changes nothing counts as well, once the mouse is up.
+    if (selectionChanged_ || (clickPending_ && type == QEvent::MouseButtonRelease)) Report();
+    return handled;
+}
+
+void ListWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    selectionChanged_ = true;
+}
+
+void ListWidget::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (!hasFocus()) return;
+    // Without a current row nothing else would show where the keys go.
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void ListWidget::Report() {
+    selectionChanged_ = false;
+    clickPending_ = false;
+    if (!list_->UserSelect(SelectedRows(), currentIndex().row())) ShowState();
+}
+
+void ListWidget::startDrag(Qt::DropActions) {
+    clickPending_ = false;
+    if (!list_->UserStartDrag()) return;
+    auto* const drag = new QDrag(this);  // ends its own life after exec
+    drag->setMimeData(new DraggedItems);
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    list_->UserCompleteDrag();
+}
+
+bool ListWidget::Takes(const QDropEvent& drop) const {
+    const bool isOwnDrag = dynamic_cast<const DraggedItems*>(drop.mimeData()) != nullptr;
+    return isOwnDrag && list_->OLEDropMode() == forms::ListBox::DropMode::Manual;
+}
+
+void ListWidget::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(Takes(*event));
+}
+
+void ListWidget::dragMoveEvent(QDragMoveEvent* event) {
+    event->setAccepted(Takes(*event));
+}
+
+void ListWidget::dropEvent(QDropEvent* event) {
+    event->setAccepted(Takes(*event));
+    if (event->isAccepted()) list_->UserDrop();
+}
+
+void ListWidget::ShowWholeText(const QHelpEvent& event) const {
+    const QModelIndex index = indexAt(event.pos());
+    const bool isCut = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
+    const QString text = isCut ? index.data().toString().toHtmlEscaped() : QString();
+    QToolTip::showText(event.globalPos(), isCut ? "<p style='white-space:pre'>" + text + "</p>" : text);
+}
+
+ListView::ListView(forms::ListBox& list, QWidget& parent, const text::CodePage& page)
+    : ViewOf(list, parent, page) {
+    Widget().Join(list, page);
+}
+
+}  // namespace halvenmoor::qt

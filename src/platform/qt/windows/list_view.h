@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/qt/windows/control_view.h"
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QMimeData>
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+namespace halvenmoor::qt {
+
+/// Reads the rows straight from the form's list.
+class ListRows : public QAbstractListModel {
+public:
+    ListRows(const forms::ListBox& list, const text::CodePage& page, QObject* parent)
+        : QAbstractListModel(parent), list_(list), page_(page) {}
+
+    /// Takes over the items of the list after they have changed.
+    void Reload();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    const forms::ListBox& list_;
+    const text::CodePage& page_;
+    int count_ = 0;
+};
+
+/// What a drag of the program's own carries: no other drag brings an object of this class.
+class DraggedItems : public QMimeData {
+public:
+    DraggedItems();
+};
+
+class ListWidget : public QListView {
+public:
+    explicit ListWidget(QWidget* parent);
+
+    /// To be called once, before the widget shows.
+    void Join(forms::ListBox& list, const text::CodePage& page);
+    void ShowState();
+    int TopRow() const;
+
+protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void startDrag(Qt::DropActions actions) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    std::vector<int> SelectedRows() const;
+    void ShowSelection();
+    void ShowCurrentRow();
+    /// Tells the list what the user selected.
+    void Report();
+    bool Takes(const QDropEvent& drop) const;
+    /// Shows the text of a row that is cut off.
+    void ShowWholeText(const QHelpEvent& event) const;
+
+    forms::ListBox* list_ = nullptr;
+    ListRows* rows_ = nullptr;
+    std::uint64_t shownItems_ = 0;
+    /// The user changed the selection and the list has not heard of it yet.
+    bool selectionChanged_ = false;
+    /// The mouse went down on a row and the list has not heard of it yet.
+    bool clickPending_ = false;
+};
+
+class ListView : public ViewOf<forms::ListBox, ListWidget> {
+public:
+    ListView(forms::ListBox& list, QWidget& parent, const text::CodePage& page);
+
+    int TopRow() const { return Widget().TopRow(); }
+    /// In pixels; 0 where there is no row.
+    int RowHeight() const { return std::max(Widget().sizeHintForRow(0), 0); }
+
+private:
+    void ShowState() override { Widget().ShowState(); }
+};
+
+}  // namespace halvenmoor::qt

@@ -1,0 +1,70 @@
+#include "platform/qt/windows/picture_view.h"
+
+#include <QPainter>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+QString PicturePath(const QString& name) {
+    return QStringLiteral(":/pictures/%1.svg").arg(name);
+}
+
+}  // namespace
+
+void PictureWidget::Load(const QString& name) {
+    picture_.load(PicturePath(name));
+    picture_.setAspectRatioMode(Qt::KeepAspectRatio);
+}
+
+void PictureWidget::SetBordered(bool bordered) {
+    if (bordered == bordered_) return;
+    bordered_ = bordered;
+    update();
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+    const int border = bordered_ ? 1 : 0;
+    const QRect inside = rect().adjusted(border, border, -border, -border);
+    QPainter painter(this);
+    if (canvas_ != nullptr && !canvas_->Image().isNull()) {
+        painter.drawImage(inside, canvas_->Image());
+    } else if (picture_.isValid()) {
+        picture_.render(&painter, inside);
+    }
+    if (!bordered_) return;
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+PictureView::PictureView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page)
+    : ViewOf(box, parent, page), canvas_(Widget(), page) {
+    Widget().SetCanvas(canvas_);
+    const std::string& picture = box.AtDesign().picture;
+    if (!picture.empty()) Widget().Load(QString::fromStdString(picture));
+}
+
+forms::Canvas& PictureView::Canvas() {
+    canvas_.SetBorder(Control().Bordered() ? 1 : 0);
+    return canvas_;
+}
+
+void PictureView::ShowState() {
+    Widget().SetBordered(Control().Bordered());
+}
+
+QIcon ProgramIcon() {
+    QSvgRenderer picture(PicturePath(QStringLiteral("halvenmoor")));
+    QIcon icon;
+    for (const int size : {16, 32, 64}) {
+        QPixmap image(size, size);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        picture.render(&painter);
+        painter.end();
+        icon.addPixmap(image);
+    }
+    return icon;
+}
+
+}  // namespace halvenmoor::qt

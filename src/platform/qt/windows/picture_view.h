@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/qt/windows/canvas.h"
+#include "platform/qt/windows/control_view.h"
+
+#include <QIcon>
+#include <QSvgRenderer>
+
+namespace halvenmoor::qt {
+
+/// Shows a picture of the program or, once it was drawn on, the image of its canvas.
+class PictureWidget : public QWidget {
+public:
+    explicit PictureWidget(QWidget* parent) : QWidget(parent) {}
+
+    /// A picture by its name, without a folder or an extension.
+    void Load(const QString& name);
+    void SetBordered(bool bordered);
+    /// The widget does not own the canvas.
+    void SetCanvas(ImageCanvas& canvas) { canvas_ = &canvas; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QSvgRenderer picture_;
+    ImageCanvas* canvas_ = nullptr;
+    bool bordered_ = false;
+};
+
+class PictureView : public ViewOf<forms::PictureBox, PictureWidget> {
+public:
+    PictureView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page);
+
+    forms::Canvas& Canvas();
+
+private:
+    void ShowState() override;
+
+    ImageCanvas canvas_;
+};
+
+/// The program's icon.
+QIcon ProgramIcon();
+
+}  // namespace halvenmoor::qt

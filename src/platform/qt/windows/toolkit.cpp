@@ -1,0 +1,83 @@
+#include "platform/qt/windows/toolkit.h"
+
+#include "platform/qt/windows/accessibility.h"
+#include "platform/qt/windows/form_window.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QSessionManager>
+#include <QTimer>
+
+namespace halvenmoor::qt {
+
+namespace {
+
+// A shorter wait is not worth a sleep, which may come back late.
+constexpr double kShortestSleep = 0.002;
+
+// Milliseconds between two turns of a loop that offers many. A click is answered within a few of these.
+constexpr qint64 kTurnInterval = 10;
+
+void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
+    window.SetOnHidden([&loop] { loop.quit(); });
+    loop.exec();
+    window.SetOnHidden(nullptr);
+}
+
+}  // namespace
+
+QtToolkit::QtToolkit(const platform::Locale& locale) : page_(locale.CodePage()) {
+    InstallAccessibility();
+}
+
+std::unique_ptr<forms::View> QtToolkit::CreateView(forms::Form& form) {
+    QWidget* const below = TopWindow();
+    auto window = std::make_unique<FormWindow>(form, page_, below);
+    if (below == nullptr) mainWindow_ = window.get();
+    return window;
+}
+
+void QtToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {
+    if (!form.IsOpen()) return;
+    QEventLoop loop;
+    QTimer starter;
+    starter.setSingleShot(true);
+    QObject::connect(&starter, &QTimer::timeout, first);
+    starter.start(0);
+    RunUntilHidden(static_cast<FormWindow&>(*form.View()), loop);
+}
+
+void QtToolkit::HandleEvents(double waitSeconds) {
+    Pump(waitSeconds);
+    sinceTurn_.start();
+}
+
+bool QtToolkit::TurnIsDue() const {
+    return !sinceTurn_.isValid() || sinceTurn_.hasExpired(kTurnInterval);
+}
+
+void QtToolkit::Pump(double waitSeconds) {
+    if (waitSeconds < kShortestSleep) {
+        QCoreApplication::processEvents();
+        return;
+    }
+    QTimer alarm;
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.start(static_cast<int>(waitSeconds * 1000));
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void QtToolkit::Run(forms::Desktop& desktop) {
+    if (desktop.Ended() || mainWindow_ == nullptr) return;
+    QEventLoop loop;
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, &loop,
+        [&desktop](QSessionManager& session) {
+            if (!desktop.CloseAll()) session.cancel();
+        },
+        Qt::DirectConnection);
+    RunUntilHidden(*mainWindow_, loop);
+}
+
+}  // namespace halvenmoor::qt

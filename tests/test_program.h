@@ -1,0 +1,151 @@
+#pragma once
+
+#include "catalogue/frmMain.h"
+#include "export/frmResults.h"
+#include "platform/headless/failing_files.h"
+#include "platform/headless/fakes.h"
+#include "platform/headless/list_actions.h"
+#include "platform/headless/memory_files.h"
+#include "src/program.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace halvenmoor {
+
+/// Typed text, as it stands in a file of the program.
+inline std::string Crlf(std::string_view text) {
+    std::string bytes;
+    for (const char character : text)
+        bytes += character == '\n' ? std::string("\r\n") : std::string{character};
+    return bytes;
+}
+
+/// The whole program in memory, in the folder /p. A test prepares files and options, then starts it:
+///
+///     TestProgram program;
+///     program.AddCameraFile("Fixed_50", "13.4,52.5,\"Berlin\"\n");
+///     program.Start();
+///     program.Move(1, {"Fixed_50"});
+///     EXPECT_TRUE(program.Export());
+///     EXPECT_EQ(program.Target(), "...");
+///
+/// The store of options is empty, so the program starts in demonstration mode unless the test says otherwise.
+struct TestProgram : headless::Twins {
+    using Names = std::vector<std::string>;
+
+    /// The folders as installed and a Settings.ini without any pattern; no camera files and no languages.
+    TestProgram() {
+        for (const char* folder :
+             {"/p/asc", "/p/txt", "/p/lang", "/p/import/ov2", "/p/import/txt", "/p/demo/asc_demo",
+              "/p/demo/txt_demo", "/p/demo/asc", "/p/demo/import/ov2", "/p/demo/import/txt"}) {
+            memory.AddFolder(folder);
+        }
+        SetSettings("");
+        toolkit.OnStuck = [](const forms::Form& form) {
+            ADD_FAILURE() << form.AtDesign().name << " is open and nothing closes it";
+        };
+    }
+
+    void Start() { program.Start(); }
+
+    // Files and options
+
+    void SetSettings(std::string_view text) { memory.Put("/p/Settings.ini", text); }
+    /// A language file by its name without ".ini"; the lines are those of the one section.
+    void AddLanguage(const std::string& name, const std::string& lines) {
+        memory.Put("/p/lang/" + name + ".ini", "[Halvenmoor]\n" + lines);
+    }
+    void SetOption(std::string_view name, std::string_view value) {
+        settings.SaveSetting("Halvenmoor", "Settings", name, value);
+    }
+    std::string Option(std::string_view name, std::string_view defaultValue = "(none)") {
+        return settings.GetSetting("Halvenmoor", "Settings", name, defaultValue);
+    }
+    bool Demonstration() { return Option("DemoMode", "1") == "1"; }
+
+    std::string CameraPath(const std::string& entry) {
+        return (Demonstration() ? "/p/demo/asc_demo/" : "/p/asc/") + entry + ".asc";
+    }
+    void AddCameraFile(const std::string& entry, std::string_view text = "") {
+        memory.Put(CameraPath(entry), text);
+    }
+
+    std::string TargetPath() {
+        return Demonstration() ? "/p/demo/txt_demo/SpeedCamText.txt" : "/p/txt/SpeedCamText.txt";
+    }
+    std::string ResultsPath() {
+        return Demonstration() ? "/p/demo/Export Results.txt" : "/p/Export Results.txt";
+    }
+    /// The bytes of a file, "(none)" when it is missing.
+    std::string Text(const std::string& path) const {
+        return memory.Has(path) ? memory.Text(path) : "(none)";
+    }
+    std::string Target() { return Text(TargetPath()); }
+    std::string ResultsFile() { return Text(ResultsPath()); }
+
+    // What the user sees and does
+
+    frmMain& Window() { return program.MainForm(); }
+    modExport& Exports() { return program.Exports(); }
+    /// TypeList(1) to TypeList(5); 0 is MainList.
+    forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
+    Names Items(int number) { return headless::ItemsOf(List(number)); }
+
+    template <class Button>
+    void Click(Button& button) {
+        EXPECT_TRUE(button.UserPress()) << button.Name();
+    }
+    void Select(int number, const Names& names) {
+        EXPECT_TRUE(headless::Select(List(number), names)) << "list " << number;
+    }
+    void Select(forms::ComboBox& combo, const std::string& text) {
+        int index = 0;
+        while (index < combo.ListCount() && combo.List(index) != text) ++index;
+        EXPECT_TRUE(combo.UserChoose(index)) << text;
+    }
+    /// Drags entries of one list to another.
+    void Drag(int from, int to, const Names& names) {
+        Select(from, names);
+        EXPECT_TRUE(headless::Drag(List(from), List(to))) << from << " to " << to;
+    }
+    /// Gives unclassified entries a type.
+    void Move(int type, const Names& names) { Drag(0, type, names); }
+
+    /// Clicks a button. If a dialog shows up, hands it to act and closes it by Escape should it still be
+    /// open. True when it showed up.
+    template <class Dialog>
+    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& act) {
+        bool shown = false;
+        toolkit.Script([&](forms::Form& form) {
+            shown = true;
+            if (act) act(static_cast<Dialog&>(form));
+            form.UserEscape();
+        });
+        Click(button);
+        toolkit.ForgetScript();
+        return shown;
+    }
+    /// Exports with the present mode. True when the results window showed up.
+    bool Export(const std::function<void(frmResults&)>& look = {}) {
+        return Open(Window().ButtonExportCameras, look);
+    }
+    /// Mode 2 saves as the path, 3 appends to it.
+    bool ExportTo(int mode, const std::string& path, const std::function<void(frmResults&)>& look = {}) {
+        Click(Window().OptionExportMode[mode]);
+        fileDialogs.Answers = {path};
+        return Export(look);
+    }
+
+    headless::MemoryFiles memory;
+    /// What the program works on: memory, with calls that can be made to fail.
+    headless::FailingFiles files{memory, memory};
+    Program program{With(files, files), toolkit};
+    modMain& core = program.Core();
+    forms::Desktop& desktop = program.Desktop();
+};
+
+}  // namespace halvenmoor
