@@ -48,16 +48,16 @@ int main(int argc, char** argv) {
     }
     const QString sourceOption = std::string_view(argv[2]) == "ov2" ? "OptionSource(1)" : "OptionSource(2)";
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
+    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
     qt::QtPlatform qt(argv[0], locale);
-    disk::PathFinder finder(locale.CodePage());
-    disk::DiskFileSystem fileSystem(finder);
-    disk::DiskHostFiles hostFiles(finder);
-    headless::FixedApplication application(argv[1]);
+    posix::PathFinder finder(locale.CodePage());
+    posix::DiskFileSystem fileSystem(finder);
+    posix::DiskHostFiles hostFiles(finder);
+    headless::FixedProgramInfo programInfo(argv[1]);
     headless::ManualClock clock;
     headless::MemorySettings settings;
     Program program(
-        {fileSystem, hostFiles, application, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
+        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
         qt.toolkit);
     program.Start();
     program.MainForm().CheckDemoMode.UserPress();

@@ -42,7 +42,7 @@ private:
     std::vector<std::string> names_;
 };
 
-struct BenchPlatform : headless::Twins {
+struct BenchPlatform : headless::Fakes {
     explicit BenchPlatform(int entries) : cameraFiles(entries) {
         files.Put("/p/Settings.ini", "[Type1]\r\n*1.asc\r\n[Type2]\r\n*2.asc\r\n[Type3]\r\n*\r\n");
     }

@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(value == Read(world, file + "\r\n"), "the end of the last line makes no difference");
         if (!value) continue;
         Require(text::IsValidUtf8(*value), "a value is UTF-8");
-        Require(text::CharacterCount(*value) <= kLongestProfileValue, "a value is cut");
+        Require(text::CharacterCount(*value) <= kMaxProfileValue, "a value is cut");
         Require(!value->starts_with(' ') && !value->starts_with('\t'), "a value begins without white space");
         const std::string shown = NormaliseText(*value, cNamesClass::Case::AsWritten);
         RequireShowable(shown);

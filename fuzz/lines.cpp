@@ -15,9 +15,9 @@ using fuzz::Require;
 namespace {
 
 Strings ReadInOnePiece(std::string_view bytes) {
-    disk::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
+    posix::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
     Require(file.Write(bytes) == 0 && lseek(file.Get(), 0, SEEK_SET) == 0, "there is memory for the text");
-    disk::DiskTextReader reader(std::move(file));
+    posix::DiskTextReader reader(std::move(file));
     return ReadLines(reader);
 }
 
@@ -27,10 +27,10 @@ constexpr std::size_t kMostPackets = 256;
 Strings ReadByteByByte(std::string_view bytes) {
     int ends[2];
     Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
-    const int room = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
-    disk::FileDescriptor out(ends[1]);
-    disk::DiskTextReader reader{disk::FileDescriptor(ends[0])};
-    Require(room >= 1 << 20, "the pipe has room");
+    const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
+    posix::FileDescriptor out(ends[1]);
+    posix::DiskTextReader reader{posix::FileDescriptor(ends[0])};
+    Require(capacity >= 1 << 20, "the pipe holds it");
     for (const char byte : bytes) Require(out.Write({&byte, 1}) == 0, "a byte fits into the pipe");
     out.Close();
     return ReadLines(reader);
@@ -45,6 +45,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(ReadByteByByte(bytes) == lines, "lines read byte by byte are the lines");
     headless::MemoryFiles memory;
     memory.Put("/a", bytes);
-    Require(ReadLines(memory, "/a") == lines, "the twin reads the same");
+    Require(ReadLines(memory, "/a") == lines, "the fake reads the same");
     return 0;
 }

@@ -12,7 +12,7 @@
 namespace halvenmoor::fuzz {
 
 /// The platform in memory.
-struct World : headless::Twins {
+struct World : headless::Fakes {
     headless::MemoryFiles memory;
     platform::Platform services = With(memory, memory);
 };
@@ -25,7 +25,7 @@ struct ImportWorld : World, ImportProgress {
         memory.AddFolder("/target");
     }
 
-    void Turn() override {}
+    void Yield() override {}
     bool StopRequested() const override { return false; }
     void FileDone() override {}
     void RecordsAdded(std::int32_t) override {}

@@ -10,13 +10,13 @@ using namespace halvenmoor;
 
 // The program takes no command line.
 int main(int, char** arguments) {
-    const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
-    disk::PathFinder finder(locale.CodePage());
-    disk::DiskFileSystem fileSystem(finder);
-    disk::DiskHostFiles hostFiles(finder);
-    disk::DiskClock clock;
+    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
+    posix::PathFinder finder(locale.CodePage());
+    posix::DiskFileSystem fileSystem(finder);
+    posix::DiskHostFiles hostFiles(finder);
+    posix::SystemClock clock;
     qt::QtPlatform qt(arguments[0], locale);
-    Program program({fileSystem, hostFiles, qt.application, clock, qt.settings, qt.messages, qt.fileDialogs,
+    Program program({fileSystem, hostFiles, qt.programInfo, clock, qt.settings, qt.messages, qt.fileDialogs,
                      qt.theme, locale},
                     qt.toolkit);
     program.Start();

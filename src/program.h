@@ -12,7 +12,7 @@ namespace halvenmoor {
 
 class frmMain;
 
-/// The whole program on a given platform: every room joined to the ones it needs.
+/// The whole program on a given platform: every module joined to the ones it needs.
 class Program {
 public:
     /// Platform and toolkit outlive the program.

@@ -53,8 +53,8 @@ inline Disk AllFiles(const TemporaryFolder& folder) {
 }
 
 /// The program over a folder of real files, in normal mode.
-struct DiskProgram : headless::Twins {
-    explicit DiskProgram(const TemporaryFolder& folder) : Twins(folder.Path()) {
+struct DiskProgram : headless::Fakes {
+    explicit DiskProgram(const TemporaryFolder& folder) : Fakes(folder.Path()) {
         settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
         program.Start();
     }
@@ -76,9 +76,9 @@ struct DiskProgram : headless::Twins {
         return std::accumulate(counters.begin(), counters.end(), 0);
     }
 
-    disk::PathFinder finder{locale.CodePage()};
-    disk::DiskFileSystem fileSystem{finder};
-    disk::DiskHostFiles hostFiles{finder};
+    posix::PathFinder finder{locale.CodePage()};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles hostFiles{finder};
     Program program{With(fileSystem, hostFiles), toolkit};
 };
 

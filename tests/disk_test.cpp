@@ -28,21 +28,21 @@ protected:
     }
 
     TemporaryFolder folder;
-    disk::PathFinder finder{text::WindowsCodePage(1252)};
-    disk::DiskFileSystem fileSystem{finder};
-    disk::DiskHostFiles host{finder};
+    posix::PathFinder finder{text::WindowsCodePage(1252)};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles host{finder};
     std::unique_ptr<platform::FileSystemObject> object = fileSystem.CreateFileSystemObject();
 };
 
 TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
-    for (std::size_t length = disk::kBufferSize - 3; length <= disk::kBufferSize + 1; ++length) {
+    for (std::size_t length = posix::kBufferSize - 3; length <= posix::kBufferSize + 1; ++length) {
         const std::string line(length, 'x');
         for (const std::string lineEnd : {"\n", "\r\n"}) {
             folder.Put("a", line + lineEnd + "next" + lineEnd + line + "\r|" + lineEnd + "last\r");
             EXPECT_TRUE(LinesOf("a") == (Strings{line, "next", line + "\r|", "last\r"})) << length;
         }
     }
-    for (std::size_t count = disk::kBufferSize / 8 - 1; count <= disk::kBufferSize / 8 + 1; ++count) {
+    for (std::size_t count = posix::kBufferSize / 8 - 1; count <= posix::kBufferSize / 8 + 1; ++count) {
         std::string bytes = "1";  // each line end crosses a multiple of eight
         for (std::size_t i = 0; i < count; ++i) bytes += "23456\r\n1";
         EXPECT_EQ((folder.Put("a", bytes), LinesOf("a").size()), count + 1);
@@ -50,26 +50,26 @@ TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
 }
 
 TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
-    const std::string longLine(5 * disk::kBufferSize + 7, 'x');
+    const std::string longLine(5 * posix::kBufferSize + 7, 'x');
     folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
     EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
-    folder.Put("a", std::string(disk::kBufferSize, 'z'));
-    EXPECT_TRUE(LinesOf("a") == Strings{std::string(disk::kBufferSize, 'z')});
+    folder.Put("a", std::string(posix::kBufferSize, 'z'));
+    EXPECT_TRUE(LinesOf("a") == Strings{std::string(posix::kBufferSize, 'z')});
 
     const auto writer = object->CreateTextFile(folder / "b");
     writer->WriteLine("short");
     writer->WriteLine(longLine);
-    writer->WriteLine(std::string(disk::kBufferSize, 'y'));
+    writer->WriteLine(std::string(posix::kBufferSize, 'y'));
     writer->Close();
     EXPECT_TRUE(folder.Text("b") ==
-                "short\r\n" + longLine + "\r\n" + std::string(disk::kBufferSize, 'y') + "\r\n");
+                "short\r\n" + longLine + "\r\n" + std::string(posix::kBufferSize, 'y') + "\r\n");
 }
 
 TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_DIRECT), 0);  // one read gives what one write put in
-    disk::DiskTextReader reader{disk::FileDescriptor(ends[0])};
-    disk::FileDescriptor out(ends[1]);
+    posix::DiskTextReader reader{posix::FileDescriptor(ends[0])};
+    posix::FileDescriptor out(ends[1]);
     EXPECT_EQ(out.Write("\xEF\xBB\xBF"), 0);
     EXPECT_EQ(out.Write("line"), 0);
     out.Close();
@@ -77,7 +77,7 @@ TEST(DiskTextReaderTest, AByteOrderMarkMayComeAlone) {
 }
 
 TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {
-    std::string bytes(2 * disk::kBufferSize + 10, '\0');
+    std::string bytes(2 * posix::kBufferSize + 10, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i % 251);
     folder.Put("a", bytes);
     const auto reader = host.OpenBytes(folder / "a");
@@ -95,7 +95,7 @@ TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
     EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
 
     const auto written = object->OpenForAppending("/dev/full");
-    const std::string line(disk::kBufferSize, 'x');
+    const std::string line(posix::kBufferSize, 'x');
     EXPECT_EQ(FailureNumber([&] { written->WriteLine(line); }), failure::DiskFull);
     EXPECT_EQ(FailureNumber([&] { written->WriteLine("more"); }), failure::DiskFull);
     EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
@@ -187,7 +187,7 @@ TEST_F(DiskTest, RelativePathsStartAtTheCurrentFolder) {
 }
 
 TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
-    const disk::DiskLocale polish("pl_PL.UTF-8", ",");
+    const posix::SystemLocale polish("pl_PL.UTF-8", ",");
     EXPECT_EQ(polish.CodePage().number, 1250);
     EXPECT_EQ(polish.DecimalSeparator(), ",");
     EXPECT_EQ(polish.ToFileText("\xC5\x82"), "\xC5\x82");
@@ -195,7 +195,7 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
     const char* value = std::getenv("LC_ALL");
     const std::string before = value == nullptr ? "" : value;  // an empty one counts as none
     ASSERT_EQ(::setenv("LC_ALL", "ru_RU.NotInstalled", 1), 0);
-    const auto russian = disk::DiskLocale::FromEnvironment();
+    const auto russian = posix::SystemLocale::FromEnvironment();
     ASSERT_EQ(::setenv("LC_ALL", before.c_str(), 1), 0);
     EXPECT_EQ(russian.CodePage().number, 1251);
     EXPECT_EQ(russian.DecimalSeparator(), ".");
@@ -203,7 +203,7 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
 
 TEST(DiskClockTest, TellsTheLocalTime) {
     const std::time_t before = std::time(nullptr);
-    const double time = disk::DiskClock().TimeOfDay();
+    const double time = posix::SystemClock().TimeOfDay();
     const std::tm local = *std::localtime(&before);
     const double elapsed = time - ((local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec);
     EXPECT_TRUE((elapsed >= 0 && elapsed < 60) || elapsed < -86000) << elapsed;  // or across midnight

@@ -198,7 +198,9 @@ TEST_F(ExportTest, AsksForTheTarget) {
 TEST_F(ExportTest, ReplacesNoFileThatWasChosenToAppendTo) {
     StartWithOneCamera();
     program.memory.Put("/p/a.txt", kHeader + "old\r\n");
-    program.toolkit.OnTurn = [this] { Window().OptionExportMode[1].UserPress(); };  // right behind the dialog
+    program.toolkit.OnYield = [this] {
+        Window().OptionExportMode[1].UserPress();
+    };  // right behind the dialog
     EXPECT_FALSE(program.ExportTo(3, "/p/a.txt"));
     EXPECT_EQ(program.Text("/p/a.txt"), kHeader + "old\r\n");
 }
@@ -276,19 +278,19 @@ TEST_F(ExportTest, WindowTellsWhatItDoes) {
         window.SetExportFileName(program.TargetPath());
         std::string shown;
         std::set<forms::Color> colors;  // of a place that the bar comes to
-        program.toolkit.OnTurn = [&] {
+        program.toolkit.OnYield = [&] {
             EXPECT_TRUE(window.Busy());
             EXPECT_EQ(window.Position().left, 1880);
             EXPECT_EQ(window.Position().top, 3500);
             EXPECT_EQ(window.Caption(), mode == 3 ? "Append Speed Cameras" : "Export Speed Cameras");
             EXPECT_EQ(window.LabelProgress.Caption(),
                       mode == 3 ? "Appending Speed Cameras..." : "Exporting Speed Cameras...");
-            const auto& bar = static_cast<headless::MemoryCanvas&>(*window.picProgress.Canvas());
+            const auto& bar = static_cast<headless::MemoryCanvas&>(*window.picProgress.GetCanvas());
             shown += bar.LastText() + '|';
             colors.insert(bar.At(10, 10));
         };
         program.desktop.ShowModal(window);
-        program.toolkit.OnTurn = nullptr;
+        program.toolkit.OnYield = nullptr;
         EXPECT_TRUE(shown.starts_with("0%|") && shown.ends_with("|100%|")) << shown;
         EXPECT_EQ(colors, (std::set<forms::Color>{face, highlight}));
         EXPECT_TRUE(window.ExportResultsValid());

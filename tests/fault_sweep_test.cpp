@@ -1,6 +1,6 @@
 // Every single call to the disk fails once, and from each one on all calls fail: whole journeys are played,
 // and what is left afterwards has to be sound and of use. What cannot fail by its contract is left out:
-// clock, turns, forms, stored options.
+// clock, yields, forms, stored options.
 
 #include "journeys.h"
 

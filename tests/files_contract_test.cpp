@@ -1,4 +1,4 @@
-// What files must do, on the disk and in its twin in memory alike.
+// What files must do, on the disk and in its fake in memory alike.
 
 #include "platform/headless/memory_files.h"
 #include "platform/posix/file_system.h"
@@ -12,11 +12,11 @@
 namespace halvenmoor {
 namespace {
 
-struct Disk {
+struct RealFiles {
     TemporaryFolder folder;
-    disk::PathFinder finder{text::WindowsCodePage(1252)};
-    disk::DiskFileSystem fileSystem{finder};
-    disk::DiskHostFiles hostFiles{finder};
+    posix::PathFinder finder{text::WindowsCodePage(1252)};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles hostFiles{finder};
 
     std::string Root() const { return folder.Path(); }
     void AddFolder(const std::string& name) { folder.AddFolder(name); }
@@ -46,8 +46,8 @@ protected:
     platform::HostFiles& host = world.hostFiles;
 };
 
-using Worlds = testing::Types<Disk, Memory>;
-TYPED_TEST_SUITE(FilesContract, Worlds);
+using Implementations = testing::Types<RealFiles, Memory>;
+TYPED_TEST_SUITE(FilesContract, Implementations);
 
 TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
     const struct {

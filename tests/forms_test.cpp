@@ -16,7 +16,7 @@ using headless::ItemsOf;
 using Log = std::vector<std::string>;
 
 Design At(const char* name, int tab, const Control* frame = nullptr) {
-    return {.name = name, .place = {}, .tab = tab, .frame = frame};
+    return {.name = name, .bounds = {}, .tab = tab, .frame = frame};
 }
 
 /// A form that tells what happens to it. Its tab order is not the order of its controls.
@@ -202,12 +202,12 @@ TEST_F(FormsTest, EventsGoToTheModalFormAloneAlsoAtTurns) {
         EXPECT_FALSE(main.second.UserPress() || main.UserClose() || main.third.UserFocused());
         EXPECT_TRUE(dialog.second.UserPress());
     };
-    toolkit.OnTurn = act;
+    toolkit.OnYield = act;
     ShowDialog([&] {
         act();
         desktop.Yield();
     });
-    EXPECT_EQ(toolkit.Turns(), 1);
+    EXPECT_EQ(toolkit.Yields(), 1);
     EXPECT_FALSE(main.second.Value());
     EXPECT_TRUE(main.second.UserPress());
     EXPECT_FALSE(dialog.second.UserPress()) << "closed";

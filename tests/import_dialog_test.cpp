@@ -100,7 +100,7 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
     for (const int source : {kOv2, kTxt}) {
         for (const bool isWatched : {true, false}) {
             PreparedProgram program;
-            program.toolkit.SkipsTurns = !isWatched;
+            program.toolkit.SkipsYields = !isWatched;
             program.memory.Put("/p/asc/.hidden", "");
             program.memory.Put("/p/asc/note.txt", "");
             program.memory.Put("/p/asc/folder/kept.asc", "kept");
@@ -122,7 +122,7 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
                 program.Click(dialog.ButtonFinish);
                 EXPECT_FALSE(dialog.IsOpen());
             });
-            EXPECT_EQ(program.toolkit.Turns() > 0, isWatched);
+            EXPECT_EQ(program.toolkit.Yields() > 0, isWatched);
             program.ExpectImported(source);
             EXPECT_FALSE(program.memory.Has("/p/asc/.hidden"));
             EXPECT_FALSE(program.memory.Has("/p/asc/note.txt"));
@@ -169,35 +169,35 @@ TEST(ImportDialogTest, FileThatCannotBeDeletedEndsTheRun) {
     EXPECT_EQ(program.Items(1), Strings{"old_50"});
 }
 
-TEST(ImportDialogTest, StopAtEveryTurn) {
+TEST(ImportDialogTest, StopAtEveryYield) {
     for (const int source : {kOv2, kTxt}) {
         // OV2: emptied, two files, the end. TXT: emptied, two files, three lines, sources read, three speeds,
         // two camera files before and after, the end.
-        const int lastTurn = source == kOv2 ? 4 : 15;
-        for (int turn = 1; turn <= lastTurn; ++turn) {
-            SCOPED_TRACE(std::to_string(source) + " at " + std::to_string(turn));
+        const int lastYield = source == kOv2 ? 4 : 15;
+        for (int yield = 1; yield <= lastYield; ++yield) {
+            SCOPED_TRACE(std::to_string(source) + " at " + std::to_string(yield));
             PreparedProgram program;
-            int turns = 0;
+            int yields = 0;
             program.Open([&](frmImport& dialog) {
                 program.Click(dialog.OptionSource[source]);
-                program.toolkit.OnTurn = [&] {
-                    if (++turns != turn) return;
+                program.toolkit.OnYield = [&] {
+                    if (++yields != yield) return;
                     EXPECT_TRUE(dialog.Busy());
                     EXPECT_FALSE(dialog.UserEscape()) << "no button has Escape during a run";
                     program.Click(dialog.OptionSource[3 - source]);
-                    EXPECT_TRUE(turn % 2 == 0 ? dialog.ButtonCancel.UserPress() : dialog.UserClose());
+                    EXPECT_TRUE(yield % 2 == 0 ? dialog.ButtonCancel.UserPress() : dialog.UserClose());
                     EXPECT_TRUE(dialog.IsOpen()) << "refused: the run has to wind down";
                 };
                 program.Click(dialog.ButtonStart);
-                program.toolkit.OnTurn = nullptr;
+                program.toolkit.OnYield = nullptr;
                 program.ExpectDone(dialog);
-                EXPECT_EQ(ShownPicture(dialog), turn == lastTurn ? "PictureFinished" : "PictureIncomplete");
+                EXPECT_EQ(ShownPicture(dialog), yield == lastYield ? "PictureFinished" : "PictureIncomplete");
                 EXPECT_TRUE(dialog.OptionSource[source].Value());
                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "") << "nothing has failed";
             });
-            EXPECT_EQ(turns == turn, turn == lastTurn) << turns;
+            EXPECT_EQ(yields == yield, yield == lastYield) << yields;
             // What had been written stays.
-            const int written = source == kOv2 ? std::min(turn - 1, 2) : turn < 12 ? 0 : turn < 14 ? 1 : 2;
+            const int written = source == kOv2 ? std::min(yield - 1, 2) : yield < 12 ? 0 : yield < 14 ? 1 : 2;
             EXPECT_EQ(program.CameraFolder().size(), static_cast<std::size_t>(written));
             EXPECT_EQ(program.Items(0).size(), program.CameraFolder().size());
             EXPECT_EQ(program.Import(source), "PictureFinished");

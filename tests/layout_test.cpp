@@ -13,20 +13,20 @@
 namespace halvenmoor {
 namespace {
 
+using forms::Bounds;
 using forms::Control;
-using forms::Place;
 
 /// Where a control lies on its window.
-Place OnWindow(const Control& control) {
-    Place place = control.AtDesign().place;
+Bounds OnWindow(const Control& control) {
+    Bounds place = control.AtDesign().bounds;
     if (const Control* frame = control.AtDesign().frame) {
-        place.left += frame->AtDesign().place.left;
-        place.top += frame->AtDesign().place.top;
+        place.left += frame->AtDesign().bounds.left;
+        place.top += frame->AtDesign().bounds.top;
     }
     return place;
 }
 
-bool Overlap(const Place& a, const Place& b) {
+bool Overlap(const Bounds& a, const Bounds& b) {
     return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
            b.top < a.top + a.height;
 }
@@ -61,14 +61,14 @@ TEST_F(LayoutTest, ControlsLieWithinTheirWindowOrFrame) {
     for (const forms::Form* form : all) {
         for (const Control* control : form->Controls()) {
             SCOPED_TRACE(control->Name());
-            const Place& place = control->AtDesign().place;
+            const Bounds& place = control->AtDesign().bounds;
             const Control* const frame = control->AtDesign().frame;
             EXPECT_GE(std::min(place.left, place.top), 0);
             EXPECT_GT(std::min(place.width, place.height), 0);
             EXPECT_LE(place.left + place.width,
-                      frame ? frame->AtDesign().place.width : form->AtDesign().width);
+                      frame ? frame->AtDesign().bounds.width : form->AtDesign().width);
             EXPECT_LE(place.top + place.height,
-                      frame ? frame->AtDesign().place.height : form->AtDesign().height);
+                      frame ? frame->AtDesign().bounds.height : form->AtDesign().height);
         }
     }
 }

@@ -72,7 +72,7 @@ class RandomTexts {
 public:
     std::size_t Below(std::size_t limit) { return random_() % limit; }
 
-    std::string Text(std::size_t mostPieces) {
+    std::string Text(std::size_t maxPieces) {
         static const Strings pieces[] = {
             {"a", "A", "b", "B", " ", "z"},
             {"a", "B", "\xC3\xB6", "\xC3\x96", "\xC3\xB5", "я", "Я", "σ", "ς", "Σ"},
@@ -82,7 +82,7 @@ public:
                                              {"a\xF6z\xD6ß", "A\xD6Z\xF6ß", "\xF6"}};
         const Strings& chosen = (hasLongPieces ? longPieces : pieces)[Below(3)];
         std::string text;
-        for (std::size_t count = Below(mostPieces + 1); count > 0; --count)
+        for (std::size_t count = Below(maxPieces + 1); count > 0; --count)
             text += chosen[Below(chosen.size())];
         return text;
     }

@@ -12,8 +12,8 @@
 namespace halvenmoor {
 namespace {
 
-constexpr auto proper = cNamesClass::Case::Proper;
-constexpr auto asWritten = cNamesClass::Case::AsWritten;
+constexpr auto kProper = cNamesClass::Case::Proper;
+constexpr auto kAsWritten = cNamesClass::Case::AsWritten;
 
 TEST(NormaliseTextTest, RemovesMarksAndSetsTheCase) {
     const struct {
@@ -36,8 +36,8 @@ TEST(NormaliseTextTest, RemovesMarksAndSetsTheCase) {
         {"&", "", ""},
     };
     for (const auto& test : cases) {
-        EXPECT_EQ(NormaliseText(test.raw, proper), test.proper);
-        EXPECT_EQ(NormaliseText(test.raw, asWritten), test.asWritten);
+        EXPECT_EQ(NormaliseText(test.raw, kProper), test.proper);
+        EXPECT_EQ(NormaliseText(test.raw, kAsWritten), test.asWritten);
     }
 }
 
@@ -142,7 +142,7 @@ TEST(LanguagesTest, EveryTextShowsAndNoneIsLeftInEnglish) {
         for (const forms::Control* control : form.Controls())
             shown += control->Caption() + '\n' + control->AccessibleName() + '\n';
     };
-    program.toolkit.OnTurn = [&] {  // while an export runs, too
+    program.toolkit.OnYield = [&] {  // while an export runs, too
         if (const forms::Form* dialog = program.toolkit.OpenDialog()) look(*dialog);
     };
     look(program.Window());

@@ -122,13 +122,13 @@ TEST(Overflow, EndsInAFailure) {
     EXPECT_EQ(FailureNumber([] { CheckedInt16(-32769); }), failure::Overflow);
     EXPECT_EQ(FailureNumber([] { GeneralNumber(HUGE_VAL, "."); }), failure::Overflow);
 
-    constexpr std::int16_t largest16 = 32767;
-    constexpr std::int32_t largest32 = 2147483647;
+    constexpr std::int16_t kMaxInt16 = 32767;
+    constexpr std::int32_t kMaxInt32 = 2147483647;
     EXPECT_EQ(CheckedAdd(std::int16_t{32766}, 1), 32767);
-    EXPECT_EQ(CheckedAdd(largest32, -1), 2147483646);
-    EXPECT_EQ(FailureNumber([] { CheckedAdd(largest16, 1); }), failure::Overflow);
+    EXPECT_EQ(CheckedAdd(kMaxInt32, -1), 2147483646);
+    EXPECT_EQ(FailureNumber([] { CheckedAdd(kMaxInt16, 1); }), failure::Overflow);
     EXPECT_EQ(FailureNumber([] { CheckedAdd(std::int16_t{-32768}, -1); }), failure::Overflow);
-    EXPECT_EQ(FailureNumber([] { CheckedAdd(largest32, 1); }), failure::Overflow);
+    EXPECT_EQ(FailureNumber([] { CheckedAdd(kMaxInt32, 1); }), failure::Overflow);
 }
 
 }  // namespace

@@ -55,13 +55,13 @@ protected:
         return row;
     }
 
-    headless::MemoryCanvas& Paper() { return static_cast<headless::MemoryCanvas&>(*box.Canvas()); }
+    headless::MemoryCanvas& Paper() { return static_cast<headless::MemoryCanvas&>(*box.GetCanvas()); }
 
     headless::ManualClock clock;
     headless::HeadlessToolkit toolkit{clock};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     forms::Form form{desktop, {}};
-    forms::PictureBox box{form, {.name = "box", .place = {0, 0, 100 * 15, 20 * 15}, .bordered = true}};
+    forms::PictureBox box{form, {.name = "box", .bounds = {0, 0, 100 * 15, 20 * 15}, .bordered = true}};
     headless::FixedTheme theme;
     cProgressBar bar{theme};
 };

@@ -41,8 +41,8 @@ private:
 class RealDiskTest : public testing::Test {
 protected:
     RealDiskTest() {
-        constexpr unsigned secondsUntilItHangs = 120;
-        ::alarm(secondsUntilItHangs);
+        constexpr unsigned kSecondsUntilItHangs = 120;
+        ::alarm(kSecondsUntilItHangs);
         Install();
     }
     ~RealDiskTest() override { ::alarm(0); }
@@ -87,20 +87,21 @@ TEST_F(RealDiskTest, AnExportToADiskThatIsFullAnywhereKeepsWhatFits) {
         const std::string whole = (mode == 1 ? kHeader : old) +
                                   Repeated("1.5,52.5,1,50,0,0\r\n", kManyCameras) + "2.5,52.5,1,60,0,0\r\n";
         std::size_t runs = 0;
-        for (std::size_t room = mode == 1 ? 0 : kStep; room < whole.size() + kStep; room += kStep, ++runs) {
+        for (std::size_t limit = mode == 1 ? 0 : kStep; limit < whole.size() + kStep;
+             limit += kStep, ++runs) {
             folder.Put("txt/old.txt", old);
             DiskProgram program(folder);
             const bool isValid = [&] {
-                const SizeLimit limit(room);
+                const SizeLimit sizeLimit(limit);
                 return program.Export(mode, folder / target);
             }();
-            EXPECT_EQ(isValid, room >= whole.size()) << room;
+            EXPECT_EQ(isValid, limit >= whole.size()) << limit;
             EXPECT_EQ(program.Window().ResultsValid, isValid);
-            EXPECT_TRUE(TextIf(target) == whole.substr(0, room)) << room;
+            EXPECT_TRUE(TextIf(target) == whole.substr(0, limit)) << limit;
             EXPECT_EQ(Others(), others);
             ExpectSoundWindow(program.Window());
             folder.Put("txt/old.txt", old);
-            EXPECT_TRUE(program.Export(mode, folder / target)) << "room again";
+            EXPECT_TRUE(program.Export(mode, folder / target)) << "space again";
             EXPECT_TRUE(TextIf(target) == whole);
         }
         EXPECT_GT(runs, 25u);
@@ -116,21 +117,21 @@ TEST_F(RealDiskTest, AnImportToADiskThatIsFullAnywhereHasWholeOv2FilesOnly) {
         const std::string whole = kComment + Repeated(source == kOv2 ? "1.50000, 52.50000, \"n\"\r\n"
                                                                      : "1.5, 52.5, \"Fixed Camera\"\r\n",
                                                       kManyCameras);
-        for (std::size_t room = 0; room < whole.size() + kStep; room += kStep) {
+        for (std::size_t limit = 0; limit < whole.size() + kStep; limit += kStep) {
             DiskProgram program(folder);
             const std::string picture = [&] {
-                const SizeLimit limit(room);
+                const SizeLimit sizeLimit(limit);
                 return program.Import(source);
             }();
-            const bool fits = room >= whole.size();
+            const bool fits = limit >= whole.size();
             // A file of a TXT import stays as far as it was written, without a word.
-            EXPECT_EQ(picture, fits || source == kTxt ? "PictureFinished" : "PictureIncomplete") << room;
-            EXPECT_TRUE(TextIf(target) == (fits || source == kTxt ? whole.substr(0, room) : "(none)"))
-                << room;
+            EXPECT_EQ(picture, fits || source == kTxt ? "PictureFinished" : "PictureIncomplete") << limit;
+            EXPECT_TRUE(TextIf(target) == (fits || source == kTxt ? whole.substr(0, limit) : "(none)"))
+                << limit;
             EXPECT_EQ(Others(), others);
             ExpectSoundWindow(program.Window());
         }
-        EXPECT_EQ(DiskProgram(folder).Import(source), "PictureFinished") << "room again";
+        EXPECT_EQ(DiskProgram(folder).Import(source), "PictureFinished") << "space again";
         EXPECT_TRUE(TextIf(target) == whole);
     }
 }
@@ -149,8 +150,8 @@ TEST_F(RealDiskTest, FilesOfTheProgramMayLieOnAFullDisk) {
 // Names
 
 TEST_F(RealDiskTest, NamesMayHoldAnyByteAndBeAsLongAsTheyCan) {
-    constexpr std::size_t longestName = 255 - 4;  // with the extension
-    Strings names{std::string(longestName, 'f')};
+    constexpr std::size_t kMaxName = 255 - 4;  // with the extension
+    Strings names{std::string(kMaxName, 'f')};
     for (int byte = 1; byte < 256; ++byte) {
         if (byte != '/') names.push_back(std::string("fixed ") + static_cast<char>(byte));
     }
@@ -194,7 +195,7 @@ TEST_F(RealDiskTest, ANameThatIsTooLongIsRefused) {
 
 // Things that are not what they should be
 
-struct Oddity {
+struct SpecialFile {
     const char* name;
     void (*make)(const std::string& path);
     /// Each of its kind is passed over.
@@ -202,7 +203,7 @@ struct Oddity {
     bool importsOv2 = false;
 };
 
-const Oddity kOddities[] = {
+const SpecialFile kSpecialFiles[] = {
     {"a link to nowhere", [](const std::string& path) { fs::create_symlink("missing/nowhere", path); }},
     {"a link to itself",
      [](const std::string& path) { fs::create_symlink(fs::path(path).filename(), path); }},
@@ -214,7 +215,7 @@ const Oddity kOddities[] = {
 };
 
 TEST_F(RealDiskTest, OddEntriesOfItsFoldersHoldNothingUp) {
-    for (const Oddity& odd : kOddities) {
+    for (const SpecialFile& odd : kSpecialFiles) {
         SCOPED_TRACE(odd.name);
         Install();
         for (const char* path :
@@ -253,7 +254,7 @@ TEST_F(RealDiskTest, FilesAndFoldersMayStandInEachOthersPlaces) {
          {"asc", "txt", "lang", "import", "import/ov2", "import/txt", "Settings.ini", "Export Results.txt",
           "txt/SpeedCamText.txt", "txt/old.txt", "lang/deutsch.ini", "asc/fixed_50.asc", "asc/one.asc",
           "asc/Fixed_Camera_050.asc", "import/ov2/one.ov2", "import/txt/one.txt"}) {
-        for (const Oddity& odd : kOddities) {
+        for (const SpecialFile& odd : kSpecialFiles) {
             SCOPED_TRACE(place + ": " + odd.name);
             Install();
             const bool isFolder = fs::is_directory(folder / place);
@@ -279,20 +280,20 @@ TEST_F(RealDiskTest, AnythingMayVanishAtAnyTurn) {
     for (const std::string gone :
          {"asc/fixed_60.asc", "asc", "txt", "import/ov2/one.ov2", "import", "Settings.ini", "."}) {
         for (const int journey : {0, kOv2, kTxt}) {
-            for (int turn = 1, turns = turn; turn <= turns; ++turn) {
-                SCOPED_TRACE(gone + " in " + std::to_string(journey) + " at " + std::to_string(turn));
+            for (int yield = 1, yields = yield; yield <= yields; ++yield) {
+                SCOPED_TRACE(gone + " in " + std::to_string(journey) + " at " + std::to_string(yield));
                 Install();
                 DiskProgram program(folder);
-                turns = 0;
-                program.toolkit.OnTurn = [&] {
-                    if (++turns != turn) return;
+                yields = 0;
+                program.toolkit.OnYield = [&] {
+                    if (++yields != yield) return;
                     if (gone != ".") fs::remove_all(folder / gone);
                     if (gone == ".") fs::rename(folder.Path(), folder.Path() + "-gone");
                 };
                 if (journey == 0) program.Export();
                 if (journey != 0) program.Import(journey);
-                if (gone == "." && turns >= turn) fs::rename(folder.Path() + "-gone", folder.Path());
-                program.toolkit.OnTurn = {};
+                if (gone == "." && yields >= yield) fs::rename(folder.Path() + "-gone", folder.Path());
+                program.toolkit.OnYield = {};
                 EXPECT_TRUE(kHeader + kExported == TextIf("txt/SpeedCamText.txt") ||
                             !program.Window().ResultsValid || gone == "txt");
                 ExpectSoundWindow(program.Window());

@@ -1,4 +1,4 @@
-// At each turn that an export or an import gives the interface, the user or the system does something:
+// At each yield that an export or an import gives the interface, the user or the system does something:
 // presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
 // start over, and nothing may be lost.
 
@@ -60,11 +60,11 @@ bool IsBusy(JourneyProgram& program) {
 }
 
 void StartAgain(JourneyProgram& program) {
-    program.application.HasPreviousInstance = true;
+    program.programInfo.HasPreviousInstance = true;
     Program second(program.core.Services(), program.toolkit);
     second.Start();
     EXPECT_EQ(second.Core().MainForm, nullptr);
-    program.application.HasPreviousInstance = false;
+    program.programInfo.HasPreviousInstance = false;
 }
 
 void DragFirst(JourneyProgram& program) {
@@ -87,13 +87,13 @@ std::vector<Act> ActsDuring(const Journey& journey) {
         {"second start", StartAgain},
         {"drag", DragFirst},
         {"language", [](JourneyProgram& program) { program.Window().LanguageList.UserChoose(1); }},
-        {"failure", [](JourneyProgram&) { throw std::runtime_error("turn"); }, Effect::Breaks},
+        {"failure", [](JourneyProgram&) { throw std::runtime_error("yield"); }, Effect::Breaks},
         {"shutdown", [](JourneyProgram& program) { program.desktop.CloseAll(); }, Effect::EndsProgram},
     };
     JourneyProgram program;
     program.Start();
     AddControls(acts, program.Window(), [](JourneyProgram& running) { return &running.Window(); });
-    program.toolkit.OnTurn = [&, isAdded = false]() mutable {
+    program.toolkit.OnYield = [&, isAdded = false]() mutable {
         if (Dialog(program) == nullptr || isAdded) return;
         AddControls(acts, *Dialog(program), Dialog);
         isAdded = true;
@@ -102,16 +102,16 @@ std::vector<Act> ActsDuring(const Journey& journey) {
     return acts;
 }
 
-class BadMoments : public testing::TestWithParam<Journey> {
+class Reentrancy : public testing::TestWithParam<Journey> {
 protected:
-    /// Plays the journey with the act at one turn; 1 is the first. False when there are no so many turns.
-    bool ActAtTurn(const Act& act, int turn) {
+    /// Plays the journey with the act at one yield; 1 is the first. False when there are no so many yields.
+    bool ActAtYield(const Act& act, int yield) {
         JourneyProgram program;
         program.Start();
         program.memory.ForgetCalls();
         bool hasActed = false;
         bool wasBusy = false;
-        program.toolkit.OnTurn = [&, left = turn]() mutable {
+        program.toolkit.OnYield = [&, left = yield]() mutable {
             if (--left != 0) return;
             hasActed = true;
             wasBusy = IsBusy(program);
@@ -120,7 +120,7 @@ protected:
                 << "the dialog has closed";
         };
         GetParam().play(program);
-        program.toolkit.OnTurn = nullptr;
+        program.toolkit.OnYield = nullptr;
         if (!hasActed) return false;
         wasBusy ? ExpectUndisturbed(program, act) : ExpectNothingLost(program);
         ExpectWorksAgain(program);
@@ -140,7 +140,7 @@ protected:
         EXPECT_EQ(Outcome(program), whole);
     }
 
-    /// Before the run, as at the turn behind a file dialog, the user is free to do everything.
+    /// Before the run, as at the yield behind a file dialog, the user is free to do everything.
     static void ExpectNothingLost(JourneyProgram& program) {
         Journey anything = GetParam();
         const bool isExport = anything.name.starts_with("Export");
@@ -180,19 +180,19 @@ protected:
     }();
 };
 
-TEST_P(BadMoments, AnythingAtEveryTurn) {
+TEST_P(Reentrancy, AnythingAtEveryTurn) {
     const std::vector<Act> acts = ActsDuring(GetParam());
     for (const Act& act : acts) {
-        int turn = 1;
-        for (bool hasActed = true; hasActed && !HasFailure(); ++turn) {
-            SCOPED_TRACE(act.name + " at turn " + std::to_string(turn));
-            hasActed = ActAtTurn(act, turn);
+        int yield = 1;
+        for (bool hasActed = true; hasActed && !HasFailure(); ++yield) {
+            SCOPED_TRACE(act.name + " at yield " + std::to_string(yield));
+            hasActed = ActAtYield(act, yield);
         }
-        EXPECT_GT(turn, 2) << "there are turns";
+        EXPECT_GT(yield, 2) << "there are yields";
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Journeys, BadMoments,
+INSTANTIATE_TEST_SUITE_P(Journeys, Reentrancy,
                          testing::Values(ExportJourney(1), ExportJourney(2), ExportJourney(3),
                                          ImportJourney(ImportProgram::kOv2),
                                          ImportJourney(ImportProgram::kTxt)),

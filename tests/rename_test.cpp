@@ -74,7 +74,7 @@ TEST_F(RenameTest, OpensBesideTheRow) {
     };
     expectTop("a", 3390);
     expectTop("e", 3390 + 4 * 195);
-    static_cast<headless::HeadlessView&>(*Window().View()).TopRow = 2;
+    static_cast<headless::HeadlessView&>(*Window().GetView()).TopRow = 2;
     expectTop("e", 3390 + 2 * 195);
     expectTop("c", 3390);
     expectTop("a", 3390 - 2 * 195);

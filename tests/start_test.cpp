@@ -69,13 +69,13 @@ class ForbiddenSettings : public platform::SettingsStore {
 
 TEST(StartTest, SecondInstanceRaisesTheFirstAndLeavesWithoutATrace) {
     TestProgram program;
-    program.application.HasPreviousInstance = true;
+    program.programInfo.HasPreviousInstance = true;
     ForbiddenSettings settings;
-    Program second({program.files, program.files, program.application, program.clock, settings,
+    Program second({program.files, program.files, program.programInfo, program.clock, settings,
                     program.messages, program.fileDialogs, program.theme, program.locale},
                    program.toolkit);
     second.Start();
-    EXPECT_EQ(program.application.RaisedPreviousInstance, 1);
+    EXPECT_EQ(program.programInfo.RaisedPreviousInstance, 1);
     EXPECT_EQ(second.Core().MainForm, nullptr);
     EXPECT_EQ(program.files.Calls(), 0);
 }
@@ -92,12 +92,12 @@ TEST(StartTest, WithoutAFileSystemObjectTheProgramEndsAfterAMessage) {
     for (const auto& test : cases) {
         TestProgram program;
         program.files.FailFromCall(1, test.failure);
-        program.toolkit.OnTurn = [&] { EXPECT_TRUE(program.messages.Messages.empty()); };
+        program.toolkit.OnYield = [&] { EXPECT_TRUE(program.messages.Messages.empty()); };
         program.Start();
         ASSERT_EQ(program.messages.Messages.size(), 1U);
         EXPECT_EQ(program.messages.Messages[0].text, test.message);
         EXPECT_EQ(program.messages.Messages[0].title, "Halvenmoor");
-        EXPECT_EQ(program.toolkit.Turns(), 1) << "pending events run before the message";
+        EXPECT_EQ(program.toolkit.Yields(), 1) << "pending events run before the message";
         EXPECT_TRUE(program.desktop.Ended());
         EXPECT_EQ(program.Window().LabelSelectLanguage.Caption(), "Select Language") << "loaded to its end";
     }

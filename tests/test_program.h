@@ -34,7 +34,7 @@ inline std::string Crlf(std::string_view text) {
 ///     EXPECT_EQ(program.Target(), "...");
 ///
 /// The store of options is empty, so the program starts in demonstration mode unless the test says otherwise.
-struct TestProgram : headless::Twins {
+struct TestProgram : headless::Fakes {
     using Names = std::vector<std::string>;
 
     /// The folders as installed and a Settings.ini without any pattern; no camera files and no languages.

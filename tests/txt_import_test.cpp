@@ -122,9 +122,9 @@ TEST(TxtImportTest, CountMovesEvery97Records) {
     std::set<std::string> shown;
     program.Open([&](frmImport& dialog) {
         program.Click(dialog.OptionSource[kTxt]);
-        program.toolkit.OnTurn = [&] { shown.insert(dialog.LabelAddedRecords.Caption()); };
+        program.toolkit.OnYield = [&] { shown.insert(dialog.LabelAddedRecords.Caption()); };
         program.Click(dialog.ButtonStart);
-        program.toolkit.OnTurn = nullptr;
+        program.toolkit.OnYield = nullptr;
     });
     EXPECT_EQ(shown,
               (std::set<std::string>{"", "97 Camera(s)", "194 Camera(s)", "200 Camera(s)", "201 Camera(s)"}));

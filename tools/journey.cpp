@@ -2,7 +2,7 @@
 //
 //     journey PROGRAM_FOLDER < steps
 //
-// One step a line (see Journey::Play). For each it prints the step's payload, if it has one, then "ok" or
+// One step a line (see StepPlayer::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
 #include "platform/headless/fakes.h"
@@ -23,35 +23,35 @@ using namespace halvenmoor;
 
 namespace {
 
-enum class Outcome { Ok, Refused, NotUnderstood };
+enum class StepResult { Ok, Refused, NotUnderstood };
 
-Outcome OkIf(bool done) {
-    return done ? Outcome::Ok : Outcome::Refused;
+StepResult OkIf(bool done) {
+    return done ? StepResult::Ok : StepResult::Refused;
 }
 
 /// The real disk, with everything else in memory.
-struct JourneyPlatform : headless::Twins {
-    using Twins::Twins;
+struct StepPlatform : headless::Fakes {
+    using Fakes::Fakes;
 
     platform::Platform Services() { return With(fileSystem, hostFiles, userLocale); }
 
-    disk::DiskLocale userLocale = disk::DiskLocale::FromEnvironment();
-    disk::PathFinder finder{userLocale.CodePage()};
-    disk::DiskFileSystem fileSystem{finder};
-    disk::DiskHostFiles hostFiles{finder};
+    posix::SystemLocale userLocale = posix::SystemLocale::FromEnvironment();
+    posix::PathFinder finder{userLocale.CodePage()};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles hostFiles{finder};
 };
 
-class Journey {
+class StepPlayer {
 public:
-    explicit Journey(const std::string& programFolder)
+    explicit StepPlayer(const std::string& programFolder)
         : programFolder_(programFolder),
           platform_(programFolder),
           program_(platform_.Services(), platform_.toolkit) {
-        platform_.toolkit.SkipsTurns = true;
+        platform_.toolkit.SkipsYields = true;
         program_.Start();
     }
 
-    Outcome Play(const std::string& step) {
+    StepResult Play(const std::string& step) {
         const auto [word, rest] = FirstWord(step);
         if (word == "demo") return Set(Window().CheckDemoMode, rest);
         if (word == "language") return OkIf(UserChoosesLanguage(Window(), rest));
@@ -65,7 +65,7 @@ public:
         if (word == "import") return Import(rest);
         if (word == "lists") return PrintLists();
         if (word == "results") return PrintResults();
-        return Outcome::NotUnderstood;
+        return StepResult::NotUnderstood;
     }
 
 private:
@@ -83,8 +83,8 @@ private:
     frmMain& Window() { return program_.MainForm(); }
     forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
 
-    static Outcome Set(forms::CheckBox& box, const std::string& wanted) {
-        if (wanted != "on" && wanted != "off") return Outcome::NotUnderstood;
+    static StepResult Set(forms::CheckBox& box, const std::string& wanted) {
+        if (wanted != "on" && wanted != "off") return StepResult::NotUnderstood;
         return OkIf(box.Value() == (wanted == "on") || box.UserPress());
     }
 
@@ -93,66 +93,66 @@ private:
         return isType ? std::optional(digit[0] - '0') : std::nullopt;
     }
 
-    Outcome SetAuto(const std::string& words) {
+    StepResult SetAuto(const std::string& words) {
         const auto [digit, wanted] = FirstWord(words);
         const auto type = Number(digit, kFirstType);
-        return type ? Set(Window().CheckAuto[*type], wanted) : Outcome::NotUnderstood;
+        return type ? Set(Window().CheckAuto[*type], wanted) : StepResult::NotUnderstood;
     }
 
-    Outcome Move(const std::string& words) {
+    StepResult Move(const std::string& words) {
         const auto [digit, name] = FirstWord(words);
         const auto target = Number(digit, 0);
-        if (!target) return Outcome::NotUnderstood;
+        if (!target) return StepResult::NotUnderstood;
         for (int number = 0; number <= kLastType; ++number) {
             if (headless::IndexOf(List(number), name) < 0) continue;
             return OkIf(headless::Select(List(number), {name}) &&
                         headless::Drag(List(number), List(*target)));
         }
-        return Outcome::Refused;
+        return StepResult::Refused;
     }
 
     /// An export that reached its end shows its results.
-    Outcome Export(const std::string& words) {
+    StepResult Export(const std::string& words) {
         const auto [mode, path] = FirstWord(words);
         if (mode == "replace" && path.empty()) return OkIf(UserExports(platform_, Window(), 1));
-        if (path.empty() || (mode != "save-as" && mode != "append")) return Outcome::NotUnderstood;
+        if (path.empty() || (mode != "save-as" && mode != "append")) return StepResult::NotUnderstood;
         return OkIf(UserExports(platform_, Window(), mode == "save-as" ? 2 : 3,
                                 path.front() == '/' ? path : programFolder_ + "/" + path));
     }
 
     /// The old and the new name, with a tab between them.
-    Outcome Rename(const std::string& names) {
+    StepResult Rename(const std::string& names) {
         const std::size_t tab = names.find('\t');
-        if (tab == std::string::npos) return Outcome::NotUnderstood;
+        if (tab == std::string::npos) return StepResult::NotUnderstood;
         return OkIf(UserRenames(platform_, Window(), names.substr(0, tab), names.substr(tab + 1)));
     }
 
     /// Also ok when the import ended as incomplete.
-    Outcome Import(const std::string& source) {
-        if (source != "ov2" && source != "txt") return Outcome::NotUnderstood;
+    StepResult Import(const std::string& source) {
+        if (source != "ov2" && source != "txt") return StepResult::NotUnderstood;
         const std::string picture = UserImports(platform_, Window(), source == "ov2" ? 1 : 2);
         return OkIf(picture == "PictureFinished" || picture == "PictureIncomplete");
     }
 
-    Outcome PrintLists() {
+    StepResult PrintLists() {
         for (int number = 0; number <= kLastType; ++number) {
             for (const std::string& name : headless::ItemsOf(List(number)))
                 std::cout << number << '\t' << name << '\n';
         }
-        return Outcome::Ok;
+        return StepResult::Ok;
     }
 
-    Outcome PrintResults() {
+    StepResult PrintResults() {
         const modExport& exports = program_.Exports();
         for (std::size_t type = kFirstType; type <= kLastType; ++type) {
             std::cout << exports.FilesProcessed[type] << '\t' << exports.CamerasExported[type] << '\t'
                       << exports.CamerasSkipped[type] << '\n';
         }
-        return Outcome::Ok;
+        return StepResult::Ok;
     }
 
     std::string programFolder_;
-    JourneyPlatform platform_;
+    StepPlatform platform_;
     Program program_;
 };
 
@@ -163,14 +163,14 @@ int main(int argc, char** argv) {
         std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
         return 2;
     }
-    Journey journey(argv[1]);
+    StepPlayer player(argv[1]);
     for (std::string step; std::getline(std::cin, step);) {
-        const Outcome outcome = journey.Play(step);
-        if (outcome == Outcome::NotUnderstood) {
+        const StepResult result = player.Play(step);
+        if (result == StepResult::NotUnderstood) {
             std::cerr << "journey: not understood: " << step << '\n';
             return 2;
         }
-        std::cout << (outcome == Outcome::Ok ? "ok" : "refused") << std::endl;
+        std::cout << (result == StepResult::Ok ? "ok" : "refused") << std::endl;
     }
     return 0;
 }

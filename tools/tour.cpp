@@ -32,10 +32,10 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The program runs in another folder than its executable's.
-class TourApplication : public qt::QtApplication {
+class TourProgramInfo : public qt::QtProgramInfo {
 public:
-    TourApplication(fs::path programFolder, const fs::path& runtimeFolder)
-        : QtApplication(QString::fromStdString(runtimeFolder.string())),
+    TourProgramInfo(fs::path programFolder, const fs::path& runtimeFolder)
+        : QtProgramInfo(QString::fromStdString(runtimeFolder.string())),
           programFolder_(std::move(programFolder)) {}
 
     std::string ProgramFolder() const override { return programFolder_.string(); }
@@ -206,17 +206,17 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
         fs::create_directories(folder / used);
     }
 
-    const disk::DiskLocale locale = disk::DiskLocale::FromEnvironment();
-    disk::PathFinder finder(locale.CodePage());
-    disk::DiskFileSystem fileSystem(finder);
-    disk::DiskHostFiles hostFiles(finder);
-    disk::DiskClock clock;
+    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
+    posix::PathFinder finder(locale.CodePage());
+    posix::DiskFileSystem fileSystem(finder);
+    posix::DiskHostFiles hostFiles(finder);
+    posix::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qt::QtPlatform qt(programName, locale);
-    TourApplication application(fs::absolute(folder), fs::absolute(runtime));
+    TourProgramInfo programInfo(fs::absolute(folder), fs::absolute(runtime));
     qt::QtSettings settings(QString::fromStdString(fs::absolute(output / "options").string()));
     Program program(
-        {fileSystem, hostFiles, application, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
+        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
         qt.toolkit);
     program.Start();
     if (program.Core().MainForm == nullptr) throw std::runtime_error("another tour is running");

@@ -12,24 +12,24 @@ bool UserChoosesLanguage(frmMain& window, const std::string& language) {
     return false;
 }
 
-bool UserExports(headless::Twins& twins, frmMain& window, int mode, const std::string& path) {
+bool UserExports(headless::Fakes& fakes, frmMain& window, int mode, const std::string& path) {
     bool resultsShown = false;
-    constexpr int kMostWindows = 4;  // should something else open one on the way
-    for (int i = 0; i < kMostWindows; ++i) {
-        twins.toolkit.Script([&](forms::Form& form) { resultsShown = form.UserEscape(); });
+    constexpr int kMaxWindows = 4;  // should something else open one on the way
+    for (int i = 0; i < kMaxWindows; ++i) {
+        fakes.toolkit.Script([&](forms::Form& form) { resultsShown = form.UserEscape(); });
     }
-    if (!path.empty()) twins.fileDialogs.Answers = {path};
+    if (!path.empty()) fakes.fileDialogs.Answers = {path};
     window.OptionExportMode[mode].UserPress();
     window.ButtonExportCameras.UserPress();
-    twins.toolkit.ForgetScript();
-    twins.fileDialogs.Answers.clear();
+    fakes.toolkit.ForgetScript();
+    fakes.fileDialogs.Answers.clear();
     return resultsShown;
 }
 
-std::string UserImports(headless::Twins& twins, frmMain& window, int source,
+std::string UserImports(headless::Fakes& fakes, frmMain& window, int source,
                         const std::function<void(frmImport&)>& look) {
     std::string picture;
-    twins.toolkit.Script([&](forms::Form& form) {
+    fakes.toolkit.Script([&](forms::Form& form) {
         auto& dialog = static_cast<frmImport&>(form);
         dialog.OptionSource[source].UserPress();
         dialog.ButtonStart.UserPress();
@@ -38,20 +38,20 @@ std::string UserImports(headless::Twins& twins, frmMain& window, int source,
         dialog.ButtonFinish.UserPress();
     });
     window.ButtonImportFiles.UserPress();
-    twins.toolkit.ForgetScript();
+    fakes.toolkit.ForgetScript();
     return picture;
 }
 
-bool UserRenames(headless::Twins& twins, frmMain& window, const std::string& entry,
+bool UserRenames(headless::Fakes& fakes, frmMain& window, const std::string& entry,
                  const std::string& newName) {
-    twins.toolkit.Script([&newName](forms::Form& form) {
+    fakes.toolkit.Script([&newName](forms::Form& form) {
         auto& dialog = static_cast<frmRename&>(form);
         dialog.TextFileName.UserTyped(newName);
         dialog.ButtonRename.UserPress();
         dialog.UserEscape();  // a refused name leaves it open
     });
     const bool pressed = headless::Select(window.MainList, {entry}) && window.ButtonRenameFile.UserPress();
-    twins.toolkit.ForgetScript();
+    fakes.toolkit.ForgetScript();
     return pressed && headless::IndexOf(window.MainList, entry) < 0;
 }
 

@@ -62,10 +62,10 @@ void frmMain::ConnectLanguageList() {
 }
 
 void frmMain::Load() {
-    const platform::ScreenSize screen = core_.Services().application.Screen();
+    const platform::ScreenSize screen = core_.Services().programInfo.Screen();
     MoveTo({screen.width * forms::kTwipsPerPixel / 2 - kLeftOfMiddle * forms::kTwipsPerPixel,
             screen.height * forms::kTwipsPerPixel / 2 - kAboveMiddle * forms::kTwipsPerPixel});
-    const platform::Version version = core_.Services().application.Version();
+    const platform::ProgramVersion version = core_.Services().programInfo.Version();
     SetCaption(AtDesign().title + " " + std::to_string(version.major) + "." + std::to_string(version.minor));
     core_.ExportMode = kReplaceFile;
     LoadStoredOptions();

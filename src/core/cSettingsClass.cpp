@@ -62,7 +62,7 @@ SectionTexts ReadSections(platform::TextReader& file) {
 }
 
 /// A list with too many elements ends with one too many, which holds the rest: nobody walks over such a list,
-/// and a string for each comma would take a hundred times the room of the file.
+/// and a string for each comma would take a hundred times the memory of the file.
 std::vector<std::string> SplitList(std::string_view source) {
     std::vector<std::string> list;
     if (source.empty()) return list;

@@ -14,8 +14,8 @@ constexpr std::string_view kSettingsSection = "Settings";
 }  // namespace
 
 void modMain::Main(const FormMaker& makeMainForm) {
-    if (platform_.application.PreviousInstance()) {
-        platform_.application.ActivatePreviousInstance();
+    if (platform_.programInfo.PreviousInstance()) {
+        platform_.programInfo.ActivatePreviousInstance();
         return;
     }
     MainForm = makeMainForm();
@@ -25,14 +25,14 @@ void modMain::Main(const FormMaker& makeMainForm) {
 void modMain::ReloadWorkspace() {
     SetWorkspacePaths();
     const std::string path =
-        platform_.application.ProgramFolder() + platform_.application.Separator() + "Settings.ini";
+        platform_.programInfo.ProgramFolder() + platform_.programInfo.Separator() + "Settings.ini";
     ClassificationSettings = std::make_unique<const cSettingsClass>(platform_.fileSystem, path);
     LoadCameraFiles();
 }
 
 void modMain::SetWorkspacePaths() {
-    const std::string programFolder = platform_.application.ProgramFolder();
-    const char separator = platform_.application.Separator();
+    const std::string programFolder = platform_.programInfo.ProgramFolder();
+    const char separator = platform_.programInfo.Separator();
     const bool demonstration = ReadSetting("DemoMode", "1") == "1";
     WorkspaceRoot = demonstration ? programFolder + separator + "demo" : programFolder;
     FolderSuffix = std::string(demonstration ? "_demo" : "") + separator;
@@ -73,7 +73,7 @@ void modMain::ReportFileSystemObjectError(int number, const std::string& descrip
 
 std::string modMain::DataFolder(std::string_view word) const {
     std::string folder = WorkspaceRoot;
-    folder += platform_.application.Separator();
+    folder += platform_.programInfo.Separator();
     folder += word;
     return folder + FolderSuffix;
 }
@@ -85,12 +85,12 @@ std::string modMain::CameraFile(std::string_view entry) const {
 }
 
 std::string modMain::ResultsFile() const {
-    return WorkspaceRoot + platform_.application.Separator() + "Export Results.txt";
+    return WorkspaceRoot + platform_.programInfo.Separator() + "Export Results.txt";
 }
 
 std::string modMain::LanguageFolder() const {
-    const char separator = platform_.application.Separator();
-    return platform_.application.ProgramFolder() + separator + "lang" + separator;
+    const char separator = platform_.programInfo.Separator();
+    return platform_.programInfo.ProgramFolder() + separator + "lang" + separator;
 }
 
 }  // namespace halvenmoor

@@ -19,7 +19,7 @@ inline constexpr std::int16_t kReplaceFile = 1;
 inline constexpr std::int16_t kSaveFileAs = 2;
 inline constexpr std::int16_t kAppendToFile = 3;
 
-/// The start of the program, the state that all its rooms share, the folders it works in and its stored
+/// The start of the program, the state that all modules share, the folders it works in and its stored
 /// options.
 class modMain {
 public:

@@ -98,8 +98,8 @@ text::Word Digits(std::string_view text) {
 }
 
 bool AreDigits(text::Word digits) {
-    constexpr char upToHighBit = 0x80 - 10;
-    return (((digits + text::RepeatByte(upToHighBit)) | digits) & text::RepeatByte('\x80')) == 0;
+    constexpr char kUpToHighBit = 0x80 - 10;
+    return (((digits + text::RepeatByte(kUpToHighBit)) | digits) & text::RepeatByte('\x80')) == 0;
 }
 
 /// Nothing for any other form, number or not. So few digits are never lost in a double, so the result tells

@@ -11,11 +11,11 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr forms::Point kPlaceInMainForm{1780, 3300};
+constexpr forms::Point kOffsetInMainForm{1780, 3300};
 constexpr std::int32_t kFullBar = 200;
 constexpr double kWholeRunMilliseconds = 200;
 constexpr double kHoldMilliseconds = 500;
-constexpr double kSecondsOfDay = 86400;
+constexpr double kSecondsPerDay = 86400;
 
 /// Closes the window on the way out, whatever has happened.
 class Closing {
@@ -40,14 +40,14 @@ frmExport::frmExport(modExport& exports)
 
 void frmExport::Load() {
     const forms::Point main = core_.MainForm->Position();
-    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
     SetExportCaptions();
     SetBusy(true);
     progressBar_.SetPicBox(&picProgress);
     progressBar_.SetMin(0);
     progressBar_.SetMax(kFullBar);
     progressBar_.SetShowText(true);
-    progressBar_.SetFont(picProgress.Font());
+    progressBar_.SetFont(picProgress.GetFont());
     progressBar_.SetBackColor(forms::kButtonFace);
     progressBar_.SetBarColor(forms::kHighlight);
 }
@@ -115,7 +115,7 @@ bool frmExport::PaceTimer(bool start, double milliseconds) {
 double frmExport::PaceLeft() const {
     const double now = core_.Services().clock.TimeOfDay();
     const bool midnightHasPassed = now < paceStart_;
-    return paceStart_ + paceDuration_ - (midnightHasPassed ? now + kSecondsOfDay : now);
+    return paceStart_ + paceDuration_ - (midnightHasPassed ? now + kSecondsPerDay : now);
 }
 
 void frmExport::WriteResultsFile() const {

@@ -8,7 +8,7 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr forms::Point kPlaceInMainForm{150, 665};
+constexpr forms::Point kOffsetInMainForm{150, 665};
 
 /// Shows a counter of each type and their sum.
 void ShowCounter(forms::ControlArray<forms::Label, 0, 5>& labels, const TypeTable<std::int32_t>& counter) {
@@ -33,7 +33,7 @@ frmResults::frmResults(const modExport& exports)
 
 void frmResults::Load() {
     const forms::Point main = core_.MainForm->Position();
-    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
     LoadShowResultsOption();
     SetResultsCaptions();
     ShowCounter(LabelFilesResult, exports_.FilesProcessed);

@@ -6,7 +6,7 @@
 
 namespace halvenmoor::forms {
 
-Control::Control(Form& form, forms::Kind kind, Design design)
+Control::Control(Form& form, forms::ControlKind kind, Design design)
     : form_(form),
       kind_(kind),
       design_(std::move(design)),
@@ -55,7 +55,8 @@ void Control::SetToolTip(std::string toolTip) {
 }
 
 bool Control::CanTakeFocus() const {
-    const bool takesKeys = kind_ != Kind::Label && kind_ != Kind::Frame && kind_ != Kind::PictureBox;
+    const bool takesKeys =
+        kind_ != ControlKind::Label && kind_ != ControlKind::Frame && kind_ != ControlKind::PictureBox;
     return takesKeys && enabled_ && visible_;
 }
 
@@ -95,7 +96,7 @@ bool CommandButton::UserPress() {
 }
 
 CheckBox::CheckBox(Form& form, Design design)
-    : Control(form, Kind::CheckBox, std::move(design)), value_(AtDesign().on) {
+    : Control(form, ControlKind::CheckBox, std::move(design)), value_(AtDesign().on) {
 }
 
 void CheckBox::SetValue(bool value) {
@@ -110,7 +111,7 @@ bool CheckBox::UserPress() {
 }
 
 OptionButton::OptionButton(Form& form, Design design)
-    : Control(form, Kind::OptionButton, std::move(design)), value_(AtDesign().on) {
+    : Control(form, ControlKind::OptionButton, std::move(design)), value_(AtDesign().on) {
 }
 
 void OptionButton::SetValue(bool value) {
@@ -134,7 +135,7 @@ bool OptionButton::UserPress() {
 void OptionButton::TurnOn() {
     for (Control* other : Owner().Controls()) {
         const bool sameGroup =
-            other->Kind() == Kind::OptionButton && other->AtDesign().frame == AtDesign().frame;
+            other->Kind() == ControlKind::OptionButton && other->AtDesign().frame == AtDesign().frame;
         if (sameGroup && other != this) static_cast<OptionButton*>(other)->SetValue(false);
     }
     value_ = true;
@@ -159,15 +160,15 @@ private:
 };
 
 ListBox::ListBox(Form& form, Design design)
-    : Control(form, Kind::ListBox, std::move(design)), items_(form.Owner().ListOrder()) {
+    : Control(form, ControlKind::ListBox, std::move(design)), items_(form.Owner().ListOrder()) {
 }
 
 int ListBox::TopIndex() const {
-    return Owner().View() ? Owner().View()->TopIndex(*this) : 0;
+    return Owner().GetView() ? Owner().GetView()->TopIndex(*this) : 0;
 }
 
 Twips ListBox::RowHeight() const {
-    return Owner().View() ? Owner().View()->RowHeight(*this) : 0;
+    return Owner().GetView() ? Owner().GetView()->RowHeight(*this) : 0;
 }
 
 void ListBox::SetSelected(int index, bool selected) {
@@ -263,7 +264,7 @@ void ListBox::ItemsChanged() {
 }
 
 ComboBox::ComboBox(Form& form, Design design)
-    : Control(form, Kind::ComboBox, std::move(design)),
+    : Control(form, ControlKind::ComboBox, std::move(design)),
       items_(form.Owner().ListOrder()),
       text_(AtDesign().text) {
 }
@@ -310,7 +311,7 @@ bool ComboBox::UserTyped(std::string text) {
 }
 
 PictureBox::PictureBox(Form& form, Design design)
-    : Control(form, Kind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
+    : Control(form, ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
 }
 
 void PictureBox::SetBordered(bool bordered) {
@@ -319,8 +320,8 @@ void PictureBox::SetBordered(bool bordered) {
     Changed();
 }
 
-Canvas* PictureBox::Canvas() {
-    return Owner().View() ? &Owner().View()->Canvas(*this) : nullptr;
+Canvas* PictureBox::GetCanvas() {
+    return Owner().GetView() ? &Owner().GetView()->CanvasOf(*this) : nullptr;
 }
 
 void TextBox::SelectAll() {

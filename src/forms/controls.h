@@ -21,7 +21,7 @@ class Canvas;
 class Control;
 class Form;
 
-enum class Kind {
+enum class ControlKind {
     Label,
     Frame,
     CommandButton,
@@ -39,8 +39,8 @@ enum class Glyph { None, TriangleLeft, TriangleRight, Tick, Cross };
 /// A control as its window's table gives it.
 struct Design {
     std::string name;
-    Place place;
-    /// Place in the tab order of the window; only the order of the numbers counts.
+    Bounds bounds;
+    /// Position in the tab order of the window; only the order of the numbers counts.
     int tab = 0;
     std::string text = {};
     /// The frame that the control lies in; none: directly on the window.
@@ -65,14 +65,14 @@ struct Design {
 /// control that is disabled or hidden, or on a window behind a modal one.
 class Control {
 public:
-    Control(Form& form, Kind kind, Design design);
+    Control(Form& form, ControlKind kind, Design design);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
     const Design& AtDesign() const { return design_; }
     const std::string& Name() const { return design_.name; }
-    forms::Kind Kind() const { return kind_; }
+    ControlKind Kind() const { return kind_; }
     Form& Owner() const { return form_; }
 
     /// UTF-8; shown as plain text.
@@ -116,7 +116,7 @@ protected:
 
 private:
     Form& form_;
-    const forms::Kind kind_;
+    const ControlKind kind_;
     const Design design_;
     std::string caption_;
     bool enabled_;
@@ -128,17 +128,17 @@ private:
 
 class Label : public Control {
 public:
-    Label(Form& form, Design design) : Control(form, Kind::Label, std::move(design)) {}
+    Label(Form& form, Design design) : Control(form, ControlKind::Label, std::move(design)) {}
 };
 
 class Frame : public Control {
 public:
-    Frame(Form& form, Design design) : Control(form, Kind::Frame, std::move(design)) {}
+    Frame(Form& form, Design design) : Control(form, ControlKind::Frame, std::move(design)) {}
 };
 
 class CommandButton : public Control {
 public:
-    CommandButton(Form& form, Design design) : Control(form, Kind::CommandButton, std::move(design)) {}
+    CommandButton(Form& form, Design design) : Control(form, ControlKind::CommandButton, std::move(design)) {}
 
     bool UserPress();
 };
@@ -275,11 +275,11 @@ class PictureBox : public Control {
 public:
     PictureBox(Form& form, Design design);
 
-    const forms::Font& Font() const { return font_; }
+    const Font& GetFont() const { return font_; }
     bool Bordered() const { return bordered_; }
     void SetBordered(bool bordered);
     /// The persistent image; none while the window is not open.
-    forms::Canvas* Canvas();
+    Canvas* GetCanvas();
 
 private:
     forms::Font font_;
@@ -288,7 +288,7 @@ private:
 
 class TextBox : public Control {
 public:
-    TextBox(Form& form, Design design) : Control(form, Kind::TextBox, std::move(design)) {}
+    TextBox(Form& form, Design design) : Control(form, ControlKind::TextBox, std::move(design)) {}
 
     const std::string& Text() const { return Caption(); }
     void SetText(std::string text) { SetCaption(std::move(text)); }
@@ -304,7 +304,7 @@ private:
 };
 
 /// Controls of one kind with an index, as TypeList(1) to TypeList(5).
-template <class ControlKind, int First, int Last>
+template <class ControlClass, int First, int Last>
 class ControlArray {
 public:
     template <class DesignOf>
@@ -316,15 +316,15 @@ public:
         }
     }
 
-    ControlKind& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
-    const ControlKind& operator[](int index) const {
+    ControlClass& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
+    const ControlClass& operator[](int index) const {
         return controls_.at(static_cast<std::size_t>(index - First));
     }
     auto begin() { return controls_.begin(); }
     auto end() { return controls_.end(); }
 
 private:
-    std::deque<ControlKind> controls_;
+    std::deque<ControlClass> controls_;
 };
 
 }  // namespace halvenmoor::forms

@@ -64,8 +64,8 @@ void Desktop::Yield(double waitSeconds) {
     toolkit_.HandleEvents(waitSeconds);
 }
 
-void Desktop::Turn() {
-    if (TurnIsDue()) Yield();
+void Desktop::YieldIfDue() {
+    if (YieldIsDue()) Yield();
 }
 
 bool Desktop::Deliver(Form& form, Event event) {

@@ -30,9 +30,9 @@ public:
 
     /// Lets the interface redraw and handle its waiting events, then waits for more for up to the given time.
     void Yield(double waitSeconds = 0);
-    /// The same, but only when a turn is due: for loops that offer one at each of a million steps.
-    void Turn();
-    bool TurnIsDue() const { return toolkit_.TurnIsDue(); }
+    /// The same, but only when a yield is due: for loops that offer one at each of a million steps.
+    void YieldIfDue();
+    bool YieldIsDue() const { return toolkit_.YieldIsDue(); }
 
     /// Runs an event of a form: only the topmost form takes events. What the event's handlers do not catch
     /// ends here, silently. Afterwards the views are brought up to date.

@@ -23,8 +23,8 @@ Point Form::Position() const {
     return view_ && !moved_ ? view_->Position() : position_;
 }
 
-FrameMetrics Form::Frame() const {
-    return view_ ? view_->Frame() : FrameMetrics();
+FrameMetrics Form::WindowFrame() const {
+    return view_ ? view_->WindowFrame() : FrameMetrics();
 }
 
 void Form::MoveTo(Point position) {

@@ -47,7 +47,7 @@ public:
     Point Position() const;
     void MoveTo(Point position);
     /// What surrounds the windows of this window system; nothing before this one is built.
-    FrameMetrics Frame() const;
+    FrameMetrics WindowFrame() const;
     /// Where the program moved the window since the last call.
     std::optional<Point> TakeMove();
     /// From its loading until it closes.
@@ -64,7 +64,7 @@ public:
 
     Desktop& Owner() const { return desktop_; }
     /// None before the window is built and after it is gone.
-    forms::View* View() const { return view_.get(); }
+    View* GetView() const { return view_.get(); }
     /// The program closes the window; QueryClose may refuse.
     void Unload();
 

@@ -12,8 +12,8 @@ constexpr int ToPixels(Twips length) {
     return (length >= 0 ? length + kTwipsPerPixel / 2 : length - kTwipsPerPixel / 2) / kTwipsPerPixel;
 }
 
-/// The place of a control, in twips from the corner of its window's client area or of its frame.
-struct Place {
+/// The position and size of a control, in twips from the corner of its window's client area or of its frame.
+struct Bounds {
     Twips left = 0;
     Twips top = 0;
     Twips width = 0;

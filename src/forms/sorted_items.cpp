@@ -37,16 +37,16 @@ void SortedItems::Add(std::vector<std::string> texts) {
         added.push_back({std::move(texts[i]), std::move(key)});
     }
     std::sort(added.begin(), added.end(), StandsBefore);
-    Merge(RoomFor(added.size()), added);
+    Merge(Reserved(added.size()), added);
     if (fitting < texts.size()) FailFull();
 }
 
-/// Adds items that are in order. With room prepared for all items nothing can fail.
-void SortedItems::Merge(std::vector<Item> room, std::vector<Item>& added) {
+/// Adds items that are in order. With memory reserved for all items nothing can fail.
+void SortedItems::Merge(std::vector<Item> merged, std::vector<Item>& added) {
     std::merge(std::make_move_iterator(items_.begin()), std::make_move_iterator(items_.end()),
                std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()),
-               std::back_inserter(room), StandsBefore);
-    items_.swap(room);
+               std::back_inserter(merged), StandsBefore);
+    items_.swap(merged);
 }
 
 void SortedItems::Remove(int index) {
@@ -56,7 +56,7 @@ void SortedItems::Remove(int index) {
 
 void SortedItems::MoveTo(SortedItems& target, const std::vector<int>& positions) {
     if (static_cast<std::size_t>(kMaxCount - target.Count()) < positions.size()) FailFull();
-    std::vector<Item> room = target.RoomFor(positions.size());
+    std::vector<Item> merged = target.Reserved(positions.size());
     std::vector<Item> taken;
     taken.reserve(positions.size());
     // From here on nothing fails.
@@ -73,13 +73,13 @@ void SortedItems::MoveTo(SortedItems& target, const std::vector<int>& positions)
         }
     }
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(kept), items_.end());
-    target.Merge(std::move(room), taken);
+    target.Merge(std::move(merged), taken);
 }
 
-std::vector<SortedItems::Item> SortedItems::RoomFor(std::size_t addedCount) const {
-    std::vector<Item> room;
-    room.reserve(items_.size() + addedCount);
-    return room;
+std::vector<SortedItems::Item> SortedItems::Reserved(std::size_t addedCount) const {
+    std::vector<Item> merged;
+    merged.reserve(items_.size() + addedCount);
+    return merged;
 }
 
 }  // namespace halvenmoor::forms

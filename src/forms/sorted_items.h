@@ -40,8 +40,8 @@ public:
     void Clear() { items_.clear(); }
 
 private:
-    std::vector<Item> RoomFor(std::size_t addedCount) const;
-    void Merge(std::vector<Item> room, std::vector<Item>& added);
+    std::vector<Item> Reserved(std::size_t addedCount) const;
+    void Merge(std::vector<Item> merged, std::vector<Item>& added);
 
     SortKey sortKey_;
     std::vector<Item> items_;

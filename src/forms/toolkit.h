@@ -24,11 +24,11 @@ public:
     /// that it sets may come back as an action of the user.
     virtual void Update() = 0;
     virtual Point Position() const = 0;
-    virtual FrameMetrics Frame() const = 0;
+    virtual FrameMetrics WindowFrame() const = 0;
     virtual int TopIndex(const ListBox& list) const = 0;
     virtual Twips RowHeight(const ListBox& list) const = 0;
     /// The canvas lives as long as the view.
-    virtual forms::Canvas& Canvas(PictureBox& box) = 0;
+    virtual Canvas& CanvasOf(PictureBox& box) = 0;
 };
 
 /// What a window system does for the forms layer.
@@ -44,7 +44,7 @@ public:
     /// not at all).
     virtual void HandleEvents(double waitSeconds) = 0;
     /// Whether so much time has passed since HandleEvents that the user would notice another call.
-    virtual bool TurnIsDue() const { return true; }
+    virtual bool YieldIsDue() const { return true; }
 };
 
 }  // namespace halvenmoor::forms

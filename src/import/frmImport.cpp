@@ -12,7 +12,7 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr forms::Point kPlaceInMainForm{1200, 1580};
+constexpr forms::Point kOffsetInMainForm{1200, 1580};
 constexpr forms::Color kRed = forms::Rgb(255, 0, 0);
 constexpr std::string_view kCameraExtension = ".asc";
 
@@ -47,7 +47,7 @@ frmImport::frmImport(frmMain& mainForm)
 
 void frmImport::Load() {
     const forms::Point main = mainForm_.Position();
-    MoveTo({main.left + kPlaceInMainForm.left, main.top + kPlaceInMainForm.top});
+    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
     ApplyImportTexts();
     UpdateDisplay(Display::Ready);
 }
@@ -189,7 +189,7 @@ void frmImport::UpdateDisplay(Display display) {
     LabelTargetFiles.SetCaption(CountOf(targetFileCount, filesWord_));
     // The end of a run: no other colour comes after it.
     if (display == Display::Incomplete) LabelTargetFiles.SetForeColor(kRed);
-    Owner().Turn();
+    Owner().YieldIfDue();
 }
 
 void frmImport::ShowSource() {
@@ -212,8 +212,8 @@ bool frmImport::StopRequested() const {
 }
 
 void frmImport::FileDone() {
-    // Nobody sees the counts between two turns, and in a large folder they are not cheap.
-    if (Owner().TurnIsDue()) UpdateDisplay(Display::Counts);
+    // Nobody sees the counts between two yields, and in a large folder they are not cheap.
+    if (Owner().YieldIsDue()) UpdateDisplay(Display::Counts);
 }
 
 void frmImport::RecordsAdded(std::int32_t count) {
@@ -221,7 +221,7 @@ void frmImport::RecordsAdded(std::int32_t count) {
 }
 
 std::string frmImport::Folder(std::initializer_list<std::string_view> words) const {
-    const char separator = core_.Services().application.Separator();
+    const char separator = core_.Services().programInfo.Separator();
     std::string path = core_.WorkspaceRoot + separator;
     for (const std::string_view word : words) path.append(word) += separator;
     return path;

@@ -29,7 +29,7 @@ private:
     /// How the dialog shows the folders. The counts of the running import leave its picture as it is.
     enum class Display { Counts = 1, Ready = 2, Finished = 3, Incomplete = 4 };
 
-    void Turn() override { Owner().Turn(); }
+    void Yield() override { Owner().YieldIfDue(); }
     bool StopRequested() const override;
     void FileDone() override;
     void RecordsAdded(std::int32_t count) override;

@@ -15,11 +15,11 @@ class ImportProgress {
 public:
     virtual ~ImportProgress() = default;
 
-    /// Gives the interface a turn.
-    virtual void Turn() = 0;
-    /// Whether the import is to end. It changes only during a turn.
+    /// Yields to the interface.
+    virtual void Yield() = 0;
+    /// Whether the import is to end. It changes only during a yield.
     virtual bool StopRequested() const = 0;
-    /// A camera file has been dealt with. Gives the interface a turn.
+    /// A camera file has been dealt with. Yields to the interface.
     virtual void FileDone() = 0;
     /// So many records were read so far.
     virtual void RecordsAdded(std::int32_t count) = 0;

@@ -33,7 +33,7 @@ private:
     Ov2Record Decode() const { return DecodeOv2Record(std::string_view(buffer_).substr(0, end_), begin_); }
 
     /// Reads on until the unread bytes are at least `size`, which is more than there are now. False when the
-    /// file has no such number of bytes: the room is made only after that is known.
+    /// file has no such number of bytes: memory is taken only after that is known.
     bool ReadOn(std::size_t size) {
         const std::size_t unread = end_ - begin_;
         if (size - unread > file_.Remaining()) return false;

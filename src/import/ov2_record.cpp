@@ -77,32 +77,32 @@ Ov2Record DecodeOv2Record(std::string_view bytes, std::size_t offset) {
 }
 
 void ScaleCoordinate(std::string& out, std::int32_t hundredThousandths) {
-    constexpr std::size_t longest = std::string_view("-21474.83648").size();
-    constexpr int digitsBehindPoint = 5;
+    constexpr std::size_t kMaxLength = std::string_view("-21474.83648").size();
+    constexpr int kDigitsBehindPoint = 5;
     const bool isNegative = hundredThousandths < 0;
     std::uint32_t rest = static_cast<std::uint32_t>(hundredThousandths);
     if (isNegative) rest = 0 - rest;
 
-    std::array<char, longest> text;
-    std::size_t first = longest;
+    std::array<char, kMaxLength> text;
+    std::size_t first = kMaxLength;
     const auto putDigit = [&] {
         text[--first] = static_cast<char>('0' + rest % 10);
         rest /= 10;
     };
-    for (int i = 0; i < digitsBehindPoint; ++i) putDigit();
+    for (int i = 0; i < kDigitsBehindPoint; ++i) putDigit();
     text[--first] = '.';
     do putDigit();
     while (rest != 0);
     if (isNegative) text[--first] = '-';
-    out.append(text.data() + first, longest - first);
+    out.append(text.data() + first, kMaxLength - first);
 }
 
 void CleanPoiName(std::string& out, std::string_view name) {
     name.remove_suffix(1);
     while (!name.empty() && IsBlankOrZero(name.front())) name.remove_prefix(1);
     while (!name.empty() && IsBlankOrZero(name.back())) name.remove_suffix(1);
-    // Names are most of an OV2 file: the room is made once, for commas that grow to two characters, and eight
-    // characters of which none changes are taken at once.
+    // Names are most of an OV2 file: the memory is reserved once, for commas that grow to two characters, and
+    // eight characters of which none changes are taken at once.
     const std::size_t begin = out.size();
     out.resize(begin + 2 * name.size() + 3);
     char* end = out.data() + begin;

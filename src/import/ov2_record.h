@@ -22,7 +22,7 @@ struct Ov2Record {
         Point,
         /// A type byte that no record has.
         Other,
-        /// A length in which the record's own fields, or one byte of a name, have no room.
+        /// A length in which the record's own fields, or one byte of a name, do not fit.
         BadLength,
         /// The bytes end before the record does, or there are none.
         Cut

@@ -24,7 +24,7 @@ constexpr std::size_t kFullRecord = 6;
 /// The fields of a line. Lines have no quotes, so each comma separates.
 struct TxtFields {
     std::array<std::string_view, kFullRecord> fields;
-    /// One more than there is room for when the line has too many.
+    /// One more than the array holds when the line has too many.
     std::size_t count = 0;
 
     std::string_view operator[](std::size_t index) const { return text::Trim(fields[index]); }
@@ -61,11 +61,11 @@ TxtRecord RecordOf(const TxtFields& fields, int type) {
 /// A speed as camera files have it in their names: whole, with at least three digits. A half goes to the even
 /// neighbour.
 std::string SpeedInFileName(double speed) {
-    constexpr double largest = 999'999'999'999'999;
-    constexpr std::size_t fewestDigits = 3;
-    const long long whole = text::RoundHalfEven(std::clamp(speed, -largest, largest));
+    constexpr double kMaxWhole = 999'999'999'999'999;
+    constexpr std::size_t kMinDigits = 3;
+    const long long whole = text::RoundHalfEven(std::clamp(speed, -kMaxWhole, kMaxWhole));
     const std::string digits = std::to_string(whole < 0 ? -whole : whole);
-    const std::size_t zeros = fewestDigits - std::min(fewestDigits, digits.size());
+    const std::size_t zeros = kMinDigits - std::min(kMinDigits, digits.size());
     return (whole < 0 ? "-" : "") + std::string(zeros, '0') + digits;
 }
 
@@ -105,7 +105,7 @@ void TxtImport::ReadTxtFiles() {
         return;
     }
     for (const std::string& name : names) {
-        task_.progress.Turn();
+        task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
         if (HasExtension(name, ".txt")) ReadTxtFile(task_.sourceFolder + name);
     }
@@ -124,13 +124,13 @@ void TxtImport::ReadTxtFile(const std::string& path) {
 
 void TxtImport::ReadLines(platform::TextReader& file) {
     while (!file.AtEndOfStream()) {
-        task_.progress.Turn();
+        task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
         TakeLine(file.ReadLine());
         if (addedRecords_ - shownRecords_ < kRecordsPerRefresh) continue;
         task_.progress.RecordsAdded(addedRecords_);
         shownRecords_ = addedRecords_;
-        task_.progress.Turn();
+        task_.progress.Yield();
     }
 }
 
@@ -157,7 +157,7 @@ void TxtImport::CollectSpeeds(TypeRecords& records) {
     // The speeds were told apart when the records were read. The turns are still there, one for each record,
     // so that a stop comes through before the first file is written.
     for (std::int32_t i = 0; i < records.Count(); ++i) {
-        task_.progress.Turn();
+        task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
     }
     records.SortSpeeds();
@@ -181,7 +181,7 @@ void TxtImport::WriteTypeFiles(int type) {
     RecordWriter writer(typeWord, task_.sourceStructure);
     const std::vector<SpeedRecords>& speeds = Records(type).Speeds();
     for (auto speed = speeds.begin(); speed != speeds.end();) {
-        task_.progress.Turn();
+        task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
         const std::string speedInName = SpeedInFileName(speed->Number());
         const std::string path =

@@ -9,7 +9,7 @@ namespace halvenmoor::platform {
 struct Platform {
     FileSystem& fileSystem;
     HostFiles& hostFiles;
-    Application& application;
+    ProgramInfo& programInfo;
     Clock& clock;
     SettingsStore& settings;
     MessageBox& messages;

@@ -9,7 +9,7 @@
 
 namespace halvenmoor::platform {
 
-struct Version {
+struct ProgramVersion {
     int major = 0;
     int minor = 0;
 };
@@ -21,9 +21,9 @@ struct ScreenSize {
 };
 
 /// What the host tells about the running program.
-class Application {
+class ProgramInfo {
 public:
-    virtual ~Application() = default;
+    virtual ~ProgramInfo() = default;
 
     /// Whether another instance of this program was running for this user at the start.
     virtual bool PreviousInstance() = 0;
@@ -33,7 +33,7 @@ public:
     virtual std::string ProgramFolder() const = 0;
     /// What stands between the folders of a path.
     virtual char Separator() const = 0;
-    virtual platform::Version Version() const = 0;
+    virtual ProgramVersion Version() const = 0;
     virtual ScreenSize Screen() const = 0;
 };
 

@@ -23,7 +23,7 @@ void cProgressBar::SetPicBox(forms::PictureBox* box) {
 }
 
 void cProgressBar::Draw() {
-    forms::Canvas* const canvas = picBox_ != nullptr ? picBox_->Canvas() : nullptr;
+    forms::Canvas* const canvas = picBox_ != nullptr ? picBox_->GetCanvas() : nullptr;
     if (canvas == nullptr) return;
     DrawBar(*canvas, canvas->ClientRect());
     canvas->Refresh();

@@ -57,15 +57,15 @@ void frmRename::Load() {
 void frmRename::MoveBesideRow() {
     const forms::Form& main = list_.Owner();
     const forms::Point corner = main.Position();
-    const forms::FrameMetrics frame = main.Frame();
+    const forms::FrameMetrics frame = main.WindowFrame();
     const forms::Twips frameWidth = frame.frameWidth * forms::kTwipsPerPixel;
     const forms::Twips captionAbove = (frame.captionHeight + frame.frameHeight) * forms::kTwipsPerPixel;
     const forms::Twips ownCaption = (frame.smallCaptionHeight + frame.frameHeight) * forms::kTwipsPerPixel;
 
-    const forms::Twips listLeft = list_.AtDesign().place.left + frameWidth - kGap;
+    const forms::Twips listLeft = list_.AtDesign().bounds.left + frameWidth - kGap;
     const forms::Twips ownWidth = AtDesign().width + 2 * frameWidth;
     const forms::Twips listTop =
-        list_.AtDesign().place.top + captionAbove - ownCaption - TextFileName.AtDesign().place.top;
+        list_.AtDesign().bounds.top + captionAbove - ownCaption - TextFileName.AtDesign().bounds.top;
     const forms::Twips rowsAbove = (list_.ListIndex() - list_.TopIndex()) * list_.RowHeight();
     MoveTo({corner.left + listLeft - ownWidth, corner.top + listTop + rowsAbove});
 }

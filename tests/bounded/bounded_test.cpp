@@ -1,5 +1,5 @@
 // No file makes the program take more memory than a megabyte and a stated multiple of the file's size. This
-// program has its own operator new, which counts. Large files have holes: they take no room on the disk.
+// program has its own operator new, which counts. Large files have holes: they take no space on the disk.
 //
 // HALVENMOOR_LARGE says how many megabytes they have, 256 unless it is set, and 2047 at most.
 
@@ -15,11 +15,11 @@
 namespace {
 
 std::size_t inUse = 0;
-std::size_t mostInUse = 0;
+std::size_t maxInUse = 0;
 
 void* Counted(void* memory) {
     if (memory != nullptr) inUse += malloc_usable_size(memory);
-    mostInUse = std::max(mostInUse, inUse);
+    maxInUse = std::max(maxInUse, inUse);
     return memory;
 }
 
@@ -82,9 +82,9 @@ protected:
     }
 
     static void ExpectTakesAtMost(std::size_t bytes, const std::function<void()>& job) {
-        const std::size_t before = mostInUse = inUse;
+        const std::size_t before = maxInUse = inUse;
         job();
-        EXPECT_LE(mostInUse - before, bytes + kMegabyte);
+        EXPECT_LE(maxInUse - before, bytes + kMegabyte);
     }
     void ExpectImportTakesAtMost(std::size_t bytes, int source) {
         ExpectTakesAtMost(bytes, [&] { EXPECT_EQ(DiskProgram(folder).Import(source), "PictureFinished"); });
@@ -135,8 +135,8 @@ TEST_F(Bounded, SettingsTakeNoStringForEachComma) {
     const std::string text = "[Type1]\n" + std::string(16 * kMegabyte, ',');
     folder.Put("Settings.ini", text);
     ExpectTakesAtMost(5 * text.size(), [this] {
-        disk::PathFinder finder(text::WindowsCodePage(1252));
-        disk::DiskFileSystem files(finder);
+        posix::PathFinder finder(text::WindowsCodePage(1252));
+        posix::DiskFileSystem files(finder);
         const cSettingsClass read(files, folder / "Settings.ini");
         EXPECT_EQ(read.TypeFileNamePatterns()[1]->size(), kMaxPatterns + 1);
     });

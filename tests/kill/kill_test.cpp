@@ -30,8 +30,8 @@ using Work = std::function<void()>;
 pid_t Start(const Work& work) {
     const pid_t child = ::fork();
     if (child != 0) return child;
-    constexpr unsigned secondsUntilItHangs = 20;
-    ::alarm(secondsUntilItHangs);
+    constexpr unsigned kSecondsUntilItHangs = 20;
+    ::alarm(kSecondsUntilItHangs);
     work();
     ::_exit(0);
 }
@@ -65,7 +65,7 @@ int Answer(const std::function<bool()>& question) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-class SuddenEndTest : public testing::Test {
+class KillTest : public testing::Test {
 protected:
     void SetUp() override {
         if (Answer([] { return ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) == 0; }) == 0)
@@ -98,7 +98,7 @@ protected:
 
 constexpr std::size_t kManyCameras = 4000;
 
-class JourneyEndTest : public SuddenEndTest {
+class JourneyKillTest : public KillTest {
 protected:
     void Prepare() {
         InstallFiles(folder);
@@ -118,14 +118,14 @@ protected:
         playWhole();
         const Disk done = Files();
         EXPECT_NE(done, installed);
-        SuddenEndTest::Sweep([this] { Prepare(); }, playWhole,
-                             [&] {
-                                 ExpectBegun(done, emptied);
-                                 ExpectSoundWindow(DiskProgram(folder).Window());
-                                 if (emptied == "-") Prepare();
-                                 playWhole();
-                                 EXPECT_TRUE(Files() == done);
-                             });
+        KillTest::Sweep([this] { Prepare(); }, playWhole,
+                        [&] {
+                            ExpectBegun(done, emptied);
+                            ExpectSoundWindow(DiskProgram(folder).Window());
+                            if (emptied == "-") Prepare();
+                            playWhole();
+                            EXPECT_TRUE(Files() == done);
+                        });
     }
 
     Disk Files() {
@@ -148,27 +148,27 @@ protected:
     Disk installed;
 };
 
-TEST_F(JourneyEndTest, Export) {
+TEST_F(JourneyKillTest, Export) {
     Sweep([](DiskProgram& program) { program.Export(); });
     Sweep([this](DiskProgram& program) { program.Export(3, folder / "txt/old.txt"); });
 }
 
-TEST_F(JourneyEndTest, Import) {
+TEST_F(JourneyKillTest, Import) {
     for (const int source : {ImportProgram::kOv2, ImportProgram::kTxt})
         Sweep([source](DiskProgram& program) { program.Import(source); }, "asc/");
 }
 
-TEST_F(JourneyEndTest, Rename) {
-    SuddenEndTest::Sweep([this] { Prepare(); }, [this] { DiskProgram(folder).Rename("fixed_50", "named"); },
-                         [this] {
-                             const Disk left = AllFiles(folder);
-                             Disk renamed = installed;
-                             renamed["asc/named.asc"] = renamed.extract("asc/fixed_50.asc").mapped();
-                             EXPECT_TRUE(left == installed || left == renamed);
-                         });
+TEST_F(JourneyKillTest, Rename) {
+    KillTest::Sweep([this] { Prepare(); }, [this] { DiskProgram(folder).Rename("fixed_50", "named"); },
+                    [this] {
+                        const Disk left = AllFiles(folder);
+                        Disk renamed = installed;
+                        renamed["asc/named.asc"] = renamed.extract("asc/fixed_50.asc").mapped();
+                        EXPECT_TRUE(left == installed || left == renamed);
+                    });
 }
 
-TEST_F(SuddenEndTest, OptionsAreTheOldOnesOrTheNewOnes) {
+TEST_F(KillTest, OptionsAreTheOldOnesOrTheNewOnes) {
     const auto save = [this](const char* demo, const char* language) {
         qt::QtSettings settings(folder.Path().c_str());
         settings.SaveSetting("App", "Settings", "DemoMode", demo);
@@ -193,7 +193,7 @@ TEST_F(SuddenEndTest, OptionsAreTheOldOnesOrTheNewOnes) {
         });
 }
 
-TEST_F(SuddenEndTest, TheNextInstanceIsTheFirst) {
+TEST_F(KillTest, TheNextInstanceIsTheFirst) {
     const auto isFirst = [this] {
         int count = 1;
         char name[] = "halvenmoor";

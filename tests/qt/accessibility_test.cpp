@@ -25,12 +25,16 @@ QString LabelOf(const forms::Control& control) {
     return {};
 }
 
-const std::map<forms::Kind, QAccessible::Role> kRoles{
-    {forms::Kind::Label, QAccessible::StaticText},         {forms::Kind::Frame, QAccessible::Grouping},
-    {forms::Kind::CommandButton, QAccessible::Button},     {forms::Kind::CheckBox, QAccessible::CheckBox},
-    {forms::Kind::OptionButton, QAccessible::RadioButton}, {forms::Kind::ListBox, QAccessible::List},
-    {forms::Kind::ComboBox, QAccessible::ComboBox},        {forms::Kind::PictureBox, QAccessible::Graphic},
-    {forms::Kind::TextBox, QAccessible::EditableText}};
+const std::map<forms::ControlKind, QAccessible::Role> kRoles{
+    {forms::ControlKind::Label, QAccessible::StaticText},
+    {forms::ControlKind::Frame, QAccessible::Grouping},
+    {forms::ControlKind::CommandButton, QAccessible::Button},
+    {forms::ControlKind::CheckBox, QAccessible::CheckBox},
+    {forms::ControlKind::OptionButton, QAccessible::RadioButton},
+    {forms::ControlKind::ListBox, QAccessible::List},
+    {forms::ControlKind::ComboBox, QAccessible::ComboBox},
+    {forms::ControlKind::PictureBox, QAccessible::Graphic},
+    {forms::ControlKind::TextBox, QAccessible::EditableText}};
 
 void ExpectAllNamed(forms::Form& form) {
     form.Owner().Yield();
@@ -43,10 +47,10 @@ void ExpectAllNamed(forms::Form& form) {
         const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));
         ASSERT_NE(told, nullptr) << control->Name();
         EXPECT_EQ(told->role(), kRoles.at(control->Kind())) << control->Name();
-        const bool isNamedByChoice = control->Kind() == forms::Kind::ComboBox;
+        const bool isNamedByChoice = control->Kind() == forms::ControlKind::ComboBox;
         const QString name = isNamedByChoice ? LabelOf(*control) : told->text(QAccessible::Name);
         EXPECT_EQ(name.toStdString(), control->AccessibleName());
-        const bool isEmptyLabel = control->Kind() == forms::Kind::Label && control->Caption().empty();
+        const bool isEmptyLabel = control->Kind() == forms::ControlKind::Label && control->Caption().empty();
         EXPECT_TRUE(isEmptyLabel || !control->AccessibleName().empty()) << control->Name();
     }
 }
@@ -104,7 +108,7 @@ void ExpectPainted(forms::Form& form) {
         const std::string caption = control->Caption();
         if (control->AtDesign().glyph != forms::Glyph::None) {
             glyphs[control->AtDesign().glyph] = image;
-        } else if (!caption.empty() && control->Kind() != forms::Kind::ComboBox) {
+        } else if (!caption.empty() && control->Kind() != forms::ControlKind::ComboBox) {
             control->SetCaption("");
             EXPECT_NE(look(*control), image) << control->Name();
             control->SetCaption(caption);
@@ -160,7 +164,7 @@ TEST_F(Keyboard, DoesTheWholeJob) {
     Press(Qt::Key_5, Qt::AltModifier);
     EXPECT_EQ(Form().TypeList[5].ListCount(), 1);
 
-    const Meeting results("frmResults", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+    const WhenShown results("frmResults", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
     TabTo(Form().ButtonExportCameras);
     Press(Qt::Key_Space);
     EXPECT_EQ(memory.Text("/p/demo/txt_demo/SpeedCamText.txt"),

@@ -13,7 +13,9 @@ namespace halvenmoor::qt {
 namespace {
 
 QString ShownText(const forms::Control& control) {
-    return WidgetOf(control).property(control.Kind() == forms::Kind::Frame ? "title" : "text").toString();
+    return WidgetOf(control)
+        .property(control.Kind() == forms::ControlKind::Frame ? "title" : "text")
+        .toString();
 }
 
 TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
@@ -62,28 +64,28 @@ TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
 }
 
 /// What lies around the captions of each kind of control, estimated with care.
-const std::map<forms::Kind, QMargins> kBorders{{forms::Kind::Label, {}},
-                                               {forms::Kind::Frame, {11, 0, 11, 0}},
-                                               {forms::Kind::CommandButton, {4, 4, 4, 4}},
-                                               {forms::Kind::CheckBox, {20, 0, 0, 0}},
-                                               {forms::Kind::OptionButton, {20, 0, 0, 0}}};
+const std::map<forms::ControlKind, QMargins> kBorders{{forms::ControlKind::Label, {}},
+                                                      {forms::ControlKind::Frame, {11, 0, 11, 0}},
+                                                      {forms::ControlKind::CommandButton, {4, 4, 4, 4}},
+                                                      {forms::ControlKind::CheckBox, {20, 0, 0, 0}},
+                                                      {forms::ControlKind::OptionButton, {20, 0, 0, 0}}};
 
 void ExpectAllFits(forms::Form& form) {
     form.Owner().Yield();
     for (const forms::Control* control : form.Controls()) {
-        const forms::Kind kind = control->Kind();
+        const forms::ControlKind kind = control->Kind();
         const auto borders = kBorders.find(kind);
         if (borders == kBorders.end() || control->AtDesign().glyph != forms::Glyph::None) continue;
         const QWidget& widget = WidgetOf(*control);
-        const QRect whole = kind == forms::Kind::Label ? widget.contentsRect() : widget.rect();
-        const QRect room = whole.marginsRemoved(borders->second);
-        const bool isOneLine = kind == forms::Kind::Frame || kind == forms::Kind::CommandButton;
+        const QRect whole = kind == forms::ControlKind::Label ? widget.contentsRect() : widget.rect();
+        const QRect contents = whole.marginsRemoved(borders->second);
+        const bool isOneLine = kind == forms::ControlKind::Frame || kind == forms::ControlKind::CommandButton;
         const auto lines = isOneLine ? Qt::TextSingleLine : Qt::TextWordWrap;
-        const QRect words = QFontMetrics(widget.font()).boundingRect(room, lines, ShownText(*control));
+        const QRect words = QFontMetrics(widget.font()).boundingRect(contents, lines, ShownText(*control));
         EXPECT_EQ(ShownText(*control).toStdString(), control->Caption()) << control->Name();
-        EXPECT_TRUE(room.contains(words))
+        EXPECT_TRUE(contents.contains(words))
             << control->Caption() << " is " << words.width() << " x " << words.height() << ", has "
-            << room.width() << " x " << room.height();
+            << contents.width() << " x " << contents.height();
         EXPECT_GE(widget.font().stretch(), 85) << control->Caption();
     }
     const QWidget& window = WidgetOf(form);

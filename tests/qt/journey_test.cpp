@@ -22,9 +22,9 @@ void PressEscape(QWidget& window) {
 struct FilesOnDisk {
     TemporaryFolder folder;
     headless::FixedLocale pageOfNames;
-    disk::PathFinder finder{pageOfNames.CodePage()};
-    disk::DiskFileSystem fileSystem{finder};
-    disk::DiskHostFiles hostFiles{finder};
+    posix::PathFinder finder{pageOfNames.CodePage()};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles hostFiles{finder};
 };
 
 class JourneyTest : protected FilesOnDisk, public RealWindows {
@@ -44,7 +44,7 @@ protected:
     /// Imports from OV2 (1) or TXT (2) and tells how many camera files the dialog counted at its end.
     QString Import(int source) {
         QString count;
-        const Meeting dialog("frmImport", [&](QWidget& window) {
+        const WhenShown dialog("frmImport", [&](QWidget& window) {
             const auto press = [&window](const QString& name, QPoint place = {}) {
                 QTest::mouseClick(window.findChild<QWidget*>(name), Qt::LeftButton, {}, place);
             };
@@ -59,7 +59,7 @@ protected:
     }
     /// Classifies by name and exports; the target's text.
     std::string ClassifyAndExport() {
-        const Meeting results("frmResults", PressEscape);
+        const WhenShown results("frmResults", PressEscape);
         Click(Form().ButtonClassifyFiles);
         Click(Form().ButtonExportCameras);
         return folder.Text("txt/SpeedCamText.txt");
@@ -83,8 +83,8 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
     Click(Form().ButtonAdd[3]);
     EXPECT_FALSE(WidgetOf(Form().ButtonClassifyFiles).isEnabled());
     {
-        const Meeting run("frmExport", [](QWidget&) {});
-        const Meeting results("frmResults", [](QWidget& window) {
+        const WhenShown run("frmExport", [](QWidget&) {});
+        const WhenShown results("frmResults", [](QWidget& window) {
             EXPECT_EQ(Words(window, "LabelExportedResult(0)"), "3");
             EXPECT_EQ(Words(window, "LabelSkippedResult(1)"), "1");
             PressEscape(window);
@@ -108,7 +108,7 @@ TEST_F(JourneyTest, Ov2SourceIsImportedRenamedAndExported) {
     Click(Form().CheckDemoMode);
     EXPECT_EQ(Import(1), "1 File(s)");
     ClickRow(Form().MainList, 0);
-    const Meeting rename("frmRename", [](QWidget& window) {
+    const WhenShown rename("frmRename", [](QWidget& window) {
         QWidget* const name = window.findChild<QWidget*>("TextFileName");
         QTest::keyClicks(name, "Fixed 40 mph");
         QTest::keyClick(name, Qt::Key_Return);

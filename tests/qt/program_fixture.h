@@ -19,9 +19,9 @@ inline QWidget* ShownWindow(const char* name) {
 }
 
 /// Does something in a window once it shows, which it must.
-class Meeting {
+class WhenShown {
 public:
-    Meeting(const char* name, std::function<void(QWidget& window)> act) {
+    WhenShown(const char* name, std::function<void(QWidget& window)> act) {
         QObject::connect(&timer_, &QTimer::timeout, [this, name, act = std::move(act)] {
             QWidget* const window = ShownWindow(name);
             if (window == nullptr) return;
@@ -31,7 +31,7 @@ public:
         });
         timer_.start(20);
     }
-    ~Meeting() { EXPECT_TRUE(hasMet_); }
+    ~WhenShown() { EXPECT_TRUE(hasMet_); }
 
 private:
     QTimer timer_;
@@ -42,8 +42,8 @@ private:
 class RealWindows : public testing::Test {
 protected:
     RealWindows(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles, std::string folder)
-        : application(std::move(folder)),
-          program({fileSystem, hostFiles, application, clock, settings, messages, fileDialogs, theme, locale},
+        : programInfo(std::move(folder)),
+          program({fileSystem, hostFiles, programInfo, clock, settings, messages, fileDialogs, theme, locale},
                   toolkit) {}
     ~RealWindows() override { program.MainForm().UserClose(); }
 
@@ -61,8 +61,8 @@ protected:
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, CentreOfRow(view, row));
     }
 
-    headless::FixedApplication application;
-    disk::DiskClock clock;
+    headless::FixedProgramInfo programInfo;
+    posix::SystemClock clock;
     headless::MemorySettings settings;
     headless::MessageLog messages;
     headless::ScriptedFileDialogs fileDialogs;

@@ -26,7 +26,7 @@ protected:
     void Rename(int topRow, int row, const std::function<void(QWidget& dialog, QLineEdit& field)>& action) {
         List().verticalScrollBar()->setValue(topRow);
         ClickRow(Form().MainList, row);
-        const Meeting meeting("frmRename", [&action](QWidget& dialog) {
+        const WhenShown meeting("frmRename", [&action](QWidget& dialog) {
             auto& field = *dialog.findChild<QLineEdit*>("TextFileName");
             EXPECT_TRUE(GetsFocus(field));
             action(dialog, field);

@@ -217,8 +217,8 @@ TEST(InstanceGuard, ListensToItsUserOnly) {
 
 TEST_F(Window, IsRaisedAndRestored) {
     const TemporaryFolder folder;
-    QtApplication first(Path(folder));
-    QtApplication second(Path(folder));
+    QtProgramInfo first(Path(folder));
+    QtProgramInfo second(Path(folder));
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);

@@ -17,7 +17,7 @@
 namespace halvenmoor::qt {
 
 inline QWidget& WidgetOf(const forms::Form& form) {
-    return dynamic_cast<QWidget&>(*form.View());
+    return dynamic_cast<QWidget&>(*form.GetView());
 }
 inline QWidget& WidgetOf(const forms::Control& control) {
     return *WidgetOf(control.Owner()).findChild<QWidget*>(QString::fromStdString(control.Name()));
@@ -52,20 +52,21 @@ struct SampleForm : forms::Form {
         if (script) script();
     }
 
-    forms::Frame frame{*this, {.name = "frame", .place = {3000, 0, 2900, 1500}, .text = "A & B"}};
+    forms::Frame frame{*this, {.name = "frame", .bounds = {3000, 0, 2900, 1500}, .text = "A & B"}};
     forms::Label label{
-        *this, {.name = "label", .place = {150, 300, 1500, 300}, .text = "<b>a</b> & b", .frame = &frame}};
-    forms::CommandButton first{*this, {.name = "first", .place = {0, 0, 1200, 375}, .tab = 1, .text = "&Go"}};
-    forms::CommandButton cancel{*this, {.name = "cancel", .place = {1500, 0, 1200, 375}, .tab = 2}};
-    forms::CheckBox check{*this, {.name = "check", .place = {0, 450, 1500, 300}, .tab = 3, .text = "On"}};
+        *this, {.name = "label", .bounds = {150, 300, 1500, 300}, .text = "<b>a</b> & b", .frame = &frame}};
+    forms::CommandButton first{*this,
+                               {.name = "first", .bounds = {0, 0, 1200, 375}, .tab = 1, .text = "&Go"}};
+    forms::CommandButton cancel{*this, {.name = "cancel", .bounds = {1500, 0, 1200, 375}, .tab = 2}};
+    forms::CheckBox check{*this, {.name = "check", .bounds = {0, 450, 1500, 300}, .tab = 3, .text = "On"}};
     forms::OptionButton optionA{*this,
-                                {.name = "optionA", .place = {0, 900, 1500, 300}, .tab = 4, .on = true}};
-    forms::OptionButton optionB{*this, {.name = "optionB", .place = {0, 1200, 1500, 300}, .tab = 5}};
-    forms::ListBox left{*this, {.name = "left", .place = {0, 1650, 2400, 1500}, .tab = 6}};
-    forms::ListBox right{*this, {.name = "right", .place = {3000, 1650, 2400, 1500}, .tab = 7}};
-    forms::ComboBox combo{*this, {.name = "combo", .place = {0, 3300, 2400, 315}, .tab = 8, .text = "Pick"}};
-    forms::TextBox text{*this, {.name = "text", .place = {0, 3750, 2400, 315}, .tab = 9}};
-    forms::PictureBox picture{*this, {.name = "picture", .place = {0, 4200, 1500, 750}, .bordered = true}};
+                                {.name = "optionA", .bounds = {0, 900, 1500, 300}, .tab = 4, .on = true}};
+    forms::OptionButton optionB{*this, {.name = "optionB", .bounds = {0, 1200, 1500, 300}, .tab = 5}};
+    forms::ListBox left{*this, {.name = "left", .bounds = {0, 1650, 2400, 1500}, .tab = 6}};
+    forms::ListBox right{*this, {.name = "right", .bounds = {3000, 1650, 2400, 1500}, .tab = 7}};
+    forms::ComboBox combo{*this, {.name = "combo", .bounds = {0, 3300, 2400, 315}, .tab = 8, .text = "Pick"}};
+    forms::TextBox text{*this, {.name = "text", .bounds = {0, 3750, 2400, 315}, .tab = 9}};
+    forms::PictureBox picture{*this, {.name = "picture", .bounds = {0, 4200, 1500, 750}, .bordered = true}};
 
     std::vector<std::string> heard;
     /// What happens once the form is on the screen.

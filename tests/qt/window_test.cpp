@@ -127,12 +127,12 @@ TEST_F(Window, NeitherCompletesNorAddsWhatIsTypedInTheCombo) {
 }
 
 TEST_F(Window, DrawsOnTheCanvasAtOnce) {
-    forms::Canvas& canvas = *form.picture.Canvas();
+    forms::Canvas& canvas = *form.picture.GetCanvas();
     const forms::PixelRect all = canvas.ClientRect();
     EXPECT_EQ(all.right, 98);
     EXPECT_EQ(all.bottom, 48);
     form.picture.SetBordered(false);
-    EXPECT_EQ(form.picture.Canvas()->ClientRect().right, 100);
+    EXPECT_EQ(form.picture.GetCanvas()->ClientRect().right, 100);
 
     constexpr forms::Color red = forms::Rgb(255, 0, 0);
     constexpr forms::Color blue = forms::Rgb(0, 0, 255);
@@ -237,7 +237,7 @@ TEST_F(Window, LoopOfTurnsHearsTheUserAndShowsItsState) {
     form.first.OnClick = [&] { stopped = true; };
     QTimer::singleShot(0, &Root(), [this] { Click("first"); });
     form.check.SetCaption("running");
-    while (!stopped) desktop.Turn();
+    while (!stopped) desktop.YieldIfDue();
     EXPECT_EQ(Find<QAbstractButton>("check").text(), "running");
 }
 

@@ -17,7 +17,7 @@ constexpr CodePage MakePage(int number, const char16_t (&upperHalf)[129]) {
 
 // The characters of the bytes 0x80 to 0xFF, sixteen to the row, after the tables that Unicode publishes for
 // the Windows code pages.
-constexpr std::array<CodePage, 9> pages = {
+constexpr std::array<CodePage, 9> kPages = {
     MakePage(
         1250,
         u"\u20AC\u0081\u201A\u0083\u201E\u2026\u2020\u2021\u0088\u2030\u0160\u2039\u015A\u0164\u017D\u0179"
@@ -109,14 +109,14 @@ constexpr std::array<CodePage, 9> pages = {
         u"\u00E0\u00E1\u00E2\u0103\u00E4\u00E5\u00E6\u00E7\u00E8\u00E9\u00EA\u00EB\u0301\u00ED\u00EE\u00EF"
         u"\u0111\u00F1\u0323\u00F3\u00F4\u01A1\u00F6\u00F7\u00F8\u00F9\u00FA\u00FB\u00FC\u01B0\u20AB\u00FF")};
 
-constexpr int firstPage = 1250;
+constexpr int kFirstPage = 1250;
 
 struct LanguagePage {
     std::string_view language;
     int page;
 };
 
-constexpr LanguagePage languagePages[] = {
+constexpr LanguagePage kLanguagePages[] = {
     {"ar", 1256}, {"az", 1254}, {"ba", 1251}, {"be", 1251},  {"bg", 1251}, {"bs", 1250}, {"cs", 1250},
     {"el", 1253}, {"et", 1257}, {"fa", 1256}, {"he", 1255},  {"hr", 1250}, {"hu", 1250}, {"iw", 1255},
     {"kk", 1251}, {"ky", 1251}, {"lt", 1257}, {"lv", 1257},  {"mk", 1251}, {"mn", 1251}, {"pl", 1250},
@@ -134,7 +134,7 @@ std::string_view TakeSubtag(std::string_view& tag) {
 }
 
 int UsualPage(std::string_view language) {
-    for (const LanguagePage& entry : languagePages) {
+    for (const LanguagePage& entry : kLanguagePages) {
         if (EqualIgnoringAsciiCase(language, entry.language)) return entry.page;
     }
     return 1252;
@@ -143,8 +143,8 @@ int UsualPage(std::string_view language) {
 }  // namespace
 
 const CodePage& WindowsCodePage(int number) noexcept {
-    const bool isKnown = number >= firstPage && number < firstPage + static_cast<int>(pages.size());
-    return pages[static_cast<std::size_t>((isKnown ? number : 1252) - firstPage)];
+    const bool isKnown = number >= kFirstPage && number < kFirstPage + static_cast<int>(kPages.size());
+    return kPages[static_cast<std::size_t>((isKnown ? number : 1252) - kFirstPage)];
 }
 
 int WindowsCodePageForLanguage(std::string_view languageTag) noexcept {

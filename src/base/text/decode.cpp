@@ -32,12 +32,12 @@ std::size_t SequenceLength(std::string_view bytes) {
 
 /// How many ASCII bytes the text begins with, rounded down to whole words.
 std::size_t AsciiWords(std::string_view bytes) {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
     std::size_t length = 0;
     std::uint64_t word = 0;
     while (bytes.size() - length >= sizeof word) {
         std::memcpy(&word, bytes.data() + length, sizeof word);
-        if ((word & highBits) != 0) break;
+        if ((word & kHighBits) != 0) break;
         length += sizeof word;
     }
     return length;

@@ -15,7 +15,7 @@ struct CapitalRange {
     char32_t distance;
 };
 
-constexpr CapitalRange capitalRanges[] = {
+constexpr CapitalRange kCapitalRanges[] = {
     {U'A', U'Z', 1, 32},      // Latin
     {0x00C0, 0x00D6, 1, 32},  // À to Ö
     {0x00D8, 0x00DE, 1, 32},  // Ø to Þ
@@ -44,26 +44,26 @@ constexpr CapitalRange capitalRanges[] = {
 };
 
 // Pairs that lie apart, capital above small letter.
-constexpr std::u32string_view singleCapitals = U"ŸƁƂƄƆƇƉƊƋƎƏƐƑƓƔƖƗƘƜƝƟƦƧƩƬƮƯƱƲƳƵƷƸƼǶǷǴȠȻȽɁɃɄɅΆΈΉΊΌΎΏӀ";
-constexpr std::u32string_view singleSmall = U"ÿɓƃƅɔƈɖɗƌǝəɛƒɠɣɩɨƙɯɲɵʀƨʃƭʈưʊʋƴƶʒƹƽƕƿǵƞȼƚɂƀʉʌάέήίόύώӏ";
-static_assert(singleCapitals.size() == singleSmall.size());
+constexpr std::u32string_view kSingleCapitals = U"ŸƁƂƄƆƇƉƊƋƎƏƐƑƓƔƖƗƘƜƝƟƦƧƩƬƮƯƱƲƳƵƷƸƼǶǷǴȠȻȽɁɃɄɅΆΈΉΊΌΎΏӀ";
+constexpr std::u32string_view kSingleSmall = U"ÿɓƃƅɔƈɖɗƌǝəɛƒɠɣɩɨƙɯɲɵʀƨʃƭʈưʊʋƴƶʒƹƽƕƿǵƞȼƚɂƀʉʌάέήίόύώӏ";
+static_assert(kSingleCapitals.size() == kSingleSmall.size());
 
-constexpr char32_t blockEnd = 0x0530;  // Latin, Greek and Cyrillic fill the table up to here
-constexpr char32_t additionalFirst = 0x1E00;
-constexpr char32_t additionalEnd = 0x1F00;
-constexpr std::size_t tableSize = blockEnd + (additionalEnd - additionalFirst);
+constexpr char32_t kBlockEnd = 0x0530;  // Latin, Greek and Cyrillic fill the table up to here
+constexpr char32_t kAdditionalFirst = 0x1E00;
+constexpr char32_t kAdditionalEnd = 0x1F00;
+constexpr std::size_t kTableSize = kBlockEnd + (kAdditionalEnd - kAdditionalFirst);
 
-/// The place of a character in the tables; tableSize if it is in none.
+/// The place of a character in the tables; kTableSize if it is in none.
 constexpr std::size_t TableIndex(char32_t character) {
-    if (character < blockEnd) return character;
-    if (character >= additionalFirst && character < additionalEnd)
-        return character - additionalFirst + blockEnd;
-    return tableSize;
+    if (character < kBlockEnd) return character;
+    if (character >= kAdditionalFirst && character < kAdditionalEnd)
+        return character - kAdditionalFirst + kBlockEnd;
+    return kTableSize;
 }
 
 struct CaseTables {
-    std::array<char16_t, tableSize> lower{};
-    std::array<char16_t, tableSize> upper{};
+    std::array<char16_t, kTableSize> lower{};
+    std::array<char16_t, kTableSize> upper{};
 
     constexpr void Set(char32_t character, char32_t lowerForm, char32_t upperForm) {
         lower[TableIndex(character)] = static_cast<char16_t>(lowerForm);
@@ -78,28 +78,29 @@ struct CaseTables {
 
 constexpr CaseTables MakeTables() {
     CaseTables tables;
-    for (char32_t c = 0; c < blockEnd; ++c) tables.Set(c, c, c);
-    for (char32_t c = additionalFirst; c < additionalEnd; ++c) tables.Set(c, c, c);
-    for (const CapitalRange& range : capitalRanges) {
+    for (char32_t c = 0; c < kBlockEnd; ++c) tables.Set(c, c, c);
+    for (char32_t c = kAdditionalFirst; c < kAdditionalEnd; ++c) tables.Set(c, c, c);
+    for (const CapitalRange& range : kCapitalRanges) {
         for (char32_t c = range.first; c <= range.last; c += range.step)
             tables.AddPair(c, c + range.distance);
     }
-    for (std::size_t i = 0; i < singleCapitals.size(); ++i) tables.AddPair(singleCapitals[i], singleSmall[i]);
+    for (std::size_t i = 0; i < kSingleCapitals.size(); ++i)
+        tables.AddPair(kSingleCapitals[i], kSingleSmall[i]);
     return tables;
 }
 
-constexpr CaseTables caseTables = MakeTables();
+constexpr CaseTables kCaseTables = MakeTables();
 
 }  // namespace
 
 char32_t LowerCase(char32_t character) noexcept {
     const std::size_t index = TableIndex(character);
-    return index < tableSize ? caseTables.lower[index] : character;
+    return index < kTableSize ? kCaseTables.lower[index] : character;
 }
 
 char32_t UpperCase(char32_t character) noexcept {
     const std::size_t index = TableIndex(character);
-    return index < tableSize ? caseTables.upper[index] : character;
+    return index < kTableSize ? kCaseTables.upper[index] : character;
 }
 
 }  // namespace halvenmoor::text

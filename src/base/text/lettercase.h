@@ -11,8 +11,8 @@ char32_t UpperCase(char32_t character) noexcept;
 /// The character that stands for all letters that are equal when case is ignored: the small letter, and for
 /// the final sigma the ordinary one.
 inline char32_t FoldCase(char32_t character) noexcept {
-    constexpr char32_t smallFromCapital = 'a' - 'A';
-    if (character < 0x80) return character - 'A' < 26 ? character + smallFromCapital : character;
+    constexpr char32_t kSmallFromCapital = 'a' - 'A';
+    if (character < 0x80) return character - 'A' < 26 ? character + kSmallFromCapital : character;
     return character == U'ς' ? U'σ' : LowerCase(character);
 }
 

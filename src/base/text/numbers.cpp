@@ -68,7 +68,7 @@ public:
         if (isFraction) --exponent_;
         const bool isLeadingZero = count_ == 0 && digit == '0';
         if (isLeadingZero) return;
-        if (count_ < mostDigits) {
+        if (count_ < kMaxDigits) {
             digits_[count_++] = digit;
             return;
         }
@@ -94,10 +94,10 @@ public:
 
 private:
     // What decides how a number is rounded: at most 767 digits, and whether anything but zeros follows.
-    static constexpr std::size_t mostDigits = 770;
-    static constexpr std::size_t spaceForExponent = 8;
+    static constexpr std::size_t kMaxDigits = 770;
+    static constexpr std::size_t kExponentSize = 8;
 
-    std::array<char, mostDigits + spaceForExponent> digits_;  // only the first count_ are set
+    std::array<char, kMaxDigits + kExponentSize> digits_;  // only the first count_ are set
     std::size_t count_ = 0;
     long long exponent_ = 0;
     bool hasMore_ = false;
@@ -114,11 +114,11 @@ double ReadBased(Cursor& cursor, int base) {
 
 long long ReadExponent(Cursor& cursor) {
     // Far beyond what any number of digits in memory can make up for.
-    constexpr long long limit = 1'000'000'000'000'000;
+    constexpr long long kMaxExponent = 1'000'000'000'000'000;
     const bool isNegative = cursor.AcceptMinus();
     long long exponent = 0;
     for (char digit = cursor.Peek(); IsDigit(digit); digit = cursor.Peek()) {
-        if (exponent < limit) exponent = exponent * 10 + (digit - '0');
+        if (exponent < kMaxExponent) exponent = exponent * 10 + (digit - '0');
         cursor.Advance();
     }
     return isNegative ? -exponent : exponent;
@@ -179,13 +179,13 @@ bool IsNumericText(std::string_view text, std::string_view decimalSeparator) noe
 }
 
 std::string GeneralNumber(double number, std::string_view decimalSeparator) {
-    constexpr int mostDigits = 15;
+    constexpr int kMaxDigits = 15;
     if (!std::isfinite(number)) ThrowOverflow();
     if (number == 0) return "0";  // zero may bear a minus sign
 
     std::array<char, 32> buffer;
     char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                    std::chars_format::general, mostDigits)
+                                    std::chars_format::general, kMaxDigits)
                           .ptr;
     std::string text(buffer.data(), end);
     const std::size_t mark = text.find('e');

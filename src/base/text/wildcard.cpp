@@ -6,10 +6,10 @@
 namespace halvenmoor::text {
 namespace {
 
-// Elements that are no plain character; anything from firstList on is a list.
-constexpr char32_t anyCharacter = 0x110000;
-constexpr char32_t anyDigit = 0x110001;
-constexpr char32_t firstList = 0x110002;
+// Elements that are no plain character; anything from kFirstList on is a list.
+constexpr char32_t kAnyCharacter = 0x110000;
+constexpr char32_t kAnyDigit = 0x110001;
+constexpr char32_t kFirstList = 0x110002;
 
 }  // namespace
 
@@ -32,7 +32,7 @@ void WildcardPattern::Parse(std::u32string_view pattern) {
             const bool isDoubled = pieces_.size() > 1 && pieces_.back().empty();
             if (!isDoubled) pieces_.emplace_back();
         } else {
-            pieces_.back() += character == U'?' ? anyCharacter : character == U'#' ? anyDigit : character;
+            pieces_.back() += character == U'?' ? kAnyCharacter : character == U'#' ? kAnyDigit : character;
         }
     }
 }
@@ -47,7 +47,7 @@ void WildcardPattern::AddList(std::u32string_view content) {
         list.ranges.emplace_back(content[0], content[isRange ? 2 : 0]);
         content.remove_prefix(isRange ? 3 : 1);
     }
-    pieces_.back() += firstList + static_cast<char32_t>(lists_.size());
+    pieces_.back() += kFirstList + static_cast<char32_t>(lists_.size());
     lists_.push_back(std::move(list));
 }
 
@@ -63,8 +63,8 @@ bool WildcardPattern::MatchesFolded(std::u32string_view foldedName) const {
     if (!AcceptsAt(0, pieces_.front(), foldedName)) return false;
     if (!AcceptsAt(lastStart, pieces_.back(), foldedName)) return false;
 
-    // Between both ends each piece takes the first place that fits. A later one would leave less room for the
-    // pieces behind it, so there is never a reason to come back.
+    // Between both ends each piece takes the first position that fits. A later one would leave fewer
+    // characters for the pieces behind it, so there is never a reason to come back.
     std::size_t position = pieces_.front().size();
     for (std::size_t i = 1; i + 1 < pieces_.size(); ++i) {
         const std::size_t length = pieces_[i].size();
@@ -79,16 +79,16 @@ bool WildcardPattern::AcceptsAt(std::size_t position, const Piece& piece,
                                 std::u32string_view name) const noexcept {
     for (const char32_t element : piece) {
         const char32_t character = name[position++];
-        if (element != character && (element < anyCharacter || !AcceptsSpecial(element, character)))
+        if (element != character && (element < kAnyCharacter || !AcceptsSpecial(element, character)))
             return false;
     }
     return true;
 }
 
 bool WildcardPattern::AcceptsSpecial(char32_t element, char32_t character) const noexcept {
-    if (element == anyCharacter) return true;
-    if (element == anyDigit) return character >= U'0' && character <= U'9';
-    return lists_[element - firstList].Accepts(character);
+    if (element == kAnyCharacter) return true;
+    if (element == kAnyDigit) return character >= U'0' && character <= U'9';
+    return lists_[element - kFirstList].Accepts(character);
 }
 
 bool WildcardPattern::List::Accepts(char32_t character) const noexcept {

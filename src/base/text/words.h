@@ -37,10 +37,10 @@ inline void Store(Word word, char* bytes) noexcept {
 
 /// A text of at most eight bytes, with zeros behind it.
 inline Word LoadShort(std::string_view text) noexcept {
-    constexpr std::size_t half = sizeof(std::uint32_t);
-    if (text.size() >= half) {
-        const Word last = Load<std::uint32_t>(text.data() + text.size() - half);
-        return Load<std::uint32_t>(text.data()) | last << 8 * (text.size() - half);
+    constexpr std::size_t kHalf = sizeof(std::uint32_t);
+    if (text.size() >= kHalf) {
+        const Word last = Load<std::uint32_t>(text.data() + text.size() - kHalf);
+        return Load<std::uint32_t>(text.data()) | last << 8 * (text.size() - kHalf);
     }
     Word word = 0;
     for (std::size_t i = text.size(); i-- > 0;) word = word << 8 | static_cast<unsigned char>(text[i]);
@@ -59,8 +59,8 @@ constexpr Word FirstBytes(Word word, std::size_t count) noexcept {
 
 /// The high bit of each byte that is zero.
 constexpr Word ZeroBytes(Word word) noexcept {
-    constexpr Word lowBits = RepeatByte(0x7F);
-    return ~(((word & lowBits) + lowBits) | word | lowBits);
+    constexpr Word kLowBits = RepeatByte(0x7F);
+    return ~(((word & kLowBits) + kLowBits) | word | kLowBits);
 }
 
 /// The high bit of each byte that is this one.

@@ -11,22 +11,22 @@
 
 namespace halvenmoor::headless {
 
-/// The twins of all services but the files, and of the toolkit.
-struct Twins {
-    explicit Twins(std::string programFolder = "/p") : application(std::move(programFolder)) {}
+/// The fakes of all services but the files, and of the toolkit.
+struct Fakes {
+    explicit Fakes(std::string programFolder = "/p") : programInfo(std::move(programFolder)) {}
 
-    /// The platform of these twins and the files given. Twins and files outlive it.
+    /// The platform of these fakes and the files given. Fakes and files outlive it.
     platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles) {
         return With(fileSystem, hostFiles, locale);
     }
     /// The same with another locale.
     platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles,
                             const platform::Locale& otherLocale) {
-        return {fileSystem, hostFiles,   application, clock,      settings,
+        return {fileSystem, hostFiles,   programInfo, clock,      settings,
                 messages,   fileDialogs, theme,       otherLocale};
     }
 
-    FixedApplication application;
+    FixedProgramInfo programInfo;
     ManualClock clock;
     MemorySettings settings;
     MessageLog messages;

@@ -14,10 +14,10 @@ public:
     double TimeOfDay() override { return seconds_; }
 
     /// Moves on by so many seconds, across midnight too.
-    void Advance(double seconds) { seconds_ = std::fmod(seconds_ + seconds, secondsPerDay); }
+    void Advance(double seconds) { seconds_ = std::fmod(seconds_ + seconds, kSecondsPerDay); }
 
 private:
-    static constexpr double secondsPerDay = 86400;
+    static constexpr double kSecondsPerDay = 86400;
 
     double seconds_;
 };

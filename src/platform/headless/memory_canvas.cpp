@@ -17,7 +17,7 @@ std::pair<int, int> Covered(int from, int to) {
 
 }  // namespace
 
-MemoryCanvas::MemoryCanvas(const forms::Place& place)
+MemoryCanvas::MemoryCanvas(const forms::Bounds& place)
     : width_(forms::ToPixels(place.width)),
       height_(forms::ToPixels(place.height)),
       clip_{0, 0, width_, height_} {

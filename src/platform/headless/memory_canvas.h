@@ -14,7 +14,7 @@ public:
     static constexpr int kCharacterWidth = 7;
     static constexpr int kCharacterHeight = 9;
 
-    explicit MemoryCanvas(const forms::Place& place);
+    explicit MemoryCanvas(const forms::Bounds& place);
 
     forms::PixelRect ClientRect() const override { return {0, 0, width_, height_}; }
     void FillRect(const forms::PixelRect& area, forms::Color color) override;

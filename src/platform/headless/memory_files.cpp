@@ -10,7 +10,7 @@
 namespace halvenmoor::headless {
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view WithoutTrailingSeparators(std::string_view path) {
     while (path.ends_with('/')) path.remove_suffix(1);
@@ -49,7 +49,7 @@ bool HasExtension(std::string_view name, std::string_view extension) {
 class MemoryReader : public platform::TextReader {
 public:
     explicit MemoryReader(std::shared_ptr<const std::string> bytes) : bytes_(std::move(bytes)) {
-        if (bytes_->starts_with(byteOrderMark)) position_ = byteOrderMark.size();
+        if (bytes_->starts_with(kByteOrderMark)) position_ = kByteOrderMark.size();
     }
 
     bool AtEndOfStream() override { return position_ >= Bytes().size(); }
@@ -151,7 +151,7 @@ public:
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         files_.Record("create", path);
-        const std::string place = files_.FindPlace(path);
+        const std::string place = files_.FindForWriting(path);
         if (files_.Has(place) && files_.IsFolder(place)) ThrowPermissionDenied();
         Bytes& bytes = files_.entries_[place];
         if (!bytes) bytes = std::make_shared<std::string>();
@@ -236,7 +236,7 @@ void MemoryFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     Record("rename", std::string(oldPath).append(" > ").append(newPath));
     const std::string real = Find(oldPath);
     const Bytes bytes = RequireFile(oldPath);
-    const std::string place = FindPlace(newPath);
+    const std::string place = FindForWriting(newPath);
     if (Has(place)) throw Failure(failure::FileExists, "File already exists");
     entries_.erase(real);
     entries_.emplace(place, bytes);
@@ -258,7 +258,7 @@ std::string MemoryFiles::Find(std::string_view path) const {
     return std::string(path);
 }
 
-std::string MemoryFiles::FindPlace(std::string_view path) const {
+std::string MemoryFiles::FindForWriting(std::string_view path) const {
     const std::string folder = Find(FolderOf(path));
     if (!IsFolder(folder)) ThrowPathNotFound();
     return Join(folder, NameOf(path));

@@ -54,7 +54,7 @@ private:
     void Record(std::string_view call, std::string_view path);
     std::string Find(std::string_view path) const;
     /// Where a new file goes: the folder as it is found, the name as given. Throws Failure(PathNotFound).
-    std::string FindPlace(std::string_view path) const;
+    std::string FindForWriting(std::string_view path) const;
     bool IsFile(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
     Bytes RequireFile(std::string_view path) const;

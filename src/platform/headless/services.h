@@ -12,9 +12,9 @@
 
 namespace halvenmoor::headless {
 
-class FixedApplication : public platform::Application {
+class FixedProgramInfo : public platform::ProgramInfo {
 public:
-    explicit FixedApplication(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+    explicit FixedProgramInfo(std::string programFolder) : programFolder_(std::move(programFolder)) {}
 
     bool HasPreviousInstance = false;
     int RaisedPreviousInstance = 0;
@@ -23,7 +23,7 @@ public:
     void ActivatePreviousInstance() override { ++RaisedPreviousInstance; }
     std::string ProgramFolder() const override { return programFolder_; }
     char Separator() const override { return '/'; }
-    platform::Version Version() const override { return kVersion; }
+    platform::ProgramVersion Version() const override { return kVersion; }
     platform::ScreenSize Screen() const override { return {1280, 1024}; }
 
 private:

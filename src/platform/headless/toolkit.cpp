@@ -8,8 +8,8 @@ namespace halvenmoor::headless {
 
 namespace {
 
-/// A turn takes at least this, in seconds, so that every wait ends.
-constexpr double kShortestTurn = 1e-6;
+/// A yield takes at least this, in seconds, so that every wait ends.
+constexpr double kShortestYield = 1e-6;
 
 }  // namespace
 
@@ -22,8 +22,8 @@ void HeadlessView::Update() {
     form_.TakeChanges();
 }
 
-forms::Canvas& HeadlessView::Canvas(forms::PictureBox& box) {
-    return canvases_.try_emplace(&box, box.AtDesign().place).first->second;
+forms::Canvas& HeadlessView::CanvasOf(forms::PictureBox& box) {
+    return canvases_.try_emplace(&box, box.AtDesign().bounds).first->second;
 }
 
 std::unique_ptr<forms::View> HeadlessToolkit::CreateView(forms::Form& form) {
@@ -51,9 +51,9 @@ void HeadlessToolkit::PlayScript(forms::Form& form) {
 }
 
 void HeadlessToolkit::HandleEvents(double waitSeconds) {
-    ++turns_;
-    clock_.Advance(std::max(waitSeconds, kShortestTurn));
-    if (OnTurn) OnTurn();
+    ++yields_;
+    clock_.Advance(std::max(waitSeconds, kShortestYield));
+    if (OnYield) OnYield();
 }
 
 void HeadlessToolkit::ReportStuck(forms::Form& form) const {

@@ -22,12 +22,12 @@ public:
     void Hide() override {}
     void Update() override;
     forms::Point Position() const override { return position_; }
-    forms::FrameMetrics Frame() const override {
+    forms::FrameMetrics WindowFrame() const override {
         return {.frameWidth = 3, .frameHeight = 4, .captionHeight = 22, .smallCaptionHeight = 17};
     }
     int TopIndex(const forms::ListBox&) const override { return TopRow; }
     forms::Twips RowHeight(const forms::ListBox&) const override { return 13 * forms::kTwipsPerPixel; }
-    forms::Canvas& Canvas(forms::PictureBox& box) override;
+    forms::Canvas& CanvasOf(forms::PictureBox& box) override;
 
     /// The first row that its lists show: the user scrolled.
     int TopRow = 0;
@@ -50,23 +50,23 @@ public:
     /// each when its window has nothing else to do.
     void Script(Step step) { script_.push_back(std::move(step)); }
     void ForgetScript() { script_.clear(); }
-    /// Something that happens at every turn of the interface.
-    std::function<void()> OnTurn;
+    /// Something that happens at every yield to the interface.
+    std::function<void()> OnYield;
     /// A modal window is open and the script is at its end: nothing would ever close it. Unless set, the
     /// process is aborted with a message.
     std::function<void(const forms::Form&)> OnStuck;
 
-    /// No turn is ever due, so that a long run is not slowed down by an interface that nobody sees.
-    bool SkipsTurns = false;
+    /// No yield is ever due, so that a long run is not slowed down by an interface that nobody sees.
+    bool SkipsYields = false;
 
-    int Turns() const { return turns_; }
+    int Yields() const { return yields_; }
     /// The topmost modal window, none while the main window has the user.
     forms::Form* OpenDialog() const { return dialogs_.empty() ? nullptr : dialogs_.back(); }
 
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
-    bool TurnIsDue() const override { return !SkipsTurns; }
+    bool YieldIsDue() const override { return !SkipsYields; }
 
 private:
     void PlayScript(forms::Form& form);
@@ -75,7 +75,7 @@ private:
     ManualClock& clock_;
     std::deque<Step> script_;
     std::vector<forms::Form*> dialogs_;
-    int turns_ = 0;
+    int yields_ = 0;
 };
 
 }  // namespace halvenmoor::headless

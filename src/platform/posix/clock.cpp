@@ -2,9 +2,9 @@
 
 #include <time.h>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
-double DiskClock::TimeOfDay() {
+double SystemClock::TimeOfDay() {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     tm local{};
@@ -13,4 +13,4 @@ double DiskClock::TimeOfDay() {
     return seconds + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

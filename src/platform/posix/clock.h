@@ -2,12 +2,12 @@
 
 #include "platform/services.h"
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// The local time of day.
-class DiskClock : public platform::Clock {
+class SystemClock : public platform::Clock {
 public:
     double TimeOfDay() override;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

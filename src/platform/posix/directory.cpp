@@ -5,7 +5,7 @@
 #include <string_view>
 #include <sys/stat.h>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 Directory::Directory(FileDescriptor folder) : stream_(::fdopendir(folder.Get())) {
     if (!stream_) throw SystemFailure(errno);
@@ -30,4 +30,4 @@ bool Directory::IsFolder(const dirent& entry) const {
     return ::fstatat(::dirfd(stream_.get()), entry.d_name, &info, 0) == 0 && S_ISDIR(info.st_mode);
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -5,7 +5,7 @@
 #include <dirent.h>
 #include <memory>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// A walk over the entries of a folder.
 class Directory {
@@ -27,4 +27,4 @@ private:
     std::unique_ptr<DIR, Closer> stream_;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
 /// A folder by its descriptor, so that it stays the same one whatever happens to its path.
@@ -58,7 +58,8 @@ public:
     }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
-        return std::make_unique<DiskTextWriter>(OpenForWriting(finder_.FindPlace(path), WriteMode::Replace));
+        return std::make_unique<DiskTextWriter>(
+            OpenForWriting(finder_.FindForWriting(path), WriteMode::Replace));
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
@@ -79,4 +80,4 @@ std::unique_ptr<platform::FileSystemObject> DiskFileSystem::CreateFileSystemObje
     return std::make_unique<DiskFileSystemObject>(finder_);
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// The file-system objects of the real disk. The finder must outlive them.
 class DiskFileSystem : public platform::FileSystem {
@@ -18,4 +18,4 @@ private:
     PathFinder& finder_;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

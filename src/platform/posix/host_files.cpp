@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
 bool IsHidden(std::string_view name) {
@@ -48,12 +48,12 @@ std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view 
 
 void DiskHostFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     const std::string from = finder_.Find(oldPath);
-    const std::string to = finder_.FindPlace(newPath);
+    const std::string to = finder_.FindForWriting(newPath);
     if (::renameat2(AT_FDCWD, SystemPath(from), AT_FDCWD, SystemPath(to), RENAME_NOREPLACE) == 0) return;
-    const bool canTellItself = errno != EINVAL && errno != ENOSYS;
-    if (canTellItself) throw SystemFailure(errno);
+    const bool isSupported = errno != EINVAL && errno != ENOSYS;
+    if (isSupported) throw SystemFailure(errno);
     if (EntryExists(to)) throw SystemFailure(EEXIST);
     if (::rename(SystemPath(from), SystemPath(to)) != 0) throw SystemFailure(errno);
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string_view>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// Search, reading by bytes and rename on the real disk. The finder must outlive it.
 class DiskHostFiles : public platform::HostFiles {
@@ -26,4 +26,4 @@ private:
     PathFinder& finder_;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -7,7 +7,7 @@
 #include <locale.h>
 #include <utility>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
 /// The language that the environment sets for characters, by the rules of POSIX.
@@ -29,13 +29,13 @@ std::string EnvironmentDecimalSeparator() {
 
 }  // namespace
 
-DiskLocale::DiskLocale(std::string_view languageTag, std::string decimalSeparator)
+SystemLocale::SystemLocale(std::string_view languageTag, std::string decimalSeparator)
     : page_(text::WindowsCodePage(text::WindowsCodePageForLanguage(languageTag))),
       decimalSeparator_(std::move(decimalSeparator)) {
 }
 
-DiskLocale DiskLocale::FromEnvironment() {
-    return DiskLocale(EnvironmentLanguage(), EnvironmentDecimalSeparator());
+SystemLocale SystemLocale::FromEnvironment() {
+    return SystemLocale(EnvironmentLanguage(), EnvironmentDecimalSeparator());
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

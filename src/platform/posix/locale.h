@@ -5,16 +5,16 @@
 #include <string>
 #include <string_view>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// Regional settings of a system whose own texts are UTF-8.
-class DiskLocale : public platform::Locale {
+class SystemLocale : public platform::Locale {
 public:
     /// A language such as "de_DE.UTF-8", and one character in UTF-8.
-    DiskLocale(std::string_view languageTag, std::string decimalSeparator);
+    SystemLocale(std::string_view languageTag, std::string decimalSeparator);
 
     /// The settings that the environment asks for; the locale of the C library is left alone.
-    static DiskLocale FromEnvironment();
+    static SystemLocale FromEnvironment();
 
     const text::CodePage& CodePage() const override { return page_; }
     std::string DecimalSeparator() const override { return decimalSeparator_; }
@@ -25,4 +25,4 @@ private:
     std::string decimalSeparator_;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

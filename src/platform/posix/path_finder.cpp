@@ -8,12 +8,12 @@
 #include <ctime>
 #include <sys/stat.h>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
 // File systems keep times in steps of up to this many seconds: a folder that was changed so shortly before
 // its scan may change again without a new time.
-constexpr std::int64_t coarsestTimeStep = 2;
+constexpr std::int64_t kMaxTimeStep = 2;
 
 std::string Join(const std::string& folder, std::string_view name) {
     std::string path = folder;
@@ -38,7 +38,7 @@ std::string PathFinder::Find(std::string_view path) {
     return found.empty() ? given : Join(folder, found);
 }
 
-std::string PathFinder::FindPlace(std::string_view path) {
+std::string PathFinder::FindForWriting(std::string_view path) {
     const std::size_t slash = path.rfind('/');
     if (slash == std::string_view::npos || slash == 0) return std::string(path);
     return Join(Find(path.substr(0, slash)), path.substr(slash + 1));
@@ -72,10 +72,10 @@ void PathFinder::Scan(const std::string& folder, Index& index) const {
                 index.names.try_emplace(text::FoldedKey(entry->d_name, page_), entry->d_name);
             if (!isNew && entry->d_name < known->second) known->second = entry->d_name;
         }
-        index.isTrusted = now - index.stamp.seconds >= coarsestTimeStep;
+        index.isTrusted = now - index.stamp.seconds >= kMaxTimeStep;
     } catch (const Failure&) {
         // A folder that cannot be listed still has the entries whose exact names are known.
     }
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

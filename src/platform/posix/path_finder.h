@@ -7,7 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// Finds files and folders without regard to the letter case of their paths: part by part, the exact name
 /// first, then of the names that are equal ignoring case the one with the smallest bytes. The names of each
@@ -24,7 +24,7 @@ public:
     /// end.
     std::string Find(std::string_view path);
     /// The path at which a new entry is to be made: its folder as it is on the disk, its own name as given.
-    std::string FindPlace(std::string_view path);
+    std::string FindForWriting(std::string_view path);
 
 private:
     /// What tells whether a folder has changed.
@@ -52,4 +52,4 @@ private:
     std::unordered_map<std::string, Index> indexes_;
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

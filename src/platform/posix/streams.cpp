@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cerrno>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -73,10 +73,10 @@ std::string_view DiskTextReader::ReadLine() {
 /// Reads on, at the start of the file behind its byte-order mark. False when that gives nothing more.
 bool DiskTextReader::Fill() {
     if (isStarted_) return input_.Fill();
-    while (input_.Unread().size() < byteOrderMark.size() && input_.Fill()) {
+    while (input_.Unread().size() < kByteOrderMark.size() && input_.Fill()) {
     }
     isStarted_ = true;
-    if (input_.Unread().starts_with(byteOrderMark)) input_.Take(byteOrderMark.size());
+    if (input_.Unread().starts_with(kByteOrderMark)) input_.Take(kByteOrderMark.size());
     return !input_.Unread().empty() || input_.Fill();
 }
 
@@ -112,10 +112,10 @@ void DiskTextWriter::Close() {
 }
 
 void DiskTextWriter::AppendPiecewise(std::string_view bytes) {
-    while (bytes.size() > Room()) {
-        const std::size_t room = Room();
-        Append(bytes.substr(0, room));
-        bytes.remove_prefix(room);
+    while (bytes.size() > Free()) {
+        const std::size_t free = Free();
+        Append(bytes.substr(0, free));
+        bytes.remove_prefix(free);
         Flush();
         ThrowIfFailed();
     }
@@ -127,4 +127,4 @@ void DiskTextWriter::Flush() noexcept {
     size_ = 0;
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

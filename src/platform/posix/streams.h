@@ -12,7 +12,7 @@
 #include <string_view>
 #include <utility>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// What streams read and write at once, in bytes.
 inline constexpr std::size_t kBufferSize = 64 * 1024;
@@ -26,7 +26,7 @@ public:
     std::string_view Unread() const { return {buffer_.get() + begin_, end_ - begin_}; }
     /// Takes so many of the unread bytes.
     void Take(std::size_t count) { begin_ += count; }
-    /// Reads on behind the unread bytes, with room for at least one more. False at the end of the file.
+    /// Reads on behind the unread bytes, with space for at least one more. False at the end of the file.
     bool Fill();
     /// Drops what is unread. Later reading fails.
     void Close();
@@ -80,7 +80,7 @@ public:
 
 private:
     void Append(std::string_view bytes) {
-        if (bytes.size() > Room()) return AppendPiecewise(bytes);
+        if (bytes.size() > Free()) return AppendPiecewise(bytes);
         char* const end = buffer_.get() + size_;
         if (bytes.size() <= sizeof(text::Word)) {
             text::Store(text::LoadShort(bytes), end);  // most parts of a line
@@ -89,7 +89,7 @@ private:
         }
         size_ += bytes.size();
     }
-    std::size_t Room() const { return kBufferSize - size_; }
+    std::size_t Free() const { return kBufferSize - size_; }
     void AppendPiecewise(std::string_view bytes);
     void Flush() noexcept;
     void ThrowIfFailed() const {
@@ -102,4 +102,4 @@ private:
     int error_ = 0;  // of the first write that failed; nothing is written after it
 };
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

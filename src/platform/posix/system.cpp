@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 namespace {
 
 struct ErrorMeaning {
@@ -16,7 +16,7 @@ struct ErrorMeaning {
     const char* description;
 };
 
-constexpr ErrorMeaning errorMeanings[] = {
+constexpr ErrorMeaning kErrorMeanings[] = {
     {ENOENT, failure::FileNotFound, "File not found"},
     {EACCES, failure::PermissionDenied, "Permission denied"},
     {EPERM, failure::PermissionDenied, "Permission denied"},
@@ -42,10 +42,10 @@ auto Uninterrupted(Call call) {
 }
 
 FileDescriptor Open(int base, const std::string& path, int flags, int errorWhenMissing = ENOENT) {
-    constexpr mode_t readableAndWritable = 0666;  // less what the user's mask takes away
-    constexpr int always = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    FileDescriptor file(
-        Uninterrupted([&] { return ::openat(base, SystemPath(path), flags | always, readableAndWritable); }));
+    constexpr mode_t kReadableAndWritable = 0666;  // less what the user's mask takes away
+    constexpr int kAlways = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    FileDescriptor file(Uninterrupted(
+        [&] { return ::openat(base, SystemPath(path), flags | kAlways, kReadableAndWritable); }));
     if (!file.IsOpen()) throw SystemFailure(errno == ENOENT ? errorWhenMissing : errno);
     return file;
 }
@@ -53,9 +53,9 @@ FileDescriptor Open(int base, const std::string& path, int flags, int errorWhenM
 }  // namespace
 
 Failure SystemFailure(int error) {
-    const auto* meaning = std::find_if(std::begin(errorMeanings), std::end(errorMeanings),
+    const auto* meaning = std::find_if(std::begin(kErrorMeanings), std::end(kErrorMeanings),
                                        [error](const ErrorMeaning& known) { return known.error == error; });
-    if (meaning == std::end(errorMeanings)) return {failure::FileAccess, "Device I/O error"};
+    if (meaning == std::end(kErrorMeanings)) return {failure::FileAccess, "Device I/O error"};
     return {meaning->number, meaning->description};
 }
 
@@ -124,4 +124,4 @@ FileDescriptor OpenFolder(const FileDescriptor& folder) {
     return Open(folder.Get(), ".", O_RDONLY | O_DIRECTORY);
 }
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-namespace halvenmoor::disk {
+namespace halvenmoor::posix {
 
 /// The failure that an error number of the system stands for.
 Failure SystemFailure(int error);
@@ -67,4 +67,4 @@ FileDescriptor OpenFolder(const std::string& path);
 /// Opens an open folder once more, for a walk of its own. Throws Failure.
 FileDescriptor OpenFolder(const FileDescriptor& folder);
 
-}  // namespace halvenmoor::disk
+}  // namespace halvenmoor::posix

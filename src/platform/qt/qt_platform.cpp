@@ -10,7 +10,7 @@ QtPlatform::Arguments::Arguments(char* programName) : values{programName, nullpt
 }
 
 QtPlatform::QtPlatform(char* programName, const platform::Locale& locale)
-    : arguments(programName), qtApplication(arguments.count, arguments.values.data()), toolkit(locale) {
+    : arguments(programName), application(arguments.count, arguments.values.data()), toolkit(locale) {
     // Qt's own words, as in the file dialogs, in the language of the user's desktop.
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {

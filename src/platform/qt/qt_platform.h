@@ -26,10 +26,10 @@ struct QtPlatform {
     };
 
     Arguments arguments;
-    SafeApplication qtApplication;
+    SafeApplication application;
     QTranslator translator;
     QtToolkit toolkit;
-    QtApplication application;
+    QtProgramInfo programInfo;
     QtSettings settings;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;

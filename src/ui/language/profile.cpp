@@ -25,7 +25,7 @@ std::optional<std::string_view> HeaderName(std::string_view line) {
 
 std::string ShownValue(std::string_view bytes, const text::CodePage& codePage) {
     std::u32string characters = text::Decode(bytes, codePage);
-    if (characters.size() > kLongestProfileValue) characters.resize(kLongestProfileValue);
+    if (characters.size() > kMaxProfileValue) characters.resize(kMaxProfileValue);
     return text::EncodeUtf8(characters);
 }
 

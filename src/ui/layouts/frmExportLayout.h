@@ -17,11 +17,11 @@ public:
 
     forms::Label LabelProgress{*this,
                                {.name = "LabelProgress",
-                                .place = {480, 360, 3615, 255},
+                                .bounds = {480, 360, 3615, 255},
                                 .tab = 0,
                                 .text = "Exporting Speed Cameras..."}};
     forms::PictureBox picProgress{
-        *this, {.name = "picProgress", .place = {480, 720, 6025, 285}, .tab = 1, .bordered = true}};
+        *this, {.name = "picProgress", .bounds = {480, 720, 6025, 285}, .tab = 1, .bordered = true}};
 };
 
 }  // namespace halvenmoor

@@ -14,24 +14,24 @@ public:
     }
 
     forms::Frame FrameSelections{
-        *this, {.name = "FrameSelections", .place = {120, 240, 7695, 2175}, .tab = 5, .text = "Selections"}};
+        *this, {.name = "FrameSelections", .bounds = {120, 240, 7695, 2175}, .tab = 5, .text = "Selections"}};
     forms::Label LabelSourceName{*this,
                                  {.name = "LabelSourceName",
-                                  .place = {360, 600, 2415, 255},
+                                  .bounds = {360, 600, 2415, 255},
                                   .tab = 10,
                                   .text = "Source Folder",
                                   .frame = &FrameSelections,
                                   .centred = true}};
     forms::Label LabelTargetName{*this,
                                  {.name = "LabelTargetName",
-                                  .place = {4920, 600, 2415, 255},
+                                  .bounds = {4920, 600, 2415, 255},
                                   .tab = 11,
                                   .text = "Target Folder",
                                   .frame = &FrameSelections,
                                   .centred = true}};
     forms::Label LabelSourceFolder{*this,
                                    {.name = "LabelSourceFolder",
-                                    .place = {600, 960, 1935, 255},
+                                    .bounds = {600, 960, 1935, 255},
                                     .tab = 8,
                                     .text = ".\\import\\xxx\\*.ov2",
                                     .frame = &FrameSelections,
@@ -39,7 +39,7 @@ public:
                                     .bordered = true}};
     forms::Label LabelTargetFolder{*this,
                                    {.name = "LabelTargetFolder",
-                                    .place = {5160, 960, 1935, 255},
+                                    .bounds = {5160, 960, 1935, 255},
                                     .tab = 9,
                                     .text = ".\\xxx\\*.asc",
                                     .frame = &FrameSelections,
@@ -47,21 +47,21 @@ public:
                                     .bordered = true}};
     forms::Label LabelSourceFiles{*this,
                                   {.name = "LabelSourceFiles",
-                                   .place = {360, 1440, 2415, 255},
+                                   .bounds = {360, 1440, 2415, 255},
                                    .tab = 12,
                                    .text = "0 files(s)",
                                    .frame = &FrameSelections,
                                    .centred = true}};
     forms::Label LabelTargetFiles{*this,
                                   {.name = "LabelTargetFiles",
-                                   .place = {4920, 1440, 2415, 255},
+                                   .bounds = {4920, 1440, 2415, 255},
                                    .tab = 13,
                                    .text = "0 files(s)",
                                    .frame = &FrameSelections,
                                    .centred = true}};
     forms::Label LabelAddedRecords{*this,
                                    {.name = "LabelAddedRecords",
-                                    .place = {2520, 1860, 2655, 255},
+                                    .bounds = {2520, 1860, 2655, 255},
                                     .tab = 18,
                                     .frame = &FrameSelections,
                                     .centred = true}};
@@ -70,10 +70,10 @@ public:
     forms::PictureBox PictureFinished{*this, Status("PictureFinished", 15, "finished")};
     forms::PictureBox PictureIncomplete{*this, Status("PictureIncomplete", 16, "incomplete")};
     forms::Frame FrameActions{
-        *this, {.name = "FrameActions", .place = {120, 2640, 7695, 1995}, .tab = 6, .text = "Actions"}};
+        *this, {.name = "FrameActions", .bounds = {120, 2640, 7695, 1995}, .tab = 6, .text = "Actions"}};
     forms::CheckBox CheckDelete{*this,
                                 {.name = "CheckDelete",
-                                 .place = {240, 360, 7215, 416},
+                                 .bounds = {240, 360, 7215, 416},
                                  .tab = 17,
                                  .text = "Delete any existing files in target folder, then ...",
                                  .frame = &FrameActions,
@@ -81,19 +81,19 @@ public:
     forms::ControlArray<forms::OptionButton, 1, 2> OptionSource{
         *this, [](int i) {
             return forms::Design{.name = "OptionSource",
-                                 .place = {360, 3480 + 480 * (i - 1), 7215, 416},
+                                 .bounds = {360, 3480 + 480 * (i - 1), 7215, 416},
                                  .tab = 2 + i,
                                  .text = std::string("Convert all ") + (i == 1 ? "OV2" : "Text") +
                                          " source files to Ascii and save in target folder",
                                  .on = i == 1};
         }};
     forms::CommandButton ButtonStart{
-        *this, {.name = "ButtonStart", .place = {1080, 4860, 1695, 375}, .tab = 0, .text = "Start"}};
+        *this, {.name = "ButtonStart", .bounds = {1080, 4860, 1695, 375}, .tab = 0, .text = "Start"}};
     forms::CommandButton ButtonCancel{
-        *this, {.name = "ButtonCancel", .place = {3120, 4860, 1695, 375}, .tab = 1, .text = "Cancel"}};
+        *this, {.name = "ButtonCancel", .bounds = {3120, 4860, 1695, 375}, .tab = 1, .text = "Cancel"}};
     forms::CommandButton ButtonFinish{*this,
                                       {.name = "ButtonFinish",
-                                       .place = {5160, 4860, 1695, 375},
+                                       .bounds = {5160, 4860, 1695, 375},
                                        .tab = 2,
                                        .text = "Finish",
                                        .enabled = false}};
@@ -101,7 +101,7 @@ public:
 private:
     forms::Design Status(const char* name, int tab, const char* picture, bool visible = true) {
         return {.name = name,
-                .place = {3120, 480, 1455, 1335},
+                .bounds = {3120, 480, 1455, 1335},
                 .tab = tab,
                 .frame = &FrameSelections,
                 .visible = visible,

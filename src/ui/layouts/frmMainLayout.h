@@ -13,23 +13,23 @@ public:
     explicit frmMainLayout(forms::Desktop& desktop)
         : Form(desktop, {.name = "frmMain", .title = "Halvenmoor", .width = 11910, .height = 8520}) {}
 
-    static constexpr forms::Place InRow(int type, forms::Place place) {
+    static constexpr forms::Bounds InRow(int type, forms::Bounds place) {
         return {place.left, place.top + kRowPitch * (type - 1), place.width, place.height};
     }
 
     forms::Frame FrameFileOptions{
         *this,
-        {.name = "FrameFileOptions", .place = {9240, 960, 2535, 3315}, .tab = 45, .text = "File Options"}};
+        {.name = "FrameFileOptions", .bounds = {9240, 960, 2535, 3315}, .tab = 45, .text = "File Options"}};
     forms::Frame FrameExportCameras{*this,
                                     {.name = "FrameExportCameras",
-                                     .place = {9240, 4440, 2535, 3495},
+                                     .bounds = {9240, 4440, 2535, 3495},
                                      .tab = 46,
                                      .text = "Export Cameras"}};
     forms::ControlArray<forms::Label, 1, 5> LabelTypeList{
         *this, [](int i) {
             static constexpr const char* kTexts[] = {"Fixed", "Red Speed", "Red Light", "Section", "Mobile"};
             return forms::Design{.name = "LabelTypeList",
-                                 .place = InRow(i, {150, 240, 4815, 255}),
+                                 .bounds = InRow(i, {150, 240, 4815, 255}),
                                  .tab = 38 + i,
                                  .text = "Speed Camera Type \"" + std::to_string(i) + "\"  (" +
                                          kTexts[i - 1] + (i == 3 ? " Camera)" : " Speed Camera)")};
@@ -37,7 +37,7 @@ public:
     forms::ControlArray<forms::PictureBox, 1, 5> Picture{*this, [](int i) {
                                                              return forms::Design{
                                                                  .name = "Picture",
-                                                                 .place = InRow(i, {150, 480, 1230, 1230}),
+                                                                 .bounds = InRow(i, {150, 480, 1230, 1230}),
                                                                  .tab = i == 1 ? 28 : 33 + i,
                                                                  .bordered = true,
                                                                  .picture = "type" + std::to_string(i)};
@@ -45,12 +45,12 @@ public:
     forms::ControlArray<forms::ListBox, 1, 5> TypeList{
         *this, [](int i) {
             return forms::Design{
-                .name = "TypeList", .place = InRow(i, {1440, 480, 3375, 1230}), .tab = 29 + i};
+                .name = "TypeList", .bounds = InRow(i, {1440, 480, 3375, 1230}), .tab = 29 + i};
         }};
     forms::ControlArray<forms::CheckBox, 1, 5> CheckAuto{*this, [](int i) {
                                                              return forms::Design{
                                                                  .name = "CheckAuto",
-                                                                 .place = InRow(i, {4920, 540, 795, 255}),
+                                                                 .bounds = InRow(i, {4920, 540, 795, 255}),
                                                                  .tab = 9 + 3 * i,
                                                                  .text = "Auto",
                                                                  .on = true};
@@ -58,7 +58,7 @@ public:
     forms::ControlArray<forms::CommandButton, 1, 5> ButtonAdd{
         *this, [](int i) {
             return forms::Design{.name = "ButtonAdd",
-                                 .place = InRow(i, {4860, 840, 855, 375}),
+                                 .bounds = InRow(i, {4860, 840, 855, 375}),
                                  .tab = 10 + 3 * i,
                                  .glyph = forms::Glyph::TriangleLeft,
                                  .altDigit = static_cast<char>('0' + i)};
@@ -66,55 +66,55 @@ public:
     forms::ControlArray<forms::CommandButton, 1, 5> ButtonRemove{
         *this, [](int i) {
             return forms::Design{.name = "ButtonRemove",
-                                 .place = InRow(i, {4860, 1305, 855, 375}),
+                                 .bounds = InRow(i, {4860, 1305, 855, 375}),
                                  .tab = 11 + 3 * i,
                                  .glyph = forms::Glyph::TriangleRight,
                                  .altDigit = i == 1 ? '0' : '\0'};
         }};
     forms::Label LabelMainList{*this,
                                {.name = "LabelMainList",
-                                .place = {5760, 240, 3375, 255},
+                                .bounds = {5760, 240, 3375, 255},
                                 .tab = 44,
                                 .text = "Speed Camera Files  (Unclassified)"}};
-    forms::ListBox MainList{*this, {.name = "MainList", .place = {5760, 480, 3375, 7470}, .tab = 29}};
+    forms::ListBox MainList{*this, {.name = "MainList", .bounds = {5760, 480, 3375, 7470}, .tab = 29}};
     forms::Label LabelSelectLanguage{*this,
                                      {.name = "LabelSelectLanguage",
-                                      .place = {9240, 240, 2535, 255},
+                                      .bounds = {9240, 240, 2535, 255},
                                       .tab = 47,
                                       .text = "Select Language"}};
     forms::ComboBox LanguageList{*this,
                                  {.name = "LanguageList",
-                                  .place = {9240, 480, 2535, 315},
+                                  .bounds = {9240, 480, 2535, 315},
                                   .tab = 27,
                                   .text = "Language",
                                   .label = &LabelSelectLanguage}};
     forms::CommandButton ButtonClassifyFiles{*this,
                                              {.name = "ButtonClassifyFiles",
-                                              .place = {9360, 1320, 2295, 375},
+                                              .bounds = {9360, 1320, 2295, 375},
                                               .tab = 0,
                                               .text = "Classify Files",
                                               .enabled = false}};
     forms::CommandButton ButtonReloadFiles{
         *this,
-        {.name = "ButtonReloadFiles", .place = {9360, 1920, 2295, 375}, .tab = 1, .text = "Reload Files"}};
+        {.name = "ButtonReloadFiles", .bounds = {9360, 1920, 2295, 375}, .tab = 1, .text = "Reload Files"}};
     forms::CommandButton ButtonRenameFile{*this,
                                           {.name = "ButtonRenameFile",
-                                           .place = {9360, 2520, 2295, 375},
+                                           .bounds = {9360, 2520, 2295, 375},
                                            .tab = 2,
                                            .text = "Rename File",
                                            .enabled = false}};
     forms::CommandButton ButtonImportFiles{
         *this,
-        {.name = "ButtonImportFiles", .place = {9360, 3120, 2295, 375}, .tab = 3, .text = "Import Files"}};
+        {.name = "ButtonImportFiles", .bounds = {9360, 3120, 2295, 375}, .tab = 3, .text = "Import Files"}};
     forms::CheckBox CheckDemoMode{*this,
                                   {.name = "CheckDemoMode",
-                                   .place = {9360, 3660, 2295, 390},
+                                   .bounds = {9360, 3660, 2295, 390},
                                    .tab = 4,
                                    .text = "Demonstration mode",
                                    .on = true}};
     forms::CommandButton ButtonExportCameras{*this,
                                              {.name = "ButtonExportCameras",
-                                              .place = {9360, 4800, 2295, 375},
+                                              .bounds = {9360, 4800, 2295, 375},
                                               .tab = 5,
                                               .text = "Export",
                                               .enabled = false}};
@@ -122,26 +122,26 @@ public:
         *this, [](int i) {
             static constexpr const char* kTexts[] = {"Replace File", "Save File As...", "Append To File..."};
             return forms::Design{.name = "OptionExportMode",
-                                 .place = {9360, 5340 + 480 * (i - 1), 2295, 390},
+                                 .bounds = {9360, 5340 + 480 * (i - 1), 2295, 390},
                                  .tab = 5 + i,
                                  .text = kTexts[i - 1],
                                  .on = i == 1};
         }};
     forms::CheckBox CheckSaveResults{*this,
                                      {.name = "CheckSaveResults",
-                                      .place = {9360, 6780, 2295, 390},
+                                      .bounds = {9360, 6780, 2295, 390},
                                       .tab = 9,
                                       .text = "Save results to file ",
                                       .on = true}};
     forms::CommandButton ButtonShowResults{*this,
                                            {.name = "ButtonShowResults",
-                                            .place = {9360, 7320, 2295, 375},
+                                            .bounds = {9360, 7320, 2295, 375},
                                             .tab = 10,
                                             .text = "Show Results",
                                             .enabled = false}};
     forms::CommandButton ButtonExitApplication{
         *this,
-        {.name = "ButtonExitApplication", .place = {9660, 8040, 1695, 375}, .tab = 11, .text = "Exit"}};
+        {.name = "ButtonExitApplication", .bounds = {9660, 8040, 1695, 375}, .tab = 11, .text = "Exit"}};
 };
 
 }  // namespace halvenmoor

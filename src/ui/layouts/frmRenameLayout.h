@@ -20,15 +20,15 @@ public:
     }
 
     forms::TextBox TextFileName{
-        *this, {.name = "TextFileName", .place = {60, 120, 3375, 285}, .tab = 0, .text = "File Name"}};
+        *this, {.name = "TextFileName", .bounds = {60, 120, 3375, 285}, .tab = 0, .text = "File Name"}};
     forms::CommandButton ButtonRename{
         *this,
-        {.name = "ButtonRename", .place = {1620, 480, 855, 315}, .tab = 1, .glyph = forms::Glyph::Tick}};
+        {.name = "ButtonRename", .bounds = {1620, 480, 855, 315}, .tab = 1, .glyph = forms::Glyph::Tick}};
     forms::CommandButton ButtonCancel{
         *this,
-        {.name = "ButtonCancel", .place = {2580, 480, 855, 315}, .tab = 2, .glyph = forms::Glyph::Cross}};
+        {.name = "ButtonCancel", .bounds = {2580, 480, 855, 315}, .tab = 2, .glyph = forms::Glyph::Cross}};
     forms::PictureBox PicBox{*this,
-                             {.name = "PicBox", .place = {120, 600, 135, 135}, .tab = 3, .visible = false}};
+                             {.name = "PicBox", .bounds = {120, 600, 135, 135}, .tab = 3, .visible = false}};
 };
 
 }  // namespace halvenmoor

@@ -16,53 +16,53 @@ public:
 
     forms::Frame FrameMain{*this,
                            {.name = "FrameMain",
-                            .place = {60, 240, 8835, 6495},
+                            .bounds = {60, 240, 8835, 6495},
                             .tab = 32,
                             .text = "Exported Speed Camera Results"}};
     forms::Label LabelTitleProcessed{*this,
                                      {.name = "LabelTitleProcessed",
-                                      .place = {2940, 420, 1935, 416},
+                                      .bounds = {2940, 420, 1935, 416},
                                       .tab = 35,
                                       .text = "Files Processed",
                                       .frame = &FrameMain,
                                       .centred = true}};
     forms::Label LabelTitleExported{*this,
                                     {.name = "LabelTitleExported",
-                                     .place = {4860, 420, 1935, 416},
+                                     .bounds = {4860, 420, 1935, 416},
                                      .tab = 34,
                                      .text = "Exported Cameras",
                                      .frame = &FrameMain,
                                      .centred = true}};
     forms::Label LabelTitleSkipped{*this,
                                    {.name = "LabelTitleSkipped",
-                                    .place = {6780, 420, 1935, 416},
+                                    .bounds = {6780, 420, 1935, 416},
                                     .tab = 33,
                                     .text = "Skipped Cameras",
                                     .frame = &FrameMain,
                                     .centred = true}};
-    forms::ControlArray<forms::Frame, 1, 5> FrameType{*this, [](int i) {
-                                                          return forms::Design{
-                                                              .name = "FrameType",
-                                                              .place = {180, 1080 + 840 * (i - 1), 8595, 615},
-                                                              .tab = i == 1 ? 0 : i,
-                                                              .text = "Type " + std::to_string(i)};
-                                                      }};
-    forms::ControlArray<forms::Label, 1, 5> LabelType{*this, [this](int i) {
-                                                          static constexpr const char* kTexts[] = {
-                                                              "Fixed Speed Cameras", "Red Speed Cameras",
-                                                              "Red Light Cameras", "Section Speed Cameras",
-                                                              "Mobile Speed Cameras"};
-                                                          return forms::Design{.name = "LabelType",
-                                                                               .place = {120, 240, 3195, 255},
-                                                                               .tab = i == 1 ? 1 : 4 + i,
-                                                                               .text = kTexts[i - 1],
-                                                                               .frame = &FrameType[i]};
-                                                      }};
+    forms::ControlArray<forms::Frame, 1, 5> FrameType{
+        *this, [](int i) {
+            return forms::Design{.name = "FrameType",
+                                 .bounds = {180, 1080 + 840 * (i - 1), 8595, 615},
+                                 .tab = i == 1 ? 0 : i,
+                                 .text = "Type " + std::to_string(i)};
+        }};
+    forms::ControlArray<forms::Label, 1, 5> LabelType{
+        *this, [this](int i) {
+            static constexpr const char* kTexts[] = {"Fixed Speed Cameras", "Red Speed Cameras",
+                                                     "Red Light Cameras", "Section Speed Cameras",
+                                                     "Mobile Speed Cameras"};
+            return forms::Design{.name = "LabelType",
+                                 .bounds = {120, 240, 3195, 255},
+                                 .tab = i == 1 ? 1 : 4 + i,
+                                 .text = kTexts[i - 1],
+                                 .frame = &FrameType[i]};
+        }};
     forms::Frame FrameAllTypes{
-        *this, {.name = "FrameAllTypes", .place = {180, 5280, 8595, 615}, .tab = 10, .text = "All Types"}};
+        *this, {.name = "FrameAllTypes", .bounds = {180, 5280, 8595, 615}, .tab = 10, .text = "All Types"}};
     forms::Label LabelTotals{*this,
                              {.name = "LabelTotals",
-                              .place = {120, 240, 3195, 255},
+                              .bounds = {120, 240, 3195, 255},
                               .tab = 11,
                               .text = "Total Files and Cameras",
                               .frame = &FrameAllTypes}};
@@ -73,10 +73,10 @@ public:
     forms::ControlArray<forms::Label, 0, 5> LabelSkippedResult{
         *this, [this](int i) { return Result("LabelSkippedResult", i, 7200, 24 + i); }};
     forms::CommandButton ButtonCloseResults{
-        *this, {.name = "ButtonCloseResults", .place = {3630, 6120, 1695, 375}, .tab = 30, .text = "Close"}};
+        *this, {.name = "ButtonCloseResults", .bounds = {3630, 6120, 1695, 375}, .tab = 30, .text = "Close"}};
     forms::CheckBox CheckShowResults{*this,
                                      {.name = "CheckShowResults",
-                                      .place = {180, 6840, 8595, 255},
+                                      .bounds = {180, 6840, 8595, 255},
                                       .tab = 31,
                                       .text = "Show results summary after exporting speed cameras",
                                       .on = true}};
@@ -84,7 +84,7 @@ public:
 private:
     forms::Design Result(const char* name, int i, forms::Twips left, int tab) {
         return {.name = name,
-                .place = {left, 240, 975, 255},
+                .bounds = {left, 240, 975, 255},
                 .tab = tab,
                 .text = "0",
                 .frame = i == 0 ? &FrameAllTypes : &FrameType[i],

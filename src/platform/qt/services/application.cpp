@@ -37,14 +37,14 @@ void PreferX11() {
     if (hasBoth && !qEnvironmentVariableIsSet(kPlatformVariable)) qputenv(kPlatformVariable, "xcb;wayland");
 }
 
-QtApplication::QtApplication(const QString& runtimeFolder) : guard_(runtimeFolder) {
+QtProgramInfo::QtProgramInfo(const QString& runtimeFolder) : guard_(runtimeFolder) {
     guard_.OnRaise = [](const QByteArray& token) {
         if (!token.isEmpty()) qputenv(kTokenVariable, token);  // where Qt looks for it
         RaiseWindows();
     };
 }
 
-std::string QtApplication::ProgramFolder() const {
+std::string QtProgramInfo::ProgramFolder() const {
     // Qt's own answer is text and loses bytes that are not UTF-8.
     std::error_code error;
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
@@ -52,11 +52,11 @@ std::string QtApplication::ProgramFolder() const {
     return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
 }
 
-platform::Version QtApplication::Version() const {
+platform::ProgramVersion QtProgramInfo::Version() const {
     return kVersion;
 }
 
-platform::ScreenSize QtApplication::Screen() const {
+platform::ScreenSize QtProgramInfo::Screen() const {
     const QSize size = QGuiApplication::primaryScreen()->size();
     return {size.width(), size.height()};
 }

@@ -21,16 +21,16 @@ public:
 /// there a window can say where it wants to be. A choice of the user's own is left alone.
 void PreferX11();
 
-class QtApplication : public platform::Application {
+class QtProgramInfo : public platform::ProgramInfo {
 public:
     /// The folder is for the instance guard.
-    explicit QtApplication(const QString& runtimeFolder = InstanceGuard::RuntimeFolder());
+    explicit QtProgramInfo(const QString& runtimeFolder = InstanceGuard::RuntimeFolder());
 
     bool PreviousInstance() override { return !guard_.IsFirst(); }
     void ActivatePreviousInstance() override { guard_.RaiseOther(); }
     std::string ProgramFolder() const override;
     char Separator() const override { return '/'; }
-    platform::Version Version() const override;
+    platform::ProgramVersion Version() const override;
     platform::ScreenSize Screen() const override;
 
 private:

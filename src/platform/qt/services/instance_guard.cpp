@@ -14,9 +14,9 @@ namespace {
 
 // What a later instance sends: the word, a blank, the token, a line end.
 constexpr char kRaise[] = "raise ";
-constexpr qint64 kLongestMessage = 1024;
+constexpr qint64 kMaxMessage = 1024;
 constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
-constexpr int kPatienceMilliseconds = 1000;
+constexpr int kTimeoutMilliseconds = 1000;
 
 QString SocketPath(const QString& folder) {
     return folder + QStringLiteral("/halvenmoor.socket");
@@ -59,7 +59,8 @@ void InstanceGuard::Listen() {
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
         while (QLocalSocket* const guest = server_.nextPendingConnection()) {
             QObject::connect(guest, &QLocalSocket::disconnected, guest, &QObject::deleteLater);
-            QObject::connect(guest, &QLocalSocket::readyRead, guest, [this, guest] { Greet(*guest); });
+            QObject::connect(guest, &QLocalSocket::readyRead, guest,
+                             [this, guest] { HandleMessage(*guest); });
         }
     });
     QLocalServer::removeServer(SocketPath(folder_));  // left behind by an instance that crashed
@@ -70,12 +71,12 @@ void InstanceGuard::Listen() {
     ::umask(before);
 }
 
-void InstanceGuard::Greet(QLocalSocket& guest) {
+void InstanceGuard::HandleMessage(QLocalSocket& guest) {
     if (!guest.canReadLine()) {
-        if (guest.bytesAvailable() > kLongestMessage) guest.abort();
+        if (guest.bytesAvailable() > kMaxMessage) guest.abort();
         return;
     }
-    QByteArray message = guest.readLine(kLongestMessage);
+    QByteArray message = guest.readLine(kMaxMessage);
     guest.disconnectFromServer();
     if (!message.startsWith(kRaise) || !message.endsWith('\n') || !OnRaise) return;
     OnRaise(message.mid(static_cast<qsizetype>(sizeof kRaise) - 1).trimmed());
@@ -84,9 +85,9 @@ void InstanceGuard::Greet(QLocalSocket& guest) {
 void InstanceGuard::RaiseOther() const {
     QLocalSocket other;
     other.connectToServer(SocketPath(folder_));
-    if (!other.waitForConnected(kPatienceMilliseconds)) return;
+    if (!other.waitForConnected(kTimeoutMilliseconds)) return;
     other.write(kRaise + qgetenv(kTokenVariable) + '\n');
-    other.waitForBytesWritten(kPatienceMilliseconds);
+    other.waitForBytesWritten(kTimeoutMilliseconds);
     other.disconnectFromServer();
 }
 

@@ -31,7 +31,7 @@ public:
 private:
     bool Lock();
     void Listen();
-    void Greet(QLocalSocket& guest);
+    void HandleMessage(QLocalSocket& guest);
 
     QString folder_;
     std::optional<bool> isFirst_;

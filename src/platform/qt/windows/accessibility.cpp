@@ -12,7 +12,7 @@ namespace {
 
 /// Nothing for any other object: Qt knows its own widgets.
 QAccessibleInterface* Describe(const QString&, QObject* object) {
-    if (auto* const picture = dynamic_cast<PictureWidget*>(object))
+    if (auto* const picture = dynamic_cast<PictureBoxWidget*>(object))
         return new QAccessibleWidget(picture, QAccessible::Graphic);
     if (auto* const window = dynamic_cast<FormWindow*>(object))
         return new QAccessibleWidget(window, window->isModal() ? QAccessible::Dialog : QAccessible::Window);

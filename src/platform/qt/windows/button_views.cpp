@@ -37,7 +37,7 @@ bool IsFilled(forms::Glyph glyph) {
 
 }  // namespace
 
-QRect GlyphButton::CaptionRoom() const {
+QRect GlyphButton::CaptionRect() const {
     QStyleOptionButton option;
     initStyleOption(&option);
     constexpr int kGap = 3;  // between the words and the border
@@ -64,7 +64,7 @@ void GlyphButton::paintEvent(QPaintEvent* event) {
 }
 
 template <class Base>
-QRect WrappingToggle<Base>::CaptionRoom() const {
+QRect WrappingToggle<Base>::CaptionRect() const {
     QStyleOptionButton option;
     this->initStyleOption(&option);
     return this->style()->subElementRect(
@@ -81,7 +81,7 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
 
     QStylePainter painter(this);
     painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
-    const QRect contents = CaptionRoom();
+    const QRect contents = CaptionRect();
     const int flags =
         static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
     painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
@@ -113,7 +113,7 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
 
 void CommandButtonView::ShowState() {
     if (Control().AtDesign().glyph != forms::Glyph::None) return;
-    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextSingleLine)));
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextSingleLine)));
 }
 
 CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::CodePage& page)
@@ -125,7 +125,7 @@ CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::Co
 }
 
 void CheckBoxView::ShowState() {
-    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextWordWrap)));
     Widget().setChecked(Control().Value());
 }
 
@@ -138,7 +138,7 @@ OptionButtonView::OptionButtonView(forms::OptionButton& button, QWidget& parent,
 }
 
 void OptionButtonView::ShowState() {
-    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRoom().size(), Qt::TextWordWrap)));
+    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextWordWrap)));
     Widget().setAutoExclusive(false);  // a group would not let its last button go off
     Widget().setChecked(Control().Value());
     Widget().setAutoExclusive(true);

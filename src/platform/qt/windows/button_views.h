@@ -16,7 +16,7 @@ public:
 
     void SetGlyph(forms::Glyph glyph) { glyph_ = glyph; }
     /// Where the words may stand.
-    QRect CaptionRoom() const;
+    QRect CaptionRect() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -32,7 +32,7 @@ public:
     explicit WrappingToggle(QWidget* parent) : Base(parent) {}
 
     /// Where the words may stand.
-    QRect CaptionRoom() const;
+    QRect CaptionRect() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -42,7 +42,7 @@ void ImageCanvas::SetClip(const forms::PixelRect& area) {
 }
 
 void ImageCanvas::Refresh() {
-    // Painting within painting is not possible; the widget's turn comes right after.
+    // Painting within painting is not possible; the widget paints right after.
     if (widget_.window()->testAttribute(Qt::WA_WState_InPaintEvent)) {
         widget_.update();
     } else {

@@ -8,7 +8,7 @@
 
 namespace halvenmoor::qt {
 
-ComboView::ComboView(forms::ComboBox& box, QWidget& parent, const text::CodePage& page)
+ComboBoxView::ComboBoxView(forms::ComboBox& box, QWidget& parent, const text::CodePage& page)
     : ViewOf(box, parent, page) {
     Widget().setEditable(true);
     Widget().setInsertPolicy(QComboBox::NoInsert);
@@ -24,7 +24,7 @@ ComboView::ComboView(forms::ComboBox& box, QWidget& parent, const text::CodePage
     });
 }
 
-void ComboView::ShowState() {
+void ComboBoxView::ShowState() {
     if (shownItems_ != Control().ItemsVersion()) {
         QStringList items;
         for (int i = 0; i < Control().ListCount(); ++i) items << ToRow(Control().List(i), CodePage());

@@ -8,9 +8,9 @@
 namespace halvenmoor::qt {
 
 /// A choice with a text field that neither completes nor adds what is typed.
-class ComboView : public ViewOf<forms::ComboBox, QComboBox> {
+class ComboBoxView : public ViewOf<forms::ComboBox, QComboBox> {
 public:
-    ComboView(forms::ComboBox& box, QWidget& parent, const text::CodePage& page);
+    ComboBoxView(forms::ComboBox& box, QWidget& parent, const text::CodePage& page);
 
 private:
     void ShowState() override;

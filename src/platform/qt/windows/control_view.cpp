@@ -27,23 +27,23 @@ QString ToToolTip(const QString& text) {
 std::unique_ptr<ControlView> MakeByKind(forms::Control& control, QWidget& parent,
                                         const text::CodePage& page) {
     switch (control.Kind()) {
-        case forms::Kind::Label:
+        case forms::ControlKind::Label:
             return Make<LabelView>(control, parent, page);
-        case forms::Kind::Frame:
+        case forms::ControlKind::Frame:
             return Make<FrameView>(control, parent, page);
-        case forms::Kind::CommandButton:
+        case forms::ControlKind::CommandButton:
             return Make<CommandButtonView>(control, parent, page);
-        case forms::Kind::CheckBox:
+        case forms::ControlKind::CheckBox:
             return Make<CheckBoxView>(control, parent, page);
-        case forms::Kind::OptionButton:
+        case forms::ControlKind::OptionButton:
             return Make<OptionButtonView>(control, parent, page);
-        case forms::Kind::ListBox:
-            return Make<ListView>(control, parent, page);
-        case forms::Kind::ComboBox:
-            return Make<ComboView>(control, parent, page);
-        case forms::Kind::PictureBox:
-            return Make<PictureView>(control, parent, page);
-        case forms::Kind::TextBox:
+        case forms::ControlKind::ListBox:
+            return Make<ListBoxView>(control, parent, page);
+        case forms::ControlKind::ComboBox:
+            return Make<ComboBoxView>(control, parent, page);
+        case forms::ControlKind::PictureBox:
+            return Make<PictureBoxView>(control, parent, page);
+        case forms::ControlKind::TextBox:
             return Make<TextBoxView>(control, parent, page);
     }
     return nullptr;
@@ -66,9 +66,9 @@ void ControlView::Update() {
     ShowState();
 }
 
-QString ControlView::ShownCaption(const QSize& room, Qt::TextFlag lines) {
+QString ControlView::ShownCaption(const QSize& size, Qt::TextFlag lines) {
     const QString caption = ToText(control_.Caption(), page_);
-    const FittedCaption fitted = FitCaption(caption, ToFont({}), room, lines);
+    const FittedCaption fitted = FitCaption(caption, ToFont({}), size, lines);
     widget_.setFont(fitted.font);
     if (fitted.text != caption && control_.ToolTip().empty()) widget_.setToolTip(ToToolTip(caption));
     return fitted.text;
@@ -80,7 +80,7 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& p
     QWidget& widget = view->Widget();
     widget.setObjectName(QString::fromStdString(control.Name()));
     widget.setFont(ToFont({}));
-    widget.setGeometry(ToRect(control.AtDesign().place));
+    widget.setGeometry(ToRect(control.AtDesign().bounds));
     view->Update();
     return view;
 }

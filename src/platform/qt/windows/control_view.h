@@ -24,9 +24,9 @@ protected:
     ControlView(const forms::Control& control, QWidget& widget, const text::CodePage& page)
         : control_(control), widget_(widget), page_(page) {}
 
-    /// The control's caption as it fits its room, for one line or for several; the widget takes the font in
+    /// The control's caption as it fits the size, for one line or for several; the widget takes the font in
     /// which it does. What is cut off can be read in the tool tip.
-    QString ShownCaption(const QSize& room, Qt::TextFlag lines);
+    QString ShownCaption(const QSize& size, Qt::TextFlag lines);
     const text::CodePage& CodePage() const { return page_; }
 
 private:
@@ -39,20 +39,20 @@ private:
 };
 
 /// What the views of all kinds share: control and widget by their kinds. The code page outlives the view.
-template <class ControlKind, class WidgetKind>
+template <class ControlClass, class WidgetClass>
 class ViewOf : public ControlView {
 public:
-    using ControlType = ControlKind;
+    using ControlType = ControlClass;
 
-    ViewOf(ControlKind& control, QWidget& parent, const text::CodePage& page)
-        : ControlView(control, *new WidgetKind(&parent), page), control_(control) {}
+    ViewOf(ControlClass& control, QWidget& parent, const text::CodePage& page)
+        : ControlView(control, *new WidgetClass(&parent), page), control_(control) {}
 
 protected:
-    ControlKind& Control() const { return control_; }
-    WidgetKind& Widget() const { return static_cast<WidgetKind&>(ControlView::Widget()); }
+    ControlClass& Control() const { return control_; }
+    WidgetClass& Widget() const { return static_cast<WidgetClass&>(ControlView::Widget()); }
 
 private:
-    ControlKind& control_;
+    ControlClass& control_;
 };
 
 /// Builds the view that fits the control's kind. The code page outlives the view.

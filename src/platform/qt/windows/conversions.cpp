@@ -49,7 +49,7 @@ QFont ToFont(const forms::Font& font) {
     return result;
 }
 
-QRect ToRect(const forms::Place& place) {
+QRect ToRect(const forms::Bounds& place) {
     return {forms::ToPixels(place.left), forms::ToPixels(place.top), forms::ToPixels(place.width),
             forms::ToPixels(place.height)};
 }

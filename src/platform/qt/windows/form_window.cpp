@@ -66,7 +66,7 @@ void FormWindow::BuildControls() {
 void FormWindow::LowerFrames() {
     const auto& controls = form_.Controls();
     std::for_each(controls.rbegin(), controls.rend(), [this](const forms::Control* control) {
-        if (control->Kind() == forms::Kind::Frame) views_.at(control)->Widget().lower();
+        if (control->Kind() == forms::ControlKind::Frame) views_.at(control)->Widget().lower();
     });
 }
 
@@ -103,7 +103,7 @@ forms::Point FormWindow::Position() const {
     return {pos().x() * forms::kTwipsPerPixel, pos().y() * forms::kTwipsPerPixel};
 }
 
-forms::FrameMetrics FormWindow::Frame() const {
+forms::FrameMetrics FormWindow::WindowFrame() const {
     const QRect outside = frameGeometry();
     const QRect inside = geometry();
     const int frameHeight = outside.bottom() - inside.bottom();
@@ -115,15 +115,15 @@ forms::FrameMetrics FormWindow::Frame() const {
 }
 
 int FormWindow::TopIndex(const forms::ListBox& list) const {
-    return static_cast<const ListView&>(*views_.at(&list)).TopRow();
+    return static_cast<const ListBoxView&>(*views_.at(&list)).TopRow();
 }
 
 forms::Twips FormWindow::RowHeight(const forms::ListBox& list) const {
-    return static_cast<const ListView&>(*views_.at(&list)).RowHeight() * forms::kTwipsPerPixel;
+    return static_cast<const ListBoxView&>(*views_.at(&list)).RowHeight() * forms::kTwipsPerPixel;
 }
 
-forms::Canvas& FormWindow::Canvas(forms::PictureBox& box) {
-    return static_cast<PictureView&>(*views_.at(&box)).Canvas();
+forms::Canvas& FormWindow::CanvasOf(forms::PictureBox& box) {
+    return static_cast<PictureBoxView&>(*views_.at(&box)).Canvas();
 }
 
 void FormWindow::ShowFocus() {

@@ -25,10 +25,10 @@ public:
     void Update() override;
     forms::Point Position() const override;
     /// Tool windows are taken to have the caption of all others: each window manager draws its own.
-    forms::FrameMetrics Frame() const override;
+    forms::FrameMetrics WindowFrame() const override;
     int TopIndex(const forms::ListBox& list) const override;
     forms::Twips RowHeight(const forms::ListBox& list) const override;
-    forms::Canvas& Canvas(forms::PictureBox& box) override;
+    forms::Canvas& CanvasOf(forms::PictureBox& box) override;
 
     /// Called when the form has closed.
     void SetOnHidden(std::function<void()> onHidden) { onHidden_ = std::move(onHidden); }

@@ -41,7 +41,7 @@ DraggedItems::DraggedItems() {
     setData(QStringLiteral("application/x-halvenmoor-items"), "items");
 }
 
-ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
+ListBoxWidget::ListBoxWidget(QWidget* parent) : QListView(parent) {
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
@@ -51,13 +51,13 @@ ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
     setDropIndicatorShown(false);
 }
 
-void ListWidget::Join(forms::ListBox& list, const text::CodePage& page) {
+void ListBoxWidget::SetList(forms::ListBox& list, const text::CodePage& page) {
     list_ = &list;
     rows_ = new ListRows(list, page, this);
     setModel(rows_);
 }
 
-void ListWidget::ShowState() {
+void ListBoxWidget::ShowState() {
     const int top = verticalScrollBar()->value();
     if (shownItems_ != list_->ItemsVersion()) {
         rows_->Reload();
@@ -71,11 +71,11 @@ void ListWidget::ShowState() {
     selectionChanged_ = false;
 }
 
-int ListWidget::TopRow() const {
+int ListBoxWidget::TopRow() const {
     return std::max(indexAt({0, 0}).row(), 0);
 }
 
-void ListWidget::ShowSelection() {
+void ListBoxWidget::ShowSelection() {
     std::vector<int> wanted;
     for (int row = 0; row < list_->ListCount(); ++row) {
         if (list_->Selected(row)) wanted.push_back(row);
@@ -91,12 +91,12 @@ void ListWidget::ShowSelection() {
     selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
 }
 
-void ListWidget::ShowCurrentRow() {
+void ListBoxWidget::ShowCurrentRow() {
     if (currentIndex().row() == list_->ListIndex()) return;
     selectionModel()->setCurrentIndex(rows_->index(list_->ListIndex()), QItemSelectionModel::NoUpdate);
 }
 
-std::vector<int> ListWidget::SelectedRows() const {
+std::vector<int> ListBoxWidget::SelectedRows() const {
     std::vector<int> rows;
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
@@ -105,13 +105,13 @@ std::vector<int> ListWidget::SelectedRows() const {
     return rows;
 }
 
-bool ListWidget::event(QEvent* event) {
+bool ListBoxWidget::event(QEvent* event) {
     const bool handled = QListView::event(event);
     if (selectionChanged_) Report();
     return handled;
 }
 
-bool ListWidget::viewportEvent(QEvent* event) {
+bool ListBoxWidget::viewportEvent(QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) {
         const auto& mouse = static_cast<const QMouseEvent&>(*event);
@@ -127,12 +127,12 @@ bool ListWidget::viewportEvent(QEvent* event) {
     return handled;
 }
 
-void ListWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QListView::selectionChanged(selected, deselected);
     selectionChanged_ = true;
 }
 
-void ListWidget::paintEvent(QPaintEvent* event) {
+void ListBoxWidget::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
     if (!hasFocus()) return;
     // Without a current row nothing else would show where the keys go.
@@ -141,13 +141,13 @@ void ListWidget::paintEvent(QPaintEvent* event) {
     painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
-void ListWidget::Report() {
+void ListBoxWidget::Report() {
     selectionChanged_ = false;
     clickPending_ = false;
     if (!list_->UserSelect(SelectedRows(), currentIndex().row())) ShowState();
 }
 
-void ListWidget::startDrag(Qt::DropActions) {
+void ListBoxWidget::startDrag(Qt::DropActions) {
     clickPending_ = false;
     if (!list_->UserStartDrag()) return;
     auto* const drag = new QDrag(this);  // ends its own life after exec
@@ -156,34 +156,34 @@ void ListWidget::startDrag(Qt::DropActions) {
     list_->UserCompleteDrag();
 }
 
-bool ListWidget::Takes(const QDropEvent& drop) const {
+bool ListBoxWidget::Accepts(const QDropEvent& drop) const {
     const bool isOwnDrag = dynamic_cast<const DraggedItems*>(drop.mimeData()) != nullptr;
     return isOwnDrag && list_->OLEDropMode() == forms::ListBox::DropMode::Manual;
 }
 
-void ListWidget::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(Takes(*event));
+void ListBoxWidget::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(Accepts(*event));
 }
 
-void ListWidget::dragMoveEvent(QDragMoveEvent* event) {
-    event->setAccepted(Takes(*event));
+void ListBoxWidget::dragMoveEvent(QDragMoveEvent* event) {
+    event->setAccepted(Accepts(*event));
 }
 
-void ListWidget::dropEvent(QDropEvent* event) {
-    event->setAccepted(Takes(*event));
+void ListBoxWidget::dropEvent(QDropEvent* event) {
+    event->setAccepted(Accepts(*event));
     if (event->isAccepted()) list_->UserDrop();
 }
 
-void ListWidget::ShowWholeText(const QHelpEvent& event) const {
+void ListBoxWidget::ShowWholeText(const QHelpEvent& event) const {
     const QModelIndex index = indexAt(event.pos());
     const bool isCut = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
     const QString text = isCut ? index.data().toString().toHtmlEscaped() : QString();
     QToolTip::showText(event.globalPos(), isCut ? "<p style='white-space:pre'>" + text + "</p>" : text);
 }
 
-ListView::ListView(forms::ListBox& list, QWidget& parent, const text::CodePage& page)
+ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, const text::CodePage& page)
     : ViewOf(list, parent, page) {
-    Widget().Join(list, page);
+    Widget().SetList(list, page);
 }
 
 }  // namespace halvenmoor::qt

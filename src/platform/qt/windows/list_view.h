@@ -36,12 +36,12 @@ public:
     DraggedItems();
 };
 
-class ListWidget : public QListView {
+class ListBoxWidget : public QListView {
 public:
-    explicit ListWidget(QWidget* parent);
+    explicit ListBoxWidget(QWidget* parent);
 
     /// To be called once, before the widget shows.
-    void Join(forms::ListBox& list, const text::CodePage& page);
+    void SetList(forms::ListBox& list, const text::CodePage& page);
     void ShowState();
     int TopRow() const;
 
@@ -61,7 +61,7 @@ private:
     void ShowCurrentRow();
     /// Tells the list what the user selected.
     void Report();
-    bool Takes(const QDropEvent& drop) const;
+    bool Accepts(const QDropEvent& drop) const;
     /// Shows the text of a row that is cut off.
     void ShowWholeText(const QHelpEvent& event) const;
 
@@ -74,9 +74,9 @@ private:
     bool clickPending_ = false;
 };
 
-class ListView : public ViewOf<forms::ListBox, ListWidget> {
+class ListBoxView : public ViewOf<forms::ListBox, ListBoxWidget> {
 public:
-    ListView(forms::ListBox& list, QWidget& parent, const text::CodePage& page);
+    ListBoxView(forms::ListBox& list, QWidget& parent, const text::CodePage& page);
 
     int TopRow() const { return Widget().TopRow(); }
     /// In pixels; 0 where there is no row.

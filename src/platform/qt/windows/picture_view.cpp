@@ -12,18 +12,18 @@ QString PicturePath(const QString& name) {
 
 }  // namespace
 
-void PictureWidget::Load(const QString& name) {
+void PictureBoxWidget::Load(const QString& name) {
     picture_.load(PicturePath(name));
     picture_.setAspectRatioMode(Qt::KeepAspectRatio);
 }
 
-void PictureWidget::SetBordered(bool bordered) {
+void PictureBoxWidget::SetBordered(bool bordered) {
     if (bordered == bordered_) return;
     bordered_ = bordered;
     update();
 }
 
-void PictureWidget::paintEvent(QPaintEvent*) {
+void PictureBoxWidget::paintEvent(QPaintEvent*) {
     const int border = bordered_ ? 1 : 0;
     const QRect inside = rect().adjusted(border, border, -border, -border);
     QPainter painter(this);
@@ -37,19 +37,19 @@ void PictureWidget::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-PictureView::PictureView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page)
+PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page)
     : ViewOf(box, parent, page), canvas_(Widget(), page) {
     Widget().SetCanvas(canvas_);
     const std::string& picture = box.AtDesign().picture;
     if (!picture.empty()) Widget().Load(QString::fromStdString(picture));
 }
 
-forms::Canvas& PictureView::Canvas() {
+forms::Canvas& PictureBoxView::Canvas() {
     canvas_.SetBorder(Control().Bordered() ? 1 : 0);
     return canvas_;
 }
 
-void PictureView::ShowState() {
+void PictureBoxView::ShowState() {
     Widget().SetBordered(Control().Bordered());
 }
 

@@ -9,9 +9,9 @@
 namespace halvenmoor::qt {
 
 /// Shows a picture of the program or, once it was drawn on, the image of its canvas.
-class PictureWidget : public QWidget {
+class PictureBoxWidget : public QWidget {
 public:
-    explicit PictureWidget(QWidget* parent) : QWidget(parent) {}
+    explicit PictureBoxWidget(QWidget* parent) : QWidget(parent) {}
 
     /// A picture by its name, without a folder or an extension.
     void Load(const QString& name);
@@ -28,9 +28,9 @@ private:
     bool bordered_ = false;
 };
 
-class PictureView : public ViewOf<forms::PictureBox, PictureWidget> {
+class PictureBoxView : public ViewOf<forms::PictureBox, PictureBoxWidget> {
 public:
-    PictureView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page);
+    PictureBoxView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page);
 
     forms::Canvas& Canvas();
 

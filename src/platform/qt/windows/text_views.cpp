@@ -22,7 +22,7 @@ void LabelView::ShowState() {
     Widget().setText(words);
 }
 
-QRect TitledFrame::TitleRoom() const {
+QRect TitledFrame::TitleRect() const {
     return rect().adjusted(kIndent + kGap, 0, -kIndent - kGap, 0);
 }
 
@@ -30,8 +30,9 @@ void TitledFrame::paintEvent(QPaintEvent*) {
     constexpr float kBorderStrength = 0.25F;
     const int flags =
         static_cast<int>(SideOf(title()) | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextShowMnemonic;
-    const QRect room = TitleRoom();
-    const QRect words = style()->itemTextRect(fontMetrics(), room, flags, isEnabled(), title()) & room;
+    const QRect titleRect = TitleRect();
+    const QRect words =
+        style()->itemTextRect(fontMetrics(), titleRect, flags, isEnabled(), title()) & titleRect;
 
     QStylePainter painter(this);
     painter.drawItemText(words, flags, palette(), isEnabled(), title(), QPalette::WindowText);
@@ -47,7 +48,7 @@ void TitledFrame::paintEvent(QPaintEvent*) {
 }
 
 void FrameView::ShowState() {
-    Widget().setTitle(WithoutShortcut(ShownCaption(Widget().TitleRoom().size(), Qt::TextSingleLine)));
+    Widget().setTitle(WithoutShortcut(ShownCaption(Widget().TitleRect().size(), Qt::TextSingleLine)));
 }
 
 TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page)

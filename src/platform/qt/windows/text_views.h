@@ -23,7 +23,7 @@ public:
     explicit TitledFrame(QWidget* parent) : QGroupBox(parent) {}
 
     /// Where the title may stand.
-    QRect TitleRoom() const;
+    QRect TitleRect() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

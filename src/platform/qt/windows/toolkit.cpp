@@ -16,8 +16,8 @@ namespace {
 // A shorter wait is not worth a sleep, which may come back late.
 constexpr double kShortestSleep = 0.002;
 
-// Milliseconds between two turns of a loop that offers many. A click is answered within a few of these.
-constexpr qint64 kTurnInterval = 10;
+// Milliseconds between two yields of a loop that offers many. A click is answered within a few of these.
+constexpr qint64 kYieldInterval = 10;
 
 void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
     window.SetOnHidden([&loop] { loop.quit(); });
@@ -45,16 +45,16 @@ void QtToolkit::RunModal(forms::Form& form, const std::function<void()>& first) 
     starter.setSingleShot(true);
     QObject::connect(&starter, &QTimer::timeout, first);
     starter.start(0);
-    RunUntilHidden(static_cast<FormWindow&>(*form.View()), loop);
+    RunUntilHidden(static_cast<FormWindow&>(*form.GetView()), loop);
 }
 
 void QtToolkit::HandleEvents(double waitSeconds) {
     Pump(waitSeconds);
-    sinceTurn_.start();
+    sinceYield_.start();
 }
 
-bool QtToolkit::TurnIsDue() const {
-    return !sinceTurn_.isValid() || sinceTurn_.hasExpired(kTurnInterval);
+bool QtToolkit::YieldIsDue() const {
+    return !sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval);
 }
 
 void QtToolkit::Pump(double waitSeconds) {

@@ -22,7 +22,7 @@ public:
     std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
-    bool TurnIsDue() const override;
+    bool YieldIsDue() const override;
 
     /// The main loop; returns when the desktop has ended.
     void Run(forms::Desktop& desktop);
@@ -31,7 +31,7 @@ private:
     void Pump(double waitSeconds);
 
     const text::CodePage& page_;
-    QElapsedTimer sinceTurn_;
+    QElapsedTimer sinceYield_;
     QPointer<FormWindow> mainWindow_;
 };
 
