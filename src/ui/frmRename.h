@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/modMain.h"
+#include "forms/list_box.h"
 #include "ui/layouts/frmRenameLayout.h"
 
 #include <string>

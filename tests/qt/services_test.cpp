@@ -2,6 +2,7 @@
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/message_box.h"
+#include "platform/qt/services/program_info.h"
 #include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "tests/temporary_folder.h"

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "forms/combo_box.h"
 #include "forms/desktop.h"
+#include "forms/list_box.h"
 #include "platform/headless/services.h"
 #include "platform/qt/windows/form_window.h"
 #include "platform/qt/windows/toolkit.h"

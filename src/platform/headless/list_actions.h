@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/controls.h"
+#include "forms/list_box.h"
 
 #include <string>
 #include <vector>

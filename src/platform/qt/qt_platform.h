@@ -3,6 +3,7 @@
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/message_box.h"
+#include "platform/qt/services/program_info.h"
 #include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "platform/qt/windows/toolkit.h"

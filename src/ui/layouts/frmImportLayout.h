@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/control_array.h"
+#include "forms/controls.h"
 #include "forms/form.h"
 
 namespace halvenmoor {

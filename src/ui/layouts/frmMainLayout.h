@@ -1,6 +1,10 @@
 #pragma once
 
+#include "forms/combo_box.h"
+#include "forms/control_array.h"
+#include "forms/controls.h"
 #include "forms/form.h"
+#include "forms/list_box.h"
 
 namespace halvenmoor {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/controls.h"
 #include "forms/form.h"
 
 namespace halvenmoor {

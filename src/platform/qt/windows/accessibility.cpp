@@ -1,7 +1,7 @@
 #include "platform/qt/windows/accessibility.h"
 
 #include "platform/qt/windows/form_window.h"
-#include "platform/qt/windows/picture_view.h"
+#include "platform/qt/windows/picture_box_view.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -1,12 +1,16 @@
 #include "platform/qt/windows/control_view.h"
 
-#include "platform/qt/windows/button_views.h"
 #include "platform/qt/windows/caption.h"
-#include "platform/qt/windows/combo_view.h"
+#include "platform/qt/windows/check_box_view.h"
+#include "platform/qt/windows/combo_box_view.h"
+#include "platform/qt/windows/command_button_view.h"
 #include "platform/qt/windows/conversions.h"
-#include "platform/qt/windows/list_view.h"
-#include "platform/qt/windows/picture_view.h"
-#include "platform/qt/windows/text_views.h"
+#include "platform/qt/windows/frame_view.h"
+#include "platform/qt/windows/label_view.h"
+#include "platform/qt/windows/list_box_view.h"
+#include "platform/qt/windows/option_button_view.h"
+#include "platform/qt/windows/picture_box_view.h"
+#include "platform/qt/windows/text_box_view.h"
 
 #include <QTextDocument>
 

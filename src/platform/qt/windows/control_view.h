@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/text/codepage.h"
-#include "forms/controls.h"
+#include "forms/control.h"
 
 #include <QWidget>
 #include <memory>

@@ -2,8 +2,8 @@
 
 #include "platform/qt/windows/control_view.h"
 #include "platform/qt/windows/conversions.h"
-#include "platform/qt/windows/list_view.h"
-#include "platform/qt/windows/picture_view.h"
+#include "platform/qt/windows/list_box_view.h"
+#include "platform/qt/windows/picture_box_view.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,4 +1,4 @@
-#include "platform/qt/windows/combo_view.h"
+#include "platform/qt/windows/combo_box_view.h"
 
 #include "platform/qt/windows/conversions.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/controls.h"
 #include "platform/qt/windows/canvas.h"
 #include "platform/qt/windows/control_view.h"
 

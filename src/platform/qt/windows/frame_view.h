@@ -1,21 +1,11 @@
 #pragma once
 
+#include "forms/controls.h"
 #include "platform/qt/windows/control_view.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 
 namespace halvenmoor::qt {
-
-/// Plain text that breaks into lines within its place.
-class LabelView : public ViewOf<forms::Label, QLabel> {
-public:
-    LabelView(forms::Label& label, QWidget& parent, const text::CodePage& page);
-
-private:
-    void ShowState() override;
-};
 
 /// A group box whose title interrupts its border, whatever the style, so that what stands in the frame fits.
 class TitledFrame : public QGroupBox {
@@ -36,14 +26,6 @@ private:
 class FrameView : public ViewOf<forms::Frame, TitledFrame> {
 public:
     using ViewOf::ViewOf;
-
-private:
-    void ShowState() override;
-};
-
-class TextBoxView : public ViewOf<forms::TextBox, QLineEdit> {
-public:
-    TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page);
 
 private:
     void ShowState() override;

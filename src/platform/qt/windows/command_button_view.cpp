@@ -1,4 +1,4 @@
-#include "platform/qt/windows/button_views.h"
+#include "platform/qt/windows/command_button_view.h"
 
 #include "platform/qt/windows/conversions.h"
 
@@ -6,9 +6,6 @@
 #include <QPolygonF>
 #include <QShortcut>
 #include <QStyleOptionButton>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
-#include <algorithm>
 
 namespace halvenmoor::qt {
 
@@ -63,38 +60,6 @@ void GlyphButton::paintEvent(QPaintEvent* event) {
     }
 }
 
-template <class Base>
-QRect WrappingToggle<Base>::CaptionRect() const {
-    QStyleOptionButton option;
-    this->initStyleOption(&option);
-    return this->style()->subElementRect(
-        kIsCheckBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option, this);
-}
-
-template <class Base>
-void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
-    QStyleOptionButton option;
-    this->initStyleOption(&option);
-    const QString words = std::exchange(option.text, {});
-    const bool hasFocus = option.state & QStyle::State_HasFocus;
-    option.state &= ~QStyle::State_HasFocus;
-
-    QStylePainter painter(this);
-    painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
-    const QRect contents = CaptionRect();
-    const int flags =
-        static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
-    painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
-    if (!hasFocus) return;
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(option);
-    focus.rect = this->style()
-                     ->itemTextRect(option.fontMetrics, contents, flags, true, words)
-                     .adjusted(-2, -1, 2, 1)
-                     .intersected(this->rect());
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-}
-
 CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& parent,
                                      const text::CodePage& page)
     : ViewOf(button, parent, page) {
@@ -114,34 +79,6 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
 void CommandButtonView::ShowState() {
     if (Control().AtDesign().glyph != forms::Glyph::None) return;
     Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextSingleLine)));
-}
-
-CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::CodePage& page)
-    : ViewOf(box, parent, page) {
-    QObject::connect(&Widget(), &QCheckBox::clicked, [this] {
-        Control().UserPress();
-        Update();
-    });
-}
-
-void CheckBoxView::ShowState() {
-    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextWordWrap)));
-    Widget().setChecked(Control().Value());
-}
-
-OptionButtonView::OptionButtonView(forms::OptionButton& button, QWidget& parent, const text::CodePage& page)
-    : ViewOf(button, parent, page) {
-    QObject::connect(&Widget(), &QRadioButton::clicked, [this] {
-        Control().UserPress();
-        Update();
-    });
-}
-
-void OptionButtonView::ShowState() {
-    Widget().setText(WithoutShortcut(ShownCaption(Widget().CaptionRect().size(), Qt::TextWordWrap)));
-    Widget().setAutoExclusive(false);  // a group would not let its last button go off
-    Widget().setChecked(Control().Value());
-    Widget().setAutoExclusive(true);
 }
 
 }  // namespace halvenmoor::qt

@@ -1,4 +1,4 @@
-#include "platform/qt/windows/picture_view.h"
+#include "platform/qt/windows/picture_box_view.h"
 
 #include <QPainter>
 

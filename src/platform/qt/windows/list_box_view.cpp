@@ -1,4 +1,4 @@
-#include "platform/qt/windows/list_view.h"
+#include "platform/qt/windows/list_box_view.h"
 
 #include "platform/qt/windows/conversions.h"
 

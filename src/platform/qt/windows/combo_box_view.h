@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/combo_box.h"
 #include "platform/qt/windows/control_view.h"
 
 #include <QComboBox>

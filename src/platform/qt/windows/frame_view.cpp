@@ -1,4 +1,4 @@
-#include "platform/qt/windows/text_views.h"
+#include "platform/qt/windows/frame_view.h"
 
 #include "platform/qt/windows/conversions.h"
 
@@ -7,20 +7,6 @@
 #include <QStylePainter>
 
 namespace halvenmoor::qt {
-
-LabelView::LabelView(forms::Label& label, QWidget& parent, const text::CodePage& page)
-    : ViewOf(label, parent, page) {
-    Widget().setTextFormat(Qt::PlainText);
-    Widget().setWordWrap(true);
-    Widget().setIndent(0);
-    if (label.AtDesign().bordered) Widget().setFrameStyle(QFrame::Box | QFrame::Plain);
-}
-
-void LabelView::ShowState() {
-    const QString words = ShownCaption(Widget().contentsRect().size(), Qt::TextWordWrap);
-    Widget().setAlignment(Qt::AlignTop | (Control().AtDesign().centred ? Qt::AlignHCenter : SideOf(words)));
-    Widget().setText(words);
-}
 
 QRect TitledFrame::TitleRect() const {
     return rect().adjusted(kIndent + kGap, 0, -kIndent - kGap, 0);
@@ -49,20 +35,6 @@ void TitledFrame::paintEvent(QPaintEvent*) {
 
 void FrameView::ShowState() {
     Widget().setTitle(WithoutShortcut(ShownCaption(Widget().TitleRect().size(), Qt::TextSingleLine)));
-}
-
-TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page)
-    : ViewOf(box, parent, page) {
-    QObject::connect(&Widget(), &QLineEdit::textEdited, [this](const QString& text) {
-        Control().UserTyped(ToUtf8(text));
-        Update();
-    });
-}
-
-void TextBoxView::ShowState() {
-    const QString text = ToText(Control().Text(), CodePage());
-    if (text != Widget().text()) Widget().setText(text);  // setting moves the cursor
-    if (Control().TakeSelectAll()) Widget().selectAll();
 }
 
 }  // namespace halvenmoor::qt

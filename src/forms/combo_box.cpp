@@ -1,0 +1,54 @@
+#include "forms/combo_box.h"
+
+#include "forms/desktop.h"
+
+namespace halvenmoor::forms {
+
+ComboBox::ComboBox(Form& form, Design design)
+    : Control(form, ControlKind::ComboBox, std::move(design)),
+      items_(form.Owner().ListOrder()),
+      text_(AtDesign().text) {
+}
+
+void ComboBox::SetListIndex(int index) {
+    if (index == listIndex_) return;
+    text_ = index >= 0 ? List(index) : std::string();
+    listIndex_ = index;
+    Changed();
+    RaiseClick();
+}
+
+void ComboBox::AddItem(std::string text) {
+    const int place = items_.Add(std::move(text));
+    if (place <= listIndex_) ++listIndex_;
+    ++itemsVersion_;
+    Changed();
+}
+
+void ComboBox::Clear() {
+    items_.Clear();
+    listIndex_ = -1;
+    text_.clear();
+    ++itemsVersion_;
+    Changed();
+}
+
+bool ComboBox::UserChoose(int index) {
+    if (index < 0 || index >= ListCount()) return false;
+    return DeliverWithFocus([&] {
+        const bool same = index == listIndex_;
+        SetListIndex(index);
+        if (same) RaiseClick();
+    });
+}
+
+bool ComboBox::UserTyped(std::string text) {
+    return DeliverWithFocus([&] {
+        text_ = std::move(text);
+        listIndex_ = -1;
+        Changed();
+        Desktop::RaiseIfSet(OnChange);
+    });
+}
+
+}  // namespace halvenmoor::forms

@@ -1,0 +1,92 @@
+#include "forms/control.h"
+
+#include "forms/desktop.h"
+
+namespace halvenmoor::forms {
+
+Control::Control(Form& form, forms::ControlKind kind, Design design)
+    : form_(form),
+      kind_(kind),
+      design_(std::move(design)),
+      caption_(design_.text),
+      enabled_(design_.enabled),
+      visible_(design_.visible) {
+    form_.Add(*this);
+}
+
+void Control::SetCaption(std::string caption) {
+    if (caption == caption_) return;
+    caption_ = std::move(caption);
+    Changed();
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    Changed();
+    if (!enabled && HasFocus()) form_.PassFocusOn();
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    Changed();
+    if (!visible && HasFocus()) form_.PassFocusOn();
+}
+
+void Control::SetForeColor(Color color) {
+    if (foreColor_ == color) return;
+    foreColor_ = color;
+    Changed();
+}
+
+void Control::SetAccessibleName(std::string name) {
+    if (name == accessibleName_) return;
+    accessibleName_ = std::move(name);
+    Changed();
+}
+
+void Control::SetToolTip(std::string toolTip) {
+    if (toolTip == toolTip_) return;
+    toolTip_ = std::move(toolTip);
+    Changed();
+}
+
+bool Control::CanTakeFocus() const {
+    const bool takesKeys =
+        kind_ != ControlKind::Label && kind_ != ControlKind::Frame && kind_ != ControlKind::PictureBox;
+    return takesKeys && enabled_ && visible_;
+}
+
+bool Control::HasFocus() const {
+    return form_.ActiveControl() == this;
+}
+
+void Control::SetFocus() {
+    if (CanTakeFocus()) form_.FocusOn(this);
+}
+
+bool Control::UserFocused() {
+    return Deliver([this] { SetFocus(); });
+}
+
+void Control::Changed() {
+    form_.Mark(*this);
+}
+
+void Control::RaiseClick() {
+    Desktop::RaiseIfSet(OnClick);
+}
+
+bool Control::Deliver(Event event) {
+    return enabled_ && visible_ && form_.Owner().Deliver(form_, event);
+}
+
+bool Control::DeliverWithFocus(Event event) {
+    return Deliver([&] {
+        SetFocus();
+        event();
+    });
+}
+
+}  // namespace halvenmoor::forms

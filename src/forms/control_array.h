@@ -1,0 +1,36 @@
+#pragma once
+
+#include "forms/control.h"
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <utility>
+
+namespace halvenmoor::forms {
+
+/// Controls of one kind with an index, as TypeList(1) to TypeList(5).
+template <class ControlClass, int First, int Last>
+class ControlArray {
+public:
+    template <class DesignOf>
+    ControlArray(Form& form, DesignOf designOf) {
+        for (int i = First; i <= Last; ++i) {
+            Design design = designOf(i);
+            design.name += "(" + std::to_string(i) + ")";
+            controls_.emplace_back(form, std::move(design));
+        }
+    }
+
+    ControlClass& operator[](int index) { return controls_.at(static_cast<std::size_t>(index - First)); }
+    const ControlClass& operator[](int index) const {
+        return controls_.at(static_cast<std::size_t>(index - First));
+    }
+    auto begin() { return controls_.begin(); }
+    auto end() { return controls_.end(); }
+
+private:
+    std::deque<ControlClass> controls_;
+};
+
+}  // namespace halvenmoor::forms

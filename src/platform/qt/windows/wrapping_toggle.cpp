@@ -1,0 +1,47 @@
+#include "platform/qt/windows/wrapping_toggle.h"
+
+#include "platform/qt/windows/conversions.h"
+
+#include <QStyleOptionButton>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <utility>
+
+namespace halvenmoor::qt {
+
+template <class Base>
+QRect WrappingToggle<Base>::CaptionRect() const {
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    return this->style()->subElementRect(
+        kIsCheckBox ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option, this);
+}
+
+template <class Base>
+void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    const QString words = std::exchange(option.text, {});
+    const bool hasFocus = option.state & QStyle::State_HasFocus;
+    option.state &= ~QStyle::State_HasFocus;
+
+    QStylePainter painter(this);
+    painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
+    const QRect contents = CaptionRect();
+    const int flags =
+        static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
+    if (!hasFocus) return;
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(option);
+    focus.rect = this->style()
+                     ->itemTextRect(option.fontMetrics, contents, flags, true, words)
+                     .adjusted(-2, -1, 2, 1)
+                     .intersected(this->rect());
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+}
+
+template class WrappingToggle<QCheckBox>;
+template class WrappingToggle<QRadioButton>;
+
+}  // namespace halvenmoor::qt
