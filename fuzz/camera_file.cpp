@@ -1,9 +1,8 @@
 // A camera file to target lines, compared with a slow export. The first byte chooses the order of the extra
 // fields.
 
-#include "export/camera_file.h"
-
 #include "base/text/compare.h"
+#include "export/camera_line.h"
 #include "export/export_run.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"

@@ -1,8 +1,9 @@
 // One line of a camera file, taken apart; its first two fields as a position.
 
+#include "export/camera_line.h"
+
 #include "base/text/numbers.h"
 #include "base/text/trim.h"
-#include "export/camera_file.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
 

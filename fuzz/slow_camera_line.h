@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/text/trim.h"
-#include "export/camera_file.h"
+#include "export/camera_line.h"
 
 #include <string>
 #include <string_view>

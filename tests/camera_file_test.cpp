@@ -1,6 +1,6 @@
-#include "export/camera_file.h"
-
 #include "base/failure.h"
+#include "export/camera_line.h"
+#include "export/file_name_speed.h"
 #include "platform/headless/services.h"
 #include "tools/file_helpers.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/camera_types.h"
 #include "core/patterns.h"
 
 #include <cstdint>

@@ -1,20 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace halvenmoor {
-
-/// The camera types: 1 Fixed, 2 Red Speed, 3 Red Light, 4 Section, 5 Mobile. Index 0 of every table by type
-/// holds nothing.
-inline constexpr int kFirstType = 1;
-inline constexpr int kLastType = 5;
-
-template <class Value>
-using TypeTable = std::array<Value, kLastType + 1>;
 
 /// Positions in a list are 16-bit numbers.
 inline constexpr std::size_t kMaxPatterns = 32767;

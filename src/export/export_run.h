@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/camera_file.h"
+#include "export/camera_line.h"
 #include "export/modExport.h"
 #include "export/name_patterns.h"
 #include "platform/files.h"

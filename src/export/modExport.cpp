@@ -2,7 +2,7 @@
 
 #include "base/text/compare.h"
 #include "base/text/trim.h"
-#include "export/camera_file.h"
+#include "export/file_name_speed.h"
 #include "export/frmExport.h"
 #include "export/frmResults.h"
 #include "export/modSaveOpen.h"

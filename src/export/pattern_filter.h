@@ -2,6 +2,7 @@
 
 #include "base/text/codepage.h"
 #include "base/text/words.h"
+#include "core/camera_types.h"
 #include "core/patterns.h"
 
 #include <algorithm>

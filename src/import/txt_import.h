@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/patterns.h"
+#include "core/camera_types.h"
 #include "import/import_task.h"
 #include "import/txt_records.h"
 

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "core/patterns.h"
-#include "platform/services.h"
-
 #include <array>
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace halvenmoor {
 
-// The text operations that take a camera file apart. A line of the file is a camera's record, empty or a
+// The text operations that take a line of a camera file apart. A line is a camera's record, empty or a
 // comment:
 //
 //     record  = X "," Y "," name [ "," extension "," extension ]
@@ -41,14 +37,5 @@ bool IsValidPosition(std::string_view x, std::string_view y);
 
 /// Whether "0.0" stands somewhere in both texts.
 bool IsZeroPosition(std::string_view x, std::string_view y);
-
-/// The name without the first unit of the list that it ends in, ignoring case.
-std::string_view StripUnitSuffix(std::string_view name, const PatternList& units,
-                                 const text::CodePage& codePage);
-
-/// The speed at the end of a camera file's name (without extension), behind which a unit may stand; "0" when
-/// there is none.
-std::string SpeedFromFileName(std::string_view name, const PatternList& units,
-                              const platform::Locale& locale);
 
 }  // namespace halvenmoor
