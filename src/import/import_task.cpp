@@ -1,7 +1,5 @@
 #include "import/import_task.h"
 
-#include "base/text/compare.h"
-
 namespace halvenmoor {
 
 namespace {
@@ -18,11 +16,6 @@ std::string_view LayoutRemark(int sourceStructure) {
 }
 
 }  // namespace
-
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
 
 std::vector<std::string> SourceFiles(const ImportTask& task) {
     const auto files = task.services.fileSystem.CreateFileSystemObject();

@@ -36,9 +36,6 @@ struct ImportTask {
     int sourceStructure;
 };
 
-/// Whether the last characters of a name are the extension (".ov2", ASCII), ignoring case.
-bool HasExtension(std::string_view name, std::string_view extension);
-
 /// The names of all files of the source folder, in their order; none when source or target folder is missing.
 /// Throws Failure when a folder cannot be read.
 std::vector<std::string> SourceFiles(const ImportTask& task);

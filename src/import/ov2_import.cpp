@@ -1,5 +1,6 @@
 #include "import/ov2_import.h"
 
+#include "base/text/compare.h"
 #include "import/ov2_record.h"
 
 #include <algorithm>
@@ -120,7 +121,7 @@ std::int16_t ConvertOv2Files(const ImportTask& task) {
     std::set<std::string> written;
     for (const std::string& name : ReadableSourceFiles(task)) {
         if (task.progress.StopRequested()) break;
-        if (!HasExtension(name, kSourceExtension)) continue;
+        if (!text::EndsWithIgnoringAsciiCase(name, kSourceExtension)) continue;
         const std::string baseName = name.substr(0, name.size() - kSourceExtension.size());
         const std::string targetPath = task.targetFolder + baseName + ".asc";
         // Sources that differ in the case of their extensions only have one target: the first one keeps it.

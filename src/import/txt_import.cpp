@@ -107,7 +107,7 @@ void TxtImport::ReadTxtFiles() {
     for (const std::string& name : names) {
         task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
-        if (HasExtension(name, ".txt")) ReadTxtFile(task_.sourceFolder + name);
+        if (text::EndsWithIgnoringAsciiCase(name, ".txt")) ReadTxtFile(task_.sourceFolder + name);
     }
 }
 

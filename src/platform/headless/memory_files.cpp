@@ -31,11 +31,6 @@ std::string Join(std::string_view folder, std::string_view name) {
     return std::string(folder).append("/").append(name);
 }
 
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
-
 [[noreturn]] void ThrowFileNotFound() {
     throw Failure(failure::FileNotFound, "File not found");
 }
@@ -217,7 +212,9 @@ void MemoryFiles::Search(std::string_view folder, std::string_view extension,
     Record("search", folder);
     const std::string real = RequireFolder(folder);
     for (const std::string& name : NamesIn(real)) {
-        if (name.starts_with('.') || !HasExtension(name, extension) || !IsFile(Join(real, name))) continue;
+        if (name.starts_with('.') || !text::EndsWithIgnoringAsciiCase(name, extension) ||
+            !IsFile(Join(real, name)))
+            continue;
         found(name);
     }
 }

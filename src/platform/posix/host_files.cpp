@@ -19,11 +19,6 @@ bool IsHidden(std::string_view name) {
     return name.starts_with('.');
 }
 
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
-
 }  // namespace
 
 void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
@@ -31,7 +26,9 @@ void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
     Directory directory(OpenFolder(finder_.Find(folder)));
     while (const dirent* entry = directory.Next()) {
         const std::string_view name(entry->d_name);
-        if (!IsHidden(name) && HasExtension(name, extension) && !directory.IsFolder(*entry)) found(name);
+        if (!IsHidden(name) && text::EndsWithIgnoringAsciiCase(name, extension) &&
+            !directory.IsFolder(*entry))
+            found(name);
     }
 }
 
