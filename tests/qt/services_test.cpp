@@ -1,3 +1,4 @@
+#include "platform/posix/instance_lock.h"
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/instance_guard.h"
@@ -17,7 +18,6 @@
 #include <QPushButton>
 #include <cmath>
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace halvenmoor::qt {
 namespace {
@@ -144,16 +144,23 @@ TEST(Settings, RemoveWhatAKilledWriterLeftBehind) {
                                                         "halvenmoor.ini.before", "other.ini.AbCdEf"}));
 }
 
+struct Instance {
+    explicit Instance(const TemporaryFolder& folder) : lock(folder.Path()) {}
+
+    posix::SystemInstanceLock lock;
+    InstanceGuard guard{lock};
+};
+
 TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     const TemporaryFolder folder;
-    auto first = std::make_unique<InstanceGuard>(Path(folder));
-    InstanceGuard second(Path(folder));
-    ASSERT_TRUE(first->IsFirst());
-    EXPECT_FALSE(second.IsFirst());
-    EXPECT_TRUE(first->IsFirst());
+    auto first = std::make_unique<Instance>(folder);
+    Instance second(folder);
+    ASSERT_TRUE(first->guard.IsFirst());
+    EXPECT_FALSE(second.guard.IsFirst());
+    EXPECT_TRUE(first->guard.IsFirst());
 
     std::vector<QByteArray> tokens;
-    first->OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
+    first->guard.OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
     const QByteArray endless = "raise " + QByteArray(1 << 20, 'x');
     for (const QByteArray& message :
          {QByteArray("stop\n"), QByteArray("raise"), QByteArray("raise\nraise x\n"),
@@ -169,63 +176,65 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     }
     EXPECT_TRUE(tokens.empty());
     qputenv("XDG_ACTIVATION_TOKEN", "token-1");
-    second.RaiseOther();
+    second.guard.RaiseOther();
     qunsetenv("XDG_ACTIVATION_TOKEN");
-    second.RaiseOther();
+    second.guard.RaiseOther();
     EXPECT_TRUE(QTest::qWaitFor([&tokens] { return tokens.size() == 2; }));
     EXPECT_EQ(tokens, (std::vector<QByteArray>{"token-1", ""}));
 
     first.reset();
-    InstanceGuard(Path(folder)).RaiseOther();
-    EXPECT_TRUE(InstanceGuard(Path(folder)).IsFirst()) << "a later start";
+    Instance(folder).guard.RaiseOther();
+    EXPECT_TRUE(Instance(folder).guard.IsFirst()) << "a later start";
 }
 
 TEST(InstanceGuard, IsFirstWhateverAKilledOneLeftBehind) {
     const TemporaryFolder folder;
     for (const char* const name : {"halvenmoor.lock", "halvenmoor.socket"}) folder.Put(name, "");
-    InstanceGuard guard(Path(folder));
-    EXPECT_TRUE(guard.IsFirst());
+    Instance first(folder);
+    EXPECT_TRUE(first.guard.IsFirst());
     bool isCalled = false;
-    guard.OnRaise = [&isCalled](const QByteArray&) { isCalled = true; };
-    InstanceGuard second(Path(folder));
-    EXPECT_FALSE(second.IsFirst());
-    second.RaiseOther();
+    first.guard.OnRaise = [&isCalled](const QByteArray&) { isCalled = true; };
+    Instance second(folder);
+    EXPECT_FALSE(second.guard.IsFirst());
+    second.guard.RaiseOther();
     EXPECT_TRUE(QTest::qWaitFor([&isCalled] { return isCalled; }));
 }
 
-TEST(InstanceGuard, ListensToItsUserOnly) {
+TEST(InstanceGuard, NeedsAFolderThatIsItsUsersAlone) {
     const TemporaryFolder folder;
-    InstanceGuard guard(Path(folder));
-    ASSERT_TRUE(guard.IsFirst());
-    struct stat socket = {};
-    ASSERT_EQ(::stat((folder / "halvenmoor.socket").c_str(), &socket), 0);
-    EXPECT_EQ(socket.st_mode & (S_IRWXG | S_IRWXO), 0u);
+    std::filesystem::create_directory_symlink(folder.Path(), folder / "link");
+    folder.AddFolder("open");
+    std::filesystem::permissions(folder / "open", std::filesystem::perms(0755));
+    for (const char* const name : {"link", "open", "missing"}) {
+        posix::SystemInstanceLock lock(folder / name);
+        EXPECT_TRUE(lock.IsFirst()) << name;
+        EXPECT_EQ(lock.SocketPath(), "") << name;
+    }
 
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
-    qunsetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", (folder / "open").c_str());
     qputenv("TMPDIR", folder.Path().c_str());
-    const QString own = InstanceGuard::RuntimeFolder();
-    EXPECT_TRUE(own.startsWith(Path(folder, "halvenmoor-"))) << "made for this user";
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), own);
-    std::filesystem::permissions(own.toStdString(), std::filesystem::perms(0755));
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "others can enter it";
-    std::filesystem::rename(own.toStdString(), folder / "private");
-    std::filesystem::create_symlink(folder / "private", own.toStdString());
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "it may lead anywhere";
+    const std::string own = posix::SystemInstanceLock::RuntimeFolder();
+    EXPECT_TRUE(own.starts_with(folder / "halvenmoor-")) << "made for this user";
+    EXPECT_TRUE(posix::SystemInstanceLock(own).IsFirst());
+    EXPECT_EQ(posix::SystemInstanceLock::RuntimeFolder(), own);
     qunsetenv("TMPDIR");
     qputenv("XDG_RUNTIME_DIR", runtime);
 }
 
 TEST_F(Window, IsRaisedAndRestored) {
     const TemporaryFolder folder;
-    QtProgramInfo first(Path(folder));
-    QtProgramInfo second(Path(folder));
+    posix::SystemInstanceLock lock(folder.Path());
+    posix::SystemInstanceLock secondLock(folder.Path());
+    QtProgramInfo first(lock, "");
+    QtProgramInfo second(secondLock, "/p\xE9");
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);
     second.ActivatePreviousInstance();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Root().isMinimized(); }));
     EXPECT_EQ(first.ProgramFolder(), QCoreApplication::applicationDirPath().toStdString());
+    EXPECT_EQ(second.ProgramFolder(), "/p\xE9");
     EXPECT_EQ(first.Version().major, 3);
     EXPECT_GT(first.Screen().width, 0);
 }

@@ -3,7 +3,6 @@
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/message_box.h"
-#include "platform/qt/services/program_info.h"
 #include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "platform/qt/windows/toolkit.h"
@@ -30,7 +29,6 @@ struct QtPlatform {
     SafeApplication application;
     QTranslator translator;
     QtToolkit toolkit;
-    QtProgramInfo programInfo;
     QtSettings settings;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;
