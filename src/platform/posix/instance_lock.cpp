@@ -1,9 +1,8 @@
 #include "platform/posix/instance_lock.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
+#include <iostream>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,7 +24,10 @@ SystemInstanceLock::SystemInstanceLock(std::string folder) : folder_(std::move(f
 }
 
 bool SystemInstanceLock::IsFirst() {
-    if (state_ == State::Unasked) state_ = Lock();
+    if (state_ != State::Unasked) return state_ != State::HeldByOther;
+    state_ = Lock();
+    if (state_ == State::Impossible)
+        std::cerr << "halvenmoor: no lock in " << folder_ << ", a second start will not find this one\n";
     return state_ != State::HeldByOther;
 }
 
@@ -42,14 +44,13 @@ SystemInstanceLock::State SystemInstanceLock::Lock() {
     return errno == EWOULDBLOCK ? State::HeldByOther : State::Impossible;
 }
 
-std::string SystemInstanceLock::RuntimeFolder() {
-    const char* const runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime != nullptr && IsPrivateFolder(runtime)) return runtime;
-    std::error_code error;
-    const std::filesystem::path temporary = std::filesystem::temp_directory_path(error);
-    const std::string own = (temporary / ("halvenmoor-" + std::to_string(::geteuid()))).string();
-    ::mkdir(own.c_str(), S_IRWXU);  // it may be there already
-    return own;
+std::string SystemInstanceLock::UserFolder() {
+    const std::string user = std::to_string(::geteuid());
+    std::string folder = "/run/user/" + user;
+    if (IsPrivateFolder(folder)) return folder;
+    folder = "/tmp/halvenmoor-" + user;
+    ::mkdir(folder.c_str(), S_IRWXU);  // it may be there already
+    return folder;
 }
 
 }  // namespace halvenmoor::posix

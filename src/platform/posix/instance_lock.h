@@ -12,14 +12,15 @@ namespace halvenmoor::posix {
 /// does not matter.
 class SystemInstanceLock : public platform::InstanceLock {
 public:
-    explicit SystemInstanceLock(std::string folder = RuntimeFolder());
+    /// Where no lock can be had, IsFirst says so on standard error.
+    explicit SystemInstanceLock(std::string folder = UserFolder());
 
     bool IsFirst() override;
     std::string SocketPath() const override;
 
-    /// The user's runtime folder or, where the system has none, one below the temporary folder, which is
-    /// made.
-    static std::string RuntimeFolder();
+    /// The one folder of this user, whatever the environment says: the runtime folder or, where the system
+    /// has none, one below /tmp, which is made.
+    static std::string UserFolder();
 
 private:
     enum class State { Unasked, Held, HeldByOther, Impossible };
