@@ -121,7 +121,7 @@ TEST_F(DiskTest, LinksToFilesAreFilesAndLinksToFoldersAreFolders) {
     Link("circle.asc", "asc/circle.asc");
     Link("asc", "link");
 
-    EXPECT_EQ(Search(host, folder / "LINK"), (Strings{"File.ASC", "circle.asc", "dangling.asc"}));
+    EXPECT_EQ(Search(host, folder / "LINK"), Strings{"File.ASC"});
     EXPECT_TRUE(host.IsListed(folder / "asc/file.asc"));
     for (const char* name : {"asc/folder.asc", "asc/dangling.asc", "asc/circle.asc"}) {
         EXPECT_FALSE(host.IsListed(folder / name)) << name;

@@ -93,7 +93,8 @@ public:
     virtual ~HostFiles() = default;
 
     /// Hands over the bare name of each file of the folder whose last characters are the extension (".asc",
-    /// ASCII), ignoring case. Folders and hidden files are left out. A failure may come after some names.
+    /// ASCII), ignoring case. Hidden files are left out, and all that is no regular file. A failure may come
+    /// after some names.
     virtual void Search(std::string_view folder, std::string_view extension,
                         const std::function<void(std::string_view)>& found) = 0;
     /// Whether a search would find this file.

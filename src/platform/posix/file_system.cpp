@@ -23,7 +23,7 @@ public:
         Directory directory(OpenFolder(folder_));
         std::vector<std::string> names;
         while (const dirent* entry = directory.Next()) {
-            if (!directory.IsFolder(*entry)) names.emplace_back(entry->d_name);
+            if (directory.KindOf(*entry) != Kind::Folder) names.emplace_back(entry->d_name);
         }
         std::sort(names.begin(), names.end());
         return names;

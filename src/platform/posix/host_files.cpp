@@ -26,9 +26,8 @@ void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
     Directory directory(OpenFolder(finder_.Find(folder)));
     while (const dirent* entry = directory.Next()) {
         const std::string_view name(entry->d_name);
-        if (!IsHidden(name) && text::EndsWithIgnoringAsciiCase(name, extension) &&
-            !directory.IsFolder(*entry))
-            found(name);
+        if (IsHidden(name) || !text::EndsWithIgnoringAsciiCase(name, extension)) continue;
+        if (directory.KindOf(*entry) == Kind::File) found(name);
     }
 }
 

@@ -14,7 +14,6 @@ class DiskHostFiles : public platform::HostFiles {
 public:
     explicit DiskHostFiles(PathFinder& finder) : finder_(finder) {}
 
-    /// A link to a folder counts as a folder; a link that leads nowhere is handed over.
     void Search(std::string_view folder, std::string_view extension,
                 const std::function<void(std::string_view)>& found) override;
     /// False for a link that leads nowhere.

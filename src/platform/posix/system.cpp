@@ -64,10 +64,14 @@ bool EntryExists(const std::string& path) {
     return ::lstat(SystemPath(path), &info) == 0;
 }
 
+Kind KindOf(mode_t mode) {
+    if (S_ISDIR(mode)) return Kind::Folder;
+    return S_ISREG(mode) ? Kind::File : Kind::Other;
+}
+
 Kind KindOf(const std::string& path) {
     struct stat info {};
-    if (::stat(SystemPath(path), &info) != 0) return Kind::Nothing;
-    return S_ISDIR(info.st_mode) ? Kind::Folder : Kind::File;
+    return ::stat(SystemPath(path), &info) == 0 ? KindOf(info.st_mode) : Kind::Nothing;
 }
 
 int FileDescriptor::Close() noexcept {
