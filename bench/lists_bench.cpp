@@ -34,7 +34,6 @@ public:
         if (extension != ".asc") return;
         for (const std::string& name : names_) found(name);
     }
-    bool IsListed(std::string_view) override { return true; }
     std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view) override { return nullptr; }
     void Rename(std::string_view, std::string_view) override {}
 

@@ -58,7 +58,7 @@ TEST_F(RenameTest, TheEntryTakesItsSortedPlace) {
     EXPECT_EQ(List().SelCount(), 1);
     EXPECT_TRUE(List().TakeScroll());
     EXPECT_TRUE(Window().ButtonRenameFile.Enabled());
-    EXPECT_EQ(program.memory.Calls(), Strings{"rename /p/demo/asc_demo/b.asc > /p/demo/asc_demo/D2.asc"});
+    EXPECT_EQ(program.memory.Calls().back(), "rename /p/demo/asc_demo/b.asc > /p/demo/asc_demo/D2.asc");
 }
 
 TEST_F(RenameTest, OpensBesideTheRow) {
@@ -129,15 +129,14 @@ TEST_F(RenameTest, RefusesTakenNamesAndTwelveCharacters) {
         }));
     }
     ExpectNothingChanged();
-    EXPECT_EQ(program.memory.Calls(), Strings()) << "nothing was tried";
     EXPECT_EQ(program.Text("/p/demo/asc_demo/Other.ASC"), "other");
 }
 
 TEST_F(RenameTest, AFailureLeavesWhatWasTyped) {
     Start();
-    // Making the file-system object, the test, the renaming: the last one as if the name were taken
+    // Making the file-system object, the test, the search and the renaming, as if the name were taken
     // meanwhile.
-    for (int call = 1; call <= 3; ++call) {
+    for (const int call : {1, 2, 3, 9}) {
         EXPECT_TRUE(Open("b", [&](frmRename& dialog) {
             program.files.FailCall(call, Failure(failure::FileExists, "File already exists"));
             EXPECT_FALSE(Enter(dialog, "x")) << call;
@@ -161,6 +160,7 @@ TEST_F(RenameTest, AFailureLeavesWhatWasTyped) {
 TEST_F(RenameTest, ReportsAFileThatHasGone) {
     Start({"a", "K\xF6ln"});
     program.memory.Remove(program.CameraPath("K\xF6ln"));
+    program.AddCameraFile("K\xD6ln");
     EXPECT_FALSE(Open("K\xF6ln"));
     ASSERT_EQ(program.messages.Messages.size(), 1u);
     EXPECT_EQ(program.messages.Messages[0].text,
@@ -168,7 +168,7 @@ TEST_F(RenameTest, ReportsAFileThatHasGone) {
     EXPECT_EQ(program.messages.Messages[0].title, "Rename Speed Camera File");
     EXPECT_EQ(program.Items(0), (Strings{"a", "K\xF6ln"}));
     program.Click(Window().CheckAuto[1]);
-    EXPECT_EQ(program.Items(0), Strings{"a"}) << "until the next reload";
+    EXPECT_EQ(program.Items(0), (Strings{"a", "K\xD6ln"})) << "until the next reload";
 }
 
 TEST_F(RenameTest, NeedsOneSelectedRow) {

@@ -97,8 +97,6 @@ public:
     /// after some names.
     virtual void Search(std::string_view folder, std::string_view extension,
                         const std::function<void(std::string_view)>& found) = 0;
-    /// Whether a search would find this file.
-    virtual bool IsListed(std::string_view path) = 0;
     virtual std::unique_ptr<ByteReader> OpenBytes(std::string_view path) = 0;
     /// Never replaces a file: fails if the new path exists.
     virtual void Rename(std::string_view oldPath, std::string_view newPath) = 0;

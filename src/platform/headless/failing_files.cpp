@@ -108,10 +108,6 @@ void FailingFiles::Search(std::string_view folder, std::string_view extension,
     });
 }
 
-bool FailingFiles::IsListed(std::string_view path) {
-    return counter_.Counted(hostFiles_).IsListed(path);
-}
-
 std::unique_ptr<platform::ByteReader> FailingFiles::OpenBytes(std::string_view path) {
     return std::make_unique<FailingByteReader>(counter_, counter_.Counted(hostFiles_).OpenBytes(path));
 }

@@ -219,11 +219,6 @@ void MemoryFiles::Search(std::string_view folder, std::string_view extension,
     }
 }
 
-bool MemoryFiles::IsListed(std::string_view path) {
-    const std::string real = Find(path);
-    return IsFile(real) && !NameOf(real).starts_with('.');
-}
-
 std::unique_ptr<platform::ByteReader> MemoryFiles::OpenBytes(std::string_view path) {
     Record("bytes", path);
     return std::make_unique<MemoryByteReader>(*RequireFile(path));

@@ -13,27 +13,16 @@
 #include <utility>
 
 namespace halvenmoor::posix {
-namespace {
-
-bool IsHidden(std::string_view name) {
-    return name.starts_with('.');
-}
-
-}  // namespace
 
 void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
                            const std::function<void(std::string_view)>& found) {
     Directory directory(OpenFolder(finder_.Find(folder)));
     while (const dirent* entry = directory.Next()) {
         const std::string_view name(entry->d_name);
-        if (IsHidden(name) || !text::EndsWithIgnoringAsciiCase(name, extension)) continue;
+        const bool isHidden = name.starts_with('.');
+        if (isHidden || !text::EndsWithIgnoringAsciiCase(name, extension)) continue;
         if (directory.KindOf(*entry) == Kind::File) found(name);
     }
-}
-
-bool DiskHostFiles::IsListed(std::string_view path) {
-    const std::string real = finder_.Find(path);
-    return !IsHidden(std::string_view(real).substr(real.rfind('/') + 1)) && KindOf(real) == Kind::File;
 }
 
 std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view path) {
