@@ -113,11 +113,11 @@ TEST_F(RenameTest, AnEqualOrEmptyNameClosesOnly) {
     EXPECT_EQ(program.memory.Calls().back(), "search /p/demo/asc_demo/") << "no rename";
 }
 
-TEST_F(RenameTest, RefusesTakenNamesAndTwelveCharacters) {
+TEST_F(RenameTest, RefusesTakenAndHiddenNamesAndTwelveCharacters) {
     Start();
     program.memory.Put("/p/demo/asc_demo/Other.ASC", "other");
-    for (const std::string name : {"c", "C", "other", "OTHER", "a/../b", "*", "x\\", "x/", "x:", "x\"", "x<",
-                                   "x>", "x|", "x;", "x!", "x#", "x*", "x?"}) {
+    for (const std::string name : {".b", "c", "C", "other", "OTHER", "a/../b", "*", "x\\", "x/", "x:", "x\"",
+                                   "x<", "x>", "x|", "x;", "x!", "x#", "x*", "x?"}) {
         EXPECT_TRUE(Open("b", [&](frmRename& dialog) {
             dialog.TextFileName.TakeSelectAll();
             EXPECT_TRUE(dialog.TextFileName.UserTyped(name));

@@ -101,8 +101,9 @@ bool frmRename::RenameFile(const std::string& oldName, const std::string& newNam
 }
 
 bool frmRename::IsRefused(const std::string& newName) const {
-    const auto files = core_.Services().fileSystem.CreateFileSystemObject();
-    return files->FileExists(core_.CameraFile(newName)) || ContainsAnyCharacter(newName, kRefusedCharacters);
+    const bool isHidden = newName.starts_with('.');
+    if (isHidden || ContainsAnyCharacter(newName, kRefusedCharacters)) return true;
+    return core_.Services().fileSystem.CreateFileSystemObject()->FileExists(core_.CameraFile(newName));
 }
 
 void frmRename::OfferName(const std::string& name) {
