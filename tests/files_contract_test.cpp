@@ -163,9 +163,13 @@ TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
     EXPECT_EQ(folder->Files(), (Strings{".hidden", "C.txt", "b.asc", "\xE4"}));
     folder->Delete("b.asc");
     folder->Delete(".hidden");
-    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "\xE4"}));
+    folder->CreateTextFile("c.TXT");
+    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "c.TXT", "\xE4"}));
     for (const char* name : {"b.asc", "folder.asc", "folder.asc/below", "..", ""}) {
         EXPECT_NE(FailureNumber([&] { folder->Delete(name); }), 0) << name;
+    }
+    for (const char* name : {"folder.asc", "folder.asc/new"}) {
+        EXPECT_NE(FailureNumber([&] { folder->CreateTextFile(name); }), 0) << name;
     }
     EXPECT_EQ(this->world.Text("asc/folder.asc/below"), "");
 }

@@ -1,5 +1,6 @@
 // The whole program on a real disk that is full, closed to it, or not what it expects.
 
+#include "base/text/compare.h"
 #include "disk_program.h"
 #include "journeys.h"
 #include "tools/file_helpers.h"
@@ -157,8 +158,10 @@ TEST_F(RealDiskTest, NamesMayHoldAnyByteAndBeAsLongAsTheyCan) {
     }
     folder.Put("Settings.ini", "[Type1]\nf*\n[Settings]\nSourceStructure=1\n");
     Disk expected;
+    std::set<std::string> keys;  // of sources that differ in letter case one is imported
     for (const std::string& name : names) {
         folder.Put("asc/" + name + ".asc", "1.5, 52.5, \"a\"\r\n");
+        if (!keys.insert(text::FoldedKey(name, text::WindowsCodePage(1252))).second) continue;
         folder.Put("import/ov2/" + name + ".ov2", kPoint);
         expected["asc/" + name + ".asc"] = kComment + "1.50000, 52.50000, \"n\"\r\n";
     }
@@ -170,7 +173,7 @@ TEST_F(RealDiskTest, NamesMayHoldAnyByteAndBeAsLongAsTheyCan) {
     EXPECT_EQ(program.Import(kOv2), "PictureFinished");
     EXPECT_EQ(CameraFiles(), expected);
     EXPECT_TRUE(program.Export());
-    EXPECT_EQ(program.Exported(), static_cast<int>(names.size()));
+    EXPECT_EQ(program.Exported(), static_cast<int>(keys.size()));
     for (const std::string& name : names) {
         const std::string path = "asc/" + name + ".asc";
         Install();
@@ -179,7 +182,7 @@ TEST_F(RealDiskTest, NamesMayHoldAnyByteAndBeAsLongAsTheyCan) {
         renaming.Rename(name, "plain");
         EXPECT_EQ(TextIf("asc/plain.asc"), "rare") << name;
     }
-    EXPECT_EQ(Others().size() + names.size() - 1, others.size());
+    EXPECT_EQ(Others().size() + keys.size() - 1, others.size());
 }
 
 TEST_F(RealDiskTest, ANameThatIsTooLongIsRefused) {

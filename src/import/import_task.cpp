@@ -1,5 +1,7 @@
 #include "import/import_task.h"
 
+#include <string_view>
+
 namespace halvenmoor {
 
 namespace {
@@ -23,13 +25,9 @@ std::vector<std::string> SourceFiles(const ImportTask& task) {
     return files->GetFolder(task.sourceFolder)->Files();
 }
 
-std::unique_ptr<platform::TextWriter> CreateCameraFile(platform::FileSystemObject& files,
-                                                       std::string_view path, int sourceStructure) {
-    std::unique_ptr<platform::TextWriter> file = files.CreateTextFile(path);
-    file->WriteLine(
-        std::string("; Generic Ascii file created by Halvenmoor.").append(LayoutRemark(sourceStructure)));
-    file->WriteLine("");
-    return file;
+void WriteCameraFileHeader(platform::TextWriter& file, int sourceStructure) {
+    file.WriteLine({"; Generic Ascii file created by Halvenmoor.", LayoutRemark(sourceStructure)});
+    file.WriteLine("");
 }
 
 }  // namespace halvenmoor

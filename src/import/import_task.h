@@ -3,9 +3,7 @@
 #include "platform/platform.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace halvenmoor {
@@ -40,9 +38,8 @@ struct ImportTask {
 /// Throws Failure when a folder cannot be read.
 std::vector<std::string> SourceFiles(const ImportTask& task);
 
-/// A new camera file with its two header lines. The layout shows in the comment, for people only. Throws
-/// Failure.
-std::unique_ptr<platform::TextWriter> CreateCameraFile(platform::FileSystemObject& files,
-                                                       std::string_view path, int sourceStructure);
+/// Begins a new camera file with its two header lines. The layout shows in the comment, for people only.
+/// Throws Failure.
+void WriteCameraFileHeader(platform::TextWriter& file, int sourceStructure);
 
 }  // namespace halvenmoor

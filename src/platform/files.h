@@ -39,7 +39,8 @@ public:
     virtual void Close() = 0;
 };
 
-/// The files that lie directly in one folder: every entry that is no folder.
+/// The files that lie directly in one folder: every entry that is no folder. Here each name is exact, and no
+/// other file is looked for.
 class Folder {
 public:
     virtual ~Folder() = default;
@@ -48,6 +49,8 @@ public:
     virtual std::vector<std::string> Files() const = 0;
     /// Deletes the file of this name, even if it is read-only; a link is deleted as a link.
     virtual void Delete(std::string_view name) = 0;
+    /// A new or emptied file.
+    virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view name) = 0;
 };
 
 /// The file-system object. Each routine that needs one makes its own.

@@ -59,6 +59,9 @@ public:
 
     std::vector<std::string> Files() const override { return counter_.Counted(*folder_).Files(); }
     void Delete(std::string_view name) override { counter_.Counted(*folder_).Delete(name); }
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        return std::make_unique<FailingWriter>(counter_, counter_.Counted(*folder_).CreateTextFile(name));
+    }
 
 private:
     CallCounter& counter_;

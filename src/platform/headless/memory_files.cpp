@@ -118,11 +118,20 @@ public:
 
     void Delete(std::string_view name) override {
         files_.Record("delete", Join(path_, name));
-        if (name.find('/') != std::string_view::npos) ThrowFileNotFound();
-        files_.Delete(Join(path_, name));
+        files_.Delete(PathOf(name));
+    }
+
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        files_.Record("create", Join(path_, name));
+        return files_.Create(PathOf(name));
     }
 
 private:
+    std::string PathOf(std::string_view name) const {
+        if (name.find('/') != std::string_view::npos) ThrowFileNotFound();
+        return Join(path_, name);
+    }
+
     MemoryFiles& files_;
     std::string path_;
 };
@@ -146,12 +155,7 @@ public:
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         files_.Record("create", path);
-        const std::string place = files_.FindForWriting(path);
-        if (files_.Has(place) && files_.IsFolder(place)) ThrowPermissionDenied();
-        Bytes& bytes = files_.entries_[place];
-        if (!bytes) bytes = std::make_shared<std::string>();
-        bytes->clear();
-        return std::make_unique<MemoryWriter>(bytes);
+        return files_.Create(files_.FindForWriting(path));
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
@@ -228,10 +232,10 @@ void MemoryFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     Record("rename", std::string(oldPath).append(" > ").append(newPath));
     const std::string real = Find(oldPath);
     const Bytes bytes = RequireFile(oldPath);
-    const std::string place = FindForWriting(newPath);
-    if (Has(place)) throw Failure(failure::FileExists, "File already exists");
+    const std::string target = FindForWriting(newPath);
+    if (Has(target)) throw Failure(failure::FileExists, "File already exists");
     entries_.erase(real);
-    entries_.emplace(place, bytes);
+    entries_.emplace(target, bytes);
 }
 
 void MemoryFiles::Record(std::string_view call, std::string_view path) {
@@ -284,6 +288,15 @@ void MemoryFiles::Delete(const std::string& path) {
     if (IsFolder(path)) ThrowPermissionDenied();
     if (!IsFile(path)) ThrowFileNotFound();
     entries_.erase(path);
+}
+
+std::unique_ptr<platform::TextWriter> MemoryFiles::Create(const std::string& path) {
+    if (IsFolder(path)) ThrowPermissionDenied();
+    if (!IsFolder(FolderOf(path))) ThrowPathNotFound();
+    Bytes& bytes = entries_[path];
+    if (!bytes) bytes = std::make_shared<std::string>();
+    bytes->clear();
+    return std::make_unique<MemoryWriter>(bytes);
 }
 
 /// Files and folders, in the order of their bytes.

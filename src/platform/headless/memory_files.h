@@ -59,6 +59,7 @@ private:
     Bytes RequireFile(std::string_view path) const;
     std::string RequireFolder(std::string_view path) const;
     void Delete(const std::string& path);
+    std::unique_ptr<platform::TextWriter> Create(const std::string& path);
     std::vector<std::string> NamesIn(std::string_view folder) const;
 
     const text::CodePage& page_;

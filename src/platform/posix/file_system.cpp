@@ -30,13 +30,20 @@ public:
     }
 
     void Delete(std::string_view name) override {
-        const std::string path(name);
-        const bool leavesTheFolder = name.find('/') != std::string_view::npos;
-        if (leavesTheFolder) throw SystemFailure(ENOENT);
-        if (::unlinkat(folder_.Get(), SystemPath(path), 0) != 0) throw SystemFailure(errno);
+        if (::unlinkat(folder_.Get(), SystemPath(OwnName(name)), 0) != 0) throw SystemFailure(errno);
+    }
+
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        return std::make_unique<DiskTextWriter>(OpenForWriting(folder_, OwnName(name)));
     }
 
 private:
+    /// The name, which must not lead out of the folder.
+    static std::string OwnName(std::string_view name) {
+        if (name.find('/') != std::string_view::npos) throw SystemFailure(ENOENT);
+        return std::string(name);
+    }
+
     FileDescriptor folder_;
 };
 

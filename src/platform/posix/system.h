@@ -64,6 +64,8 @@ enum class WriteMode { Replace, Append };
 
 /// Replace makes or empties the file, Append needs one. Never waits for a reader. Throws Failure.
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
+/// The same in an open folder, in the mode Replace.
+FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name);
 
 /// Opens a folder, also through a link. Throws Failure.
 FileDescriptor OpenFolder(const std::string& path);
