@@ -19,7 +19,7 @@ int main(int, char** arguments) {
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
     posix::SystemInstanceLock instanceLock;
-    qt::QtPlatform qt(arguments[0], locale);
+    qt::QtPlatform qt(arguments[0], locale, hostFiles);
     qt::QtProgramInfo programInfo(instanceLock, posix::ProgramFolder());
     Program program({fileSystem, hostFiles, programInfo, clock, qt.settings, qt.messages, qt.fileDialogs,
                      qt.theme, locale},

@@ -116,13 +116,23 @@ TYPED_TEST(FilesContract, WritersEndLinesWithCrLf) {
     EXPECT_EQ(this->world.Text("Target.txt"), "no line end now\r\n") << "without Close";
 }
 
-TYPED_TEST(FilesContract, NewFilesGoWithTheirNameIntoTheFolderThatIsFound) {
+TYPED_TEST(FilesContract, WritesToTheFileThatIsFoundOrANewOneInTheFolderThatIsFound) {
     this->world.Put("ASC/old.asc", "old");
-    this->object->CreateTextFile(this->At("asc/Old.asc"))->WriteLine("new");
-    EXPECT_EQ(this->world.Text("ASC/old.asc"), "old");
-    EXPECT_EQ(this->world.Text("ASC/Old.asc"), "new\r\n");
-    this->host.Rename(this->At("asc/old.asc"), this->At("asc/b.asc"));
-    EXPECT_EQ(this->world.Text("ASC/b.asc"), "old");
+    const auto write = [this](const std::string& name) {
+        this->object->CreateTextFile(this->At(name))->WriteLine(name);
+    };
+    EXPECT_EQ(this->host.FindFile(this->At("asc/OLD.asc")), this->At("ASC/old.asc"));
+    EXPECT_EQ(this->host.FindFile(this->At("asc")), std::nullopt) << "a folder";
+    write("asc/Old.asc");
+    this->world.Put("ASC/OLD.asc", "exact");
+    write("asc/OLD.asc");
+    EXPECT_EQ(this->host.FindFile(this->At("asc/New.asc")), std::nullopt);
+    write("asc/New.asc");
+    write("asc/new.asc");
+    EXPECT_EQ(this->object->GetFolder(this->At("asc"))->Files(), (Strings{"New.asc", "OLD.asc", "old.asc"}));
+    EXPECT_EQ(this->world.Text("ASC/old.asc"), "asc/Old.asc\r\n");
+    EXPECT_EQ(this->world.Text("ASC/OLD.asc"), "asc/OLD.asc\r\n");
+    EXPECT_EQ(this->world.Text("ASC/New.asc"), "asc/new.asc\r\n");
 }
 
 TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
@@ -197,7 +207,7 @@ TYPED_TEST(FilesContract, RenameNeverReplaces) {
     const auto rename = [&](const std::string& from, const std::string& to) {
         return FailureNumber([&] { this->host.Rename(this->At(from), this->At(to)); });
     };
-    EXPECT_EQ(rename("asc/old.asc", "asc/taken.asc"), failure::FileExists);
+    EXPECT_EQ(rename("asc/old.asc", "asc/TAKEN.asc"), failure::FileExists);
     EXPECT_NE(rename("asc/old.asc", "none/new.asc"), 0);
     EXPECT_EQ(rename("asc/none.asc", "asc/new.asc"), failure::FileNotFound);
     EXPECT_EQ(this->world.Text("asc/Old.ASC"), "old");

@@ -201,7 +201,7 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qt::QtPlatform qt(programName, locale);
+    qt::QtPlatform qt(programName, locale, hostFiles);
     posix::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
     qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
     qt::QtSettings settings(QString::fromStdString(fs::absolute(output / "options").string()));

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,7 +14,8 @@
 namespace halvenmoor::platform {
 
 // Paths and names are bytes as the file system has them. A path is found without regard to letter case, the
-// exact one first; a new file gets its own name as it is given. Every failed call throws Failure.
+// exact one first, for reading as for writing; only where there is none a new file is made, with its name as
+// it is given. Every failed call throws Failure.
 
 /// A text file being read. A line ends at CR LF or LF; a UTF-8 byte-order mark at the start is skipped.
 class TextReader {
@@ -100,6 +102,8 @@ public:
     /// after some names.
     virtual void Search(std::string_view folder, std::string_view extension,
                         const std::function<void(std::string_view)>& found) = 0;
+    /// The path of the file that writing to this one would change; nothing when it would make a new one.
+    virtual std::optional<std::string> FindFile(std::string_view path) = 0;
     virtual std::unique_ptr<ByteReader> OpenBytes(std::string_view path) = 0;
     /// Never replaces a file: fails if the new path exists.
     virtual void Rename(std::string_view oldPath, std::string_view newPath) = 0;

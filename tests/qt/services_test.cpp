@@ -1,3 +1,4 @@
+#include "platform/posix/host_files.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
@@ -71,27 +72,32 @@ protected:
     }
 
     TemporaryFolder folder;
+    posix::PathFinder finder{text::WindowsCodePage(1252)};
+    posix::DiskHostFiles files{finder};
+    QtFileDialogs dialogs{files};
     platform::FileDialog request;
 };
 
-TEST_F(Dialogs, AskAboutTheNameThatIsWritten) {
-    folder.Put("old.txt", "");
+TEST_F(Dialogs, AskAboutTheFileThatIsWritten) {
+    folder.Put("Old.txt", "");
     WhenShown<QFileDialog>([this](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Title");
         EXPECT_EQ(dialog.nameFilters(), QStringList{"Text File (*.txt)"});
         EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "Suggested");
         int questions = 0;
-        Type(dialog, "old", [&questions](QMessageBox& box) {
-            ++questions;
-            EXPECT_TRUE(box.text().contains("old.txt"));
-            box.button(QMessageBox::No)->click();
-        });
-        EXPECT_EQ(questions, 1);
+        for (const char* const name : {"Old", "OLD"}) {
+            Type(dialog, name, [&questions](QMessageBox& box) {
+                ++questions;
+                EXPECT_TRUE(box.text().contains("Old.txt"));
+                box.button(QMessageBox::No)->click();
+            });
+        }
+        EXPECT_EQ(questions, 2);
         Type(dialog, "missing/new", [](QMessageBox& box) { box.close(); });
         EXPECT_TRUE(dialog.isVisible()) << "the folder must exist";
         Type(dialog, "new");
     });
-    EXPECT_EQ(QtFileDialogs().AskSavePath(request), folder / "new.txt");
+    EXPECT_EQ(dialogs.AskSavePath(request), folder / "new.txt");
 }
 
 TEST_F(Dialogs, OpenWhatExists) {
@@ -101,9 +107,9 @@ TEST_F(Dialogs, OpenWhatExists) {
         EXPECT_TRUE(dialog.isVisible());
         Type(dialog, "there");
     });
-    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), folder / "there.txt");
+    EXPECT_EQ(dialogs.AskOpenPath(request), folder / "there.txt");
     WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), std::nullopt);
+    EXPECT_EQ(dialogs.AskOpenPath(request), std::nullopt);
 }
 
 TEST(Settings, LastAndNeverFail) {

@@ -111,6 +111,10 @@ void FailingFiles::Search(std::string_view folder, std::string_view extension,
     });
 }
 
+std::optional<std::string> FailingFiles::FindFile(std::string_view path) {
+    return counter_.Counted(hostFiles_).FindFile(path);
+}
+
 std::unique_ptr<platform::ByteReader> FailingFiles::OpenBytes(std::string_view path) {
     return std::make_unique<FailingByteReader>(counter_, counter_.Counted(hostFiles_).OpenBytes(path));
 }

@@ -223,6 +223,12 @@ void MemoryFiles::Search(std::string_view folder, std::string_view extension,
     }
 }
 
+std::optional<std::string> MemoryFiles::FindFile(std::string_view path) {
+    std::string found = Find(path);
+    if (!IsFile(found)) return std::nullopt;
+    return found;
+}
+
 std::unique_ptr<platform::ByteReader> MemoryFiles::OpenBytes(std::string_view path) {
     Record("bytes", path);
     return std::make_unique<MemoryByteReader>(*RequireFile(path));
@@ -255,6 +261,8 @@ std::string MemoryFiles::Find(std::string_view path) const {
 }
 
 std::string MemoryFiles::FindForWriting(std::string_view path) const {
+    std::string found = Find(path);
+    if (Has(found)) return found;
     const std::string folder = Find(FolderOf(path));
     if (!IsFolder(folder)) ThrowPathNotFound();
     return Join(folder, NameOf(path));

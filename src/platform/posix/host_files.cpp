@@ -25,6 +25,13 @@ void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
     }
 }
 
+std::optional<std::string> DiskHostFiles::FindFile(std::string_view path) {
+    std::string found = finder_.Find(path);
+    const Kind kind = KindOf(found);
+    if (kind == Kind::Nothing || kind == Kind::Folder) return std::nullopt;
+    return found;
+}
+
 std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view path) {
     FileDescriptor file = OpenForReading(finder_.Find(path));
     const std::uint64_t size = file.Size();

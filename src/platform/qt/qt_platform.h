@@ -14,9 +14,8 @@ namespace halvenmoor::qt {
 
 /// All of the Qt side, in the order in which it has to be made. The program's forms end before it does.
 struct QtPlatform {
-    /// The program's name as main gets it, the first of its arguments; it and the locale outlive the
-    /// platform.
-    QtPlatform(char* programName, const platform::Locale& locale);
+    /// The program's name as main gets it, the first of its arguments; all of them outlive the platform.
+    QtPlatform(char* programName, const platform::Locale& locale, platform::HostFiles& files);
 
     struct Arguments {
         explicit Arguments(char* programName);
