@@ -128,11 +128,9 @@ TYPED_TEST(FilesContract, WritesToTheFileThatIsFoundOrANewOneInTheFolderThatIsFo
     write("asc/OLD.asc");
     EXPECT_EQ(this->host.FindFile(this->At("asc/New.asc")), std::nullopt);
     write("asc/New.asc");
-    write("asc/new.asc");
     EXPECT_EQ(this->object->GetFolder(this->At("asc"))->Files(), (Strings{"New.asc", "OLD.asc", "old.asc"}));
     EXPECT_EQ(this->world.Text("ASC/old.asc"), "asc/Old.asc\r\n");
     EXPECT_EQ(this->world.Text("ASC/OLD.asc"), "asc/OLD.asc\r\n");
-    EXPECT_EQ(this->world.Text("ASC/New.asc"), "asc/new.asc\r\n");
 }
 
 TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
@@ -178,18 +176,8 @@ TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
     for (const char* name : {"b.asc", "folder.asc", "folder.asc/below", "..", ""}) {
         EXPECT_NE(FailureNumber([&] { folder->Delete(name); }), 0) << name;
     }
-    for (const char* name : {"folder.asc", "folder.asc/new"}) {
-        EXPECT_NE(FailureNumber([&] { folder->CreateTextFile(name); }), 0) << name;
-    }
+    EXPECT_NE(FailureNumber([&] { folder->CreateTextFile("folder.asc/below"); }), 0);
     EXPECT_EQ(this->world.Text("asc/folder.asc/below"), "");
-}
-
-TYPED_TEST(FilesContract, DeletesAFile) {
-    this->world.Put("asc/B.asc", "");
-    this->object->DeleteFile(this->At("asc/b.asc"));
-    EXPECT_FALSE(this->object->FileExists(this->At("asc/B.asc")));
-    EXPECT_EQ(FailureNumber([&] { this->object->DeleteFile(this->At("asc/b.asc")); }), failure::FileNotFound);
-    EXPECT_EQ(FailureNumber([&] { this->object->DeleteFile(this->At("asc")); }), failure::PermissionDenied);
 }
 
 TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {

@@ -63,8 +63,6 @@ public:
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool FolderExists(std::string_view path) = 0;
     virtual std::unique_ptr<Folder> GetFolder(std::string_view path) = 0;
-    /// Deletes a file, even if it is read-only.
-    virtual void DeleteFile(std::string_view path) = 0;
     /// A new or emptied file.
     virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view path) = 0;
     virtual std::unique_ptr<TextReader> OpenTextFile(std::string_view path) = 0;

@@ -75,7 +75,6 @@ public:
 
     bool FileExists(std::string_view path) override { return Object().FileExists(path); }
     bool FolderExists(std::string_view path) override { return Object().FolderExists(path); }
-    void DeleteFile(std::string_view path) override { Object().DeleteFile(path); }
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<FailingFolder>(counter_, Object().GetFolder(path));

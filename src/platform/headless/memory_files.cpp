@@ -148,11 +148,6 @@ public:
         return std::make_unique<FilesOfFolder>(files_, files_.RequireFolder(path));
     }
 
-    void DeleteFile(std::string_view path) override {
-        files_.Record("delete", path);
-        files_.Delete(files_.Find(path));
-    }
-
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         files_.Record("create", path);
         return files_.Create(files_.FindForWriting(path));

@@ -59,11 +59,6 @@ public:
         return std::make_unique<DiskFolder>(OpenFolder(finder_.Find(path)));
     }
 
-    void DeleteFile(std::string_view path) override {
-        // Whether the file may be written does not matter to unlink: that is the folder's right.
-        if (::unlink(SystemPath(finder_.Find(path))) != 0) throw SystemFailure(errno);
-    }
-
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         return std::make_unique<DiskTextWriter>(
             OpenForWriting(finder_.FindForWriting(path), WriteMode::Replace));
