@@ -15,7 +15,7 @@ void ComboBox::SetListIndex(int index) {
     text_ = index >= 0 ? List(index) : std::string();
     listIndex_ = index;
     Changed();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 void ComboBox::AddItem(std::string text) {
@@ -35,19 +35,21 @@ void ComboBox::Clear() {
 
 bool ComboBox::UserChoose(int index) {
     if (index < 0 || index >= ListCount()) return false;
-    return DeliverWithFocus([&] {
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
         const bool same = index == listIndex_;
         SetListIndex(index);
-        if (same) RaiseClick();
+        if (same) Desktop::Raise(OnClick);
     });
 }
 
 bool ComboBox::UserTyped(std::string text) {
-    return DeliverWithFocus([&] {
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
         text_ = std::move(text);
         listIndex_ = -1;
         Changed();
-        Desktop::RaiseIfSet(OnChange);
+        Desktop::Raise(OnChange);
     });
 }
 

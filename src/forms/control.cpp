@@ -67,26 +67,11 @@ void Control::SetFocus() {
 }
 
 bool Control::UserFocused() {
-    return Deliver([this] { SetFocus(); });
+    return Desktop::Deliver(*this, [this] { SetFocus(); });
 }
 
 void Control::Changed() {
     form_.Mark(*this);
-}
-
-void Control::RaiseClick() {
-    Desktop::RaiseIfSet(OnClick);
-}
-
-bool Control::Deliver(Event event) {
-    return enabled_ && visible_ && form_.Owner().Deliver(form_, event);
-}
-
-bool Control::DeliverWithFocus(Event event) {
-    return Deliver([&] {
-        SetFocus();
-        event();
-    });
 }
 
 }  // namespace halvenmoor::forms

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "forms/color.h"
-#include "forms/event.h"
 #include "forms/geometry.h"
 
 #include <functional>
@@ -100,11 +99,6 @@ public:
 protected:
     /// Marks the control: its view is brought up to date at the end of the running event.
     void Changed();
-    void RaiseClick();
-    /// Runs an event of the user; false when the user cannot act on the control.
-    bool Deliver(Event event);
-    /// The same for an action that begins with moving the focus to the control.
-    bool DeliverWithFocus(Event event);
 
 private:
     Form& form_;

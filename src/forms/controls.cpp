@@ -5,7 +5,10 @@
 namespace halvenmoor::forms {
 
 bool CommandButton::UserPress() {
-    return DeliverWithFocus([this] { RaiseClick(); });
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
+        Desktop::Raise(OnClick);
+    });
 }
 
 CheckBox::CheckBox(Form& form, Design design)
@@ -16,11 +19,14 @@ void CheckBox::SetValue(bool value) {
     if (value == value_) return;
     value_ = value;
     Changed();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 bool CheckBox::UserPress() {
-    return DeliverWithFocus([this] { SetValue(!value_); });
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
+        SetValue(!value_);
+    });
 }
 
 OptionButton::OptionButton(Form& form, Design design)
@@ -35,13 +41,14 @@ void OptionButton::SetValue(bool value) {
         return;
     }
     TurnOn();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 bool OptionButton::UserPress() {
-    return DeliverWithFocus([this] {
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
         TurnOn();
-        RaiseClick();
+        Desktop::Raise(OnClick);
     });
 }
 
@@ -75,7 +82,10 @@ void TextBox::SelectAll() {
 }
 
 bool TextBox::UserTyped(std::string text) {
-    return DeliverWithFocus([&] { SetCaption(std::move(text)); });
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
+        SetCaption(std::move(text));
+    });
 }
 
 }  // namespace halvenmoor::forms
