@@ -260,17 +260,5 @@ TEST_F(LanguageTest, NameThatCannotBeFoundAgainIsNotOffered) {
     EXPECT_EQ(program.Option("Language"), "English");
 }
 
-TEST_F(LanguageTest, TypingIsUndone) {
-    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
-    program.Start();
-    for (const auto* language : {"Deutsch", "English"}) {
-        Choose(language);
-        EXPECT_TRUE(program.Window().LanguageList.UserTyped("Deutschx"));
-        EXPECT_EQ(Chosen(), language);
-        EXPECT_EQ(program.Option("Language"), language);
-    }
-    EXPECT_EQ(ExitCaption(), "Exit");
-}
-
 }  // namespace
 }  // namespace halvenmoor

@@ -37,9 +37,9 @@ bool ComboBox::UserChoose(int index) {
     if (index < 0 || index >= ListCount()) return false;
     return Desktop::Deliver(*this, [&] {
         SetFocus();
-        const bool same = index == listIndex_;
-        SetListIndex(index);
-        if (same) Desktop::Raise(OnClick);
+        if (index != listIndex_) return SetListIndex(index);
+        Changed();  // the view may show the choice otherwise
+        Desktop::Raise(OnClick);
     });
 }
 

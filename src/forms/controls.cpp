@@ -85,6 +85,7 @@ bool TextBox::UserTyped(std::string text) {
     return Desktop::Deliver(*this, [&] {
         SetFocus();
         SetCaption(std::move(text));
+        Changed();  // even where the text is the same: the view may show it otherwise
     });
 }
 

@@ -70,10 +70,7 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
         QObject::connect(shortcut, &QShortcut::activated, &Widget(), &QPushButton::click);
     }
     Widget().setAutoDefault(true);  // the Enter key presses the button that has the focus
-    QObject::connect(&Widget(), &QPushButton::clicked, [this] {
-        Control().UserPress();
-        Update();
-    });
+    QObject::connect(&Widget(), &QPushButton::clicked, [this] { Control().UserPress(); });
 }
 
 void CommandButtonView::ShowState() {
