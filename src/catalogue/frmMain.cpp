@@ -4,6 +4,7 @@
 #include "catalogue/camera_list.h"
 #include "catalogue/classification.h"
 #include "catalogue/languages.h"
+#include "ui/frmRename.h"
 #include "ui/language/cNamesClass.h"
 
 namespace halvenmoor {
@@ -32,6 +33,10 @@ frmMain::frmMain(modMain& core) : frmMainLayout(core.Desktop()), core_(core) {
     ConnectLanguageList();
     ButtonClassifyFiles.OnClick = [this] {
         if (ClassifyFiles(*this)) UpdateButtons(true);
+    };
+    ButtonRenameFile.OnClick = [this] {
+        RenameSelectedFile(core_, MainList);
+        MainList.SetFocus();
     };
     ButtonReloadFiles.OnClick = [this] { ReloadAll(); };
     ButtonExitApplication.OnClick = [this] { Unload(); };
