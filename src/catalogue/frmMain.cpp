@@ -1,8 +1,6 @@
 #include "catalogue/frmMain.h"
 
 #include "base/text/compare.h"
-#include "catalogue/camera_list.h"
-#include "catalogue/classification.h"
 #include "catalogue/languages.h"
 #include "ui/frmRename.h"
 #include "ui/language/cNamesClass.h"
@@ -27,12 +25,12 @@ const char* StoredValue(const forms::CheckBox& box) {
 }  // namespace
 
 frmMain::frmMain(modMain& core) : frmMainLayout(core.Desktop()), core_(core) {
-    core_.LoadCameraFiles = [this] { LoadCameraFiles(*this); };
+    core_.LoadCameraFiles = [this] { LoadCameraFiles(); };
     ConnectLists();
     ConnectOptions();
     ConnectLanguageList();
     ButtonClassifyFiles.OnClick = [this] {
-        if (ClassifyFiles(*this)) UpdateButtons(true);
+        if (ClassifyFiles()) UpdateButtons(true);
     };
     ButtonRenameFile.OnClick = [this] {
         RenameSelectedFile(core_, MainList);
@@ -79,7 +77,7 @@ void frmMain::Load() {
     core_.Names = std::make_shared<cNamesClass>(core_.Services());
     core_.Names->SetPath(core_.LanguageFolder());
     core_.Names->SetSection("Halvenmoor");
-    InitialiseLanguageList(*this);
+    InitialiseLanguageList(LanguageList, core_);
     formLoaded_ = true;
 }
 
@@ -104,7 +102,7 @@ void frmMain::ChooseLanguage() {
     const bool hasFile = FileExistsCheck(core_.Services().fileSystem, names.Path() + language + ".ini");
     if (!hasFile && !text::EqualIgnoringAsciiCase(language, "English")) {
         // The file has gone since the list was filled.
-        InitialiseLanguageList(*this);
+        InitialiseLanguageList(LanguageList, core_);
         return;
     }
     names.SetLanguage(hasFile ? language : "English");

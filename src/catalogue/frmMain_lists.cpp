@@ -1,6 +1,11 @@
-// The lists of the main window: moves, drags, selections, and the buttons that depend on them.
+// The lists of the main window: their files, moves, drags, selections, and the buttons that depend on them.
 
+#include "catalogue/camera_list.h"
+#include "catalogue/classification.h"
 #include "catalogue/frmMain.h"
+
+#include <exception>
+#include <utility>
 
 namespace halvenmoor {
 
@@ -35,6 +40,30 @@ void frmMain::ConnectList(forms::ListBox& list, int number) {
 void frmMain::ClearListBoxes() {
     for (forms::ListBox& list : TypeList) list.Clear();
     MainList.Clear();
+}
+
+/// Empties the lists and fills the unclassified one with the files of the camera folder.
+void frmMain::LoadCameraFiles() {
+    ClearListBoxes();
+    std::vector<std::string> entries = FindCameraFiles(core_.Services().hostFiles, core_.CameraFolder());
+    try {
+        MainList.AddItems(std::move(entries));
+    } catch (const std::exception&) {
+        // A folder with more files than a list can hold shows the first ones.
+    }
+}
+
+/// Moves the unclassified entries to the first type that takes them. True if an entry moved.
+bool frmMain::ClassifyFiles() {
+    const TypeTable<PatternList>& patterns = core_.ClassificationSettings->TypeFileNamePatterns();
+    const text::CodePage& codePage = core_.Services().locale.CodePage();
+    bool anyMoved = false;
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        if (!CheckAuto[type].Value()) continue;
+        const PatternList& ofType = patterns[static_cast<std::size_t>(type)];
+        anyMoved |= ClassifyFilesOfType(MainList, TypeList[type], ofType, codePage);
+    }
+    return anyMoved;
 }
 
 void frmMain::MoveSelectedItems(forms::ListBox& source, forms::ListBox& target) {
