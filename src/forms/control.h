@@ -74,7 +74,7 @@ public:
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }
     void SetVisible(bool visible);
-    /// The text colour; none: the toolkit's own.
+    /// The text colour, a plain one; none: the toolkit's own.
     std::optional<Color> ForeColor() const { return foreColor_; }
     void SetForeColor(Color color);
     /// What a screen reader calls the control: its caption, unless the program has given it other words.

@@ -15,8 +15,10 @@ bool GetGroupTextColor(const platform::Theme& theme, forms::Color& color) {
 }
 
 forms::Color HeadingColor(const platform::Theme& theme) {
-    forms::Color color = forms::Rgb(0, 0, 0);
-    return GetGroupTextColor(theme, color) ? color : forms::kButtonText;
+    constexpr forms::Color kBlack = forms::Rgb(0, 0, 0);
+    forms::Color color = kBlack;
+    if (GetGroupTextColor(theme, color)) return color;
+    return theme.SystemColor(forms::kButtonTextNumber).value_or(kBlack);
 }
 
 }  // namespace halvenmoor

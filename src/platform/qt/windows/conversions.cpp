@@ -1,11 +1,6 @@
 #include "platform/qt/windows/conversions.h"
 
 #include "base/text/decode.h"
-#include "platform/qt/services/theme.h"
-
-#include <QGuiApplication>
-#include <QPalette>
-#include <optional>
 
 namespace halvenmoor::qt {
 
@@ -63,10 +58,6 @@ forms::Color ToColor(const QColor& color) {
 }
 
 QColor ToQColor(forms::Color color) {
-    if (forms::IsSystemColor(color)) {
-        const std::optional<forms::Color> plain = QtTheme().SystemColor(forms::SystemColorNumber(color));
-        return plain ? ToQColor(*plain) : QGuiApplication::palette().color(QPalette::WindowText);
-    }
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
 }
 

@@ -35,7 +35,7 @@ QRect ToRect(const forms::Bounds& place);
 QRect ToRect(const forms::PixelRect& area);
 
 forms::Color ToColor(const QColor& color);
-/// A system colour is taken from the theme; the palette's text colour stands in for one that it lacks.
+/// Of a plain colour.
 QColor ToQColor(forms::Color color);
 
 }  // namespace halvenmoor::qt
