@@ -39,8 +39,7 @@ frmExport::frmExport(modExport& exports)
 }
 
 void frmExport::Load() {
-    const forms::Point main = core_.MainForm->Position();
-    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
+    MoveTo(core_.MainForm->Position() + kOffsetInMainForm);
     SetExportCaptions();
     SetBusy(true);
     progressBar_.SetPicBox(&picProgress);

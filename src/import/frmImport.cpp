@@ -46,8 +46,7 @@ frmImport::frmImport(frmMain& mainForm)
 }
 
 void frmImport::Load() {
-    const forms::Point main = mainForm_.Position();
-    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
+    MoveTo(mainForm_.Position() + kOffsetInMainForm);
     ApplyImportTexts();
     UpdateDisplay(Display::Ready);
 }
