@@ -12,7 +12,6 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr TypeTable<std::string_view> kTypeWords{"", "Fixed", "RedSpeed", "RedLight", "Section", "Mobile"};
 constexpr int kRedLight = 3;
 
 /// The label of the added records moves when so many came in.
