@@ -24,7 +24,6 @@ class SpeedRecords {
 public:
     explicit SpeedRecords(std::string_view speed);
 
-    const std::string& Speed() const { return speed_; }
     /// The number that the speed's text begins with.
     double Number() const { return number_; }
     void Append(std::string_view storedRecord) { stored_ += storedRecord; }
