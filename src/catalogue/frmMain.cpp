@@ -138,7 +138,7 @@ void frmMain::ApplyLanguageTexts() {
     NameControls();
 }
 
-/// Gives controls without words of their own those of their neighbours.
+/// Names the controls without a caption after their neighbours, for screen readers.
 void frmMain::NameControls() {
     const std::string& unclassified = LabelMainList.Caption();
     for (int type = kFirstType; type <= kLastType; ++type) {

@@ -89,7 +89,7 @@ void frmMain::ClearOtherSelections(int clicked) {
 void frmMain::ClearSelection(forms::ListBox& list) {
     for (int i = 0; list.SelCount() > 0 && i < list.ListCount(); ++i) {
         if (!list.Selected(i)) continue;
-        // The click that this raises comes from code and must not clear selections in turn.
+        // The click that this raises comes from code and must not clear other selections.
         suppressSelectionEvent_ = true;
         list.SetSelected(i, false);
     }
@@ -122,8 +122,8 @@ void frmMain::UpdateButtons(bool resetResults) {
     UpdateResultsButton();
 }
 
-// The focus ends on the button of the most advanced step, since each rule that takes it comes after the ones
-// for the steps before.
+// Each rule may move the focus to its button. They run in the order of the steps, so the focus ends on the
+// button of the most advanced one.
 
 void frmMain::UpdateClassifyButton() {
     ButtonClassifyFiles.SetEnabled(MainList.ListCount() > 0);

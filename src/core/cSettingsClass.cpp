@@ -53,8 +53,8 @@ SectionTexts ReadSections(platform::TextReader& file) {
     return texts;
 }
 
-/// A list with too many elements ends with one too many, which holds the rest: nobody walks over such a list,
-/// and a string for each comma would take a hundred times the memory of the file.
+/// A list with too many elements gets one element too many, which holds the rest of the text: Elements
+/// refuses such a list, and a string for each comma would take a hundred times the memory of the file.
 std::vector<std::string> SplitList(std::string_view source) {
     std::vector<std::string> list;
     if (source.empty()) return list;
@@ -83,7 +83,7 @@ cSettingsClass::cSettingsClass(platform::FileSystem& fileSystem, std::string_vie
     try {
         Class_Initialize(fileSystem, path);
     } catch (const std::exception&) {
-        // An unreadable file is no message: all values stay as they were before the read.
+        // An unreadable file shows no message: all values stay as they were before the read.
     }
 }
 

@@ -19,8 +19,8 @@ void ComboBox::SetListIndex(int index) {
 }
 
 void ComboBox::AddItem(std::string text) {
-    const int place = items_.Add(std::move(text));
-    if (place <= listIndex_) ++listIndex_;
+    const int position = items_.Add(std::move(text));
+    if (position <= listIndex_) ++listIndex_;
     ++itemsVersion_;
     Changed();
 }

@@ -52,8 +52,8 @@ struct Design {
 };
 
 /// What every control of a window shares. Members named Set… change it from the program, members named
-/// User… are called by the realisation when the user acts, and do nothing where the user cannot act: on a
-/// control that is disabled or hidden, or on a window behind a modal one.
+/// User… are called by its view when the user acts, and do nothing where the user cannot act: on a control
+/// that is disabled or hidden, or on a window behind a modal one. They return false then.
 class Control {
 public:
     Control(Form& form, ControlKind kind, Design design);

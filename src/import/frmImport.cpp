@@ -36,7 +36,7 @@ std::string CountOf(std::int32_t count, const std::string& word) {
 
 frmImport::frmImport(frmMain& mainForm)
     : frmImportLayout(mainForm.Core().Desktop()), mainForm_(mainForm), core_(mainForm.Core()) {
-    CheckDelete.OnClick = [this] { CheckDelete.SetValue(true); };  // the run deletes, whatever happens
+    CheckDelete.OnClick = [this] { CheckDelete.SetValue(true); };  // an import always deletes them
     for (int option = 1; option <= 2; ++option) {
         OptionSource[option].OnClick = [this, option] { ChooseSource(option); };
     }
@@ -101,7 +101,7 @@ void frmImport::StartImport() {
     try {
         RunImport();
     } catch (const std::exception&) {
-        // Whatever happened, the user gets out by Finish.
+        // Whatever failed, the user can close the dialog by Finish.
     }
     SetBusy(false);
     ButtonCancel.SetEnabled(false);
@@ -155,7 +155,7 @@ bool frmImport::DeleteAllFiles(const std::string& path) const {
             try {
                 folder->Delete(name);
             } catch (const std::exception&) {
-                // The files left over tell.
+                // The check below finds the files that could not be deleted.
             }
         }
         return folder->Files().empty();
@@ -186,7 +186,7 @@ void frmImport::UpdateDisplay(Display display) {
     }
     LabelSourceFiles.SetCaption(CountOf(sourceFileCount_, filesWord_));
     LabelTargetFiles.SetCaption(CountOf(targetFileCount, filesWord_));
-    // The end of a run: no other colour comes after it.
+    // Once red, the label stays red: the import is over.
     if (display == Display::Incomplete) LabelTargetFiles.SetForeColor(kRed);
     Owner().YieldIfDue();
 }
@@ -207,11 +207,11 @@ void frmImport::ShowPicture(Display display, std::int32_t targetFileCount) {
 }
 
 bool frmImport::StopRequested() const {
-    return stopRequested_ || !IsOpen();  // the system may have closed the dialog in the middle of its run
+    return stopRequested_ || !IsOpen();  // the system may have closed the dialog during the import
 }
 
 void frmImport::FileDone() {
-    // Nobody sees the counts between two yields, and in a large folder they are not cheap.
+    // Counts show at a yield only, and counting the files of a large folder takes time.
     if (Owner().YieldIsDue()) UpdateDisplay(Display::Counts);
 }
 

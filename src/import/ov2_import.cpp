@@ -50,7 +50,7 @@ private:
     std::size_t end_ = 0;
 };
 
-/// False when the source holds what no OV2 file holds.
+/// False when the source has a record that no OV2 file can have.
 bool WriteRecords(platform::ByteReader& source, platform::TextWriter& target, std::string_view suffix) {
     RecordReader records(source);
     std::string line;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kRedLight = 3;
 
-/// The label of the added records moves when so many came in.
+/// The label of the added records is updated each time so many more were read.
 constexpr std::int32_t kRecordsPerRefresh = 97;
 
 constexpr std::size_t kShortRecord = 4;
@@ -153,8 +153,8 @@ void TxtImport::CollectAllSpeeds() {
 }
 
 void TxtImport::CollectSpeeds(TypeRecords& records) {
-    // The speeds were told apart when the records were read. The turns are still there, one for each record,
-    // so that a stop comes through before the first file is written.
+    // The records were grouped by speed as they were read. This loop only yields, once for each record, so
+    // that the user can stop the import before its first file is written.
     for (std::int32_t i = 0; i < records.Count(); ++i) {
         task_.progress.Yield();
         if (task_.progress.StopRequested()) return;

@@ -127,7 +127,7 @@ void RenameSelectedFile(const modMain& core, forms::ListBox& list) {
         frmRename dialog(core, list);
         core.Desktop().ShowModal(dialog);
     } catch (const std::exception&) {
-        // The user sees that nothing happens, and everything is as it was.
+        // No window opens, and nothing has changed.
     }
 }
 

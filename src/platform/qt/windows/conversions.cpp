@@ -44,9 +44,9 @@ QFont ToFont(const forms::Font& font) {
     return result;
 }
 
-QRect ToRect(const forms::Bounds& place) {
-    return {forms::ToPixels(place.left), forms::ToPixels(place.top), forms::ToPixels(place.width),
-            forms::ToPixels(place.height)};
+QRect ToRect(const forms::Bounds& bounds) {
+    return {forms::ToPixels(bounds.left), forms::ToPixels(bounds.top), forms::ToPixels(bounds.width),
+            forms::ToPixels(bounds.height)};
 }
 
 QRect ToRect(const forms::PixelRect& area) {

@@ -31,7 +31,7 @@ std::string ToUtf8(const QString& text);
 /// The font in the pixel size that belongs to its points at 96 dots per inch.
 QFont ToFont(const forms::Font& font);
 
-QRect ToRect(const forms::Bounds& place);
+QRect ToRect(const forms::Bounds& bounds);
 QRect ToRect(const forms::PixelRect& area);
 
 forms::Color ToColor(const QColor& color);
