@@ -1,5 +1,7 @@
 #include "catalogue/camera_list.h"
 
+#include "base/failure.h"
+
 #include <algorithm>
 #include <exception>
 
@@ -13,6 +15,7 @@ std::vector<std::string> FindCameraFiles(platform::HostFiles& files, std::string
             entries.emplace_back(name.substr(0, name.size() - kExtension.size()));
         });
     } catch (const std::exception&) {
+        TraceFailure("list the camera files", folder);
         // What was found so far is shown.
     }
     // Names that differ only in the case of the extension are one entry.

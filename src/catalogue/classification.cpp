@@ -1,5 +1,6 @@
 #include "catalogue/classification.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/wildcard.h"
 
@@ -33,6 +34,7 @@ std::vector<bool> MatchAny(const std::vector<std::u32string>& names, const Patte
             }
         }
     } catch (const std::exception&) {
+        TraceFailure("match a pattern");
         // Neither a malformed pattern nor settings that could not be read are worth a message.
     }
     return matched;
@@ -46,6 +48,7 @@ bool ClassifyFilesOfType(forms::ListBox& source, forms::ListBox& target, const P
         const std::vector<bool> matched = MatchAny(FoldedFileNames(source, codePage), patterns, codePage);
         return source.MoveItemsTo(target, [&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
     } catch (const std::exception&) {
+        TraceFailure("classify files");
         return false;  // a move is all or nothing
     }
 }

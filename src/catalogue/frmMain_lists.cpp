@@ -1,5 +1,6 @@
 // The lists of the main window: their files, moves, drags, selections, and the buttons that depend on them.
 
+#include "base/failure.h"
 #include "catalogue/camera_list.h"
 #include "catalogue/classification.h"
 #include "catalogue/frmMain.h"
@@ -49,6 +50,7 @@ void frmMain::LoadCameraFiles() {
     try {
         MainList.AddItems(std::move(entries));
     } catch (const std::exception&) {
+        TraceFailure("fill the list of camera files");
         // A folder with more files than a list can hold shows the first ones.
     }
 }

@@ -1,5 +1,6 @@
 #include "catalogue/languages.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
 #include "ui/language/cNamesClass.h"
@@ -41,6 +42,7 @@ void FillLanguageList(forms::ComboBox& list, const platform::Platform& services,
             list.AddItem(name);
         });
     } catch (const std::exception&) {
+        TraceFailure("list the languages", folder);
         // The languages found so far are offered.
     }
 }
@@ -59,6 +61,7 @@ bool FileExistsCheck(platform::FileSystem& fileSystem, std::string_view path) {
     try {
         return fileSystem.CreateFileSystemObject()->FileExists(path);
     } catch (const std::exception&) {
+        TraceFailure("look for a file", path);
         return false;
     }
 }

@@ -1,5 +1,6 @@
 #include "core/cSettingsClass.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/trim.h"
 
@@ -83,6 +84,7 @@ cSettingsClass::cSettingsClass(platform::FileSystem& fileSystem, std::string_vie
     try {
         Class_Initialize(fileSystem, path);
     } catch (const std::exception&) {
+        TraceFailure("read the settings", path);
         // An unreadable file shows no message: all values stay as they were before the read.
     }
 }

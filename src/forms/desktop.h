@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/failure.h"
 #include "forms/form.h"
 #include "forms/sorted_items.h"
 #include "forms/toolkit.h"
@@ -89,6 +90,7 @@ bool Desktop::Raise(const Handler& handler) noexcept {
         handler();
         return true;
     } catch (...) {
+        TraceFailure("handle an event");
         return false;
     }
 }

@@ -1,5 +1,6 @@
 #include "import/frmImport.h"
 
+#include "base/failure.h"
 #include "import/ov2_import.h"
 #include "import/txt_import.h"
 #include "ui/group_text_color.h"
@@ -101,6 +102,7 @@ void frmImport::StartImport() {
     try {
         RunImport();
     } catch (const std::exception&) {
+        TraceFailure("import");
         // Whatever failed, the user can close the dialog by Finish.
     }
     SetBusy(false);
@@ -126,6 +128,7 @@ bool frmImport::ConvertSources() {
         const bool isSound = sourceOption_ == kOv2 ? ConvertOv2(task) : ConvertTxt(task);
         return isSound && !StopRequested();
     } catch (const std::exception&) {
+        TraceFailure("convert the sources", task.sourceFolder);
         return false;
     }
 }
@@ -155,11 +158,13 @@ bool frmImport::DeleteAllFiles(const std::string& path) const {
             try {
                 folder->Delete(name);
             } catch (const std::exception&) {
+                TraceFailure("delete a camera file", name);
                 // The check below finds the files that could not be deleted.
             }
         }
         return folder->Files().empty();
     } catch (const std::exception&) {
+        TraceFailure("empty the camera folder", path);
         return false;
     }
 }
@@ -174,6 +179,7 @@ std::int32_t frmImport::CountFiles(const std::string& path, std::string_view ext
         }
         return count;
     } catch (const std::exception&) {
+        TraceFailure("count files", path);
         return 0;
     }
 }

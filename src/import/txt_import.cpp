@@ -1,5 +1,6 @@
 #include "import/txt_import.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/numbers.h"
 #include "base/text/trim.h"
@@ -101,6 +102,7 @@ void TxtImport::ReadTxtFiles() {
     try {
         names = SourceFiles(task_);
     } catch (const std::exception&) {
+        TraceFailure("list the TXT sources", task_.sourceFolder);
         return;
     }
     for (const std::string& name : names) {
@@ -117,6 +119,7 @@ void TxtImport::ReadTxtFile(const std::string& path) {
         task_.progress.RecordsAdded(addedRecords_);
         file->Close();
     } catch (const std::exception&) {
+        TraceFailure("read a TXT source", path);
         // The records taken so far stay; the rest of the file is lost.
     }
 }
@@ -168,6 +171,7 @@ void TxtImport::WriteAllTypes() {
         try {
             WriteTypeFiles(type);
         } catch (const std::exception&) {
+            TraceFailure("write the camera files of a type", kTypeWords[static_cast<std::size_t>(type)]);
             // The speeds of this type that are not written yet are lost.
         }
     }

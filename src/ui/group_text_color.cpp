@@ -1,5 +1,7 @@
 #include "ui/group_text_color.h"
 
+#include "base/failure.h"
+
 #include <exception>
 
 namespace halvenmoor {
@@ -10,6 +12,7 @@ bool GetGroupTextColor(const platform::Theme& theme, forms::Color& color) {
         color = theme.GroupBoxTextColor().value_or(color);
         return true;
     } catch (const std::exception&) {
+        TraceFailure("read the theme");
         return false;
     }
 }
