@@ -4,9 +4,9 @@
 
 namespace halvenmoor::forms {
 
-ComboBox::ComboBox(Form& form, Design design)
-    : Control(form, ControlKind::ComboBox, std::move(design)),
-      items_(form.Owner().ListOrder()),
+ComboBox::ComboBox(Design design)
+    : Control(ControlKind::ComboBox, std::move(design)),
+      items_(Owner().Owner().ListOrder()),
       text_(AtDesign().text) {
 }
 

@@ -28,7 +28,7 @@ enum class ControlKind {
 /// that is disabled or hidden, or on a window behind a modal one. They return false then.
 class Control {
 public:
-    Control(Form& form, ControlKind kind, Design design);
+    Control(ControlKind kind, Design design);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -36,7 +36,7 @@ public:
     const Design& AtDesign() const { return design_; }
     const std::string& Name() const { return design_.name; }
     ControlKind Kind() const { return kind_; }
-    Form& Owner() const { return form_; }
+    Form& Owner() const { return design_.form; }
 
     /// UTF-8; shown as plain text.
     const std::string& Caption() const { return caption_; }
@@ -73,7 +73,6 @@ protected:
     void Changed();
 
 private:
-    Form& form_;
     const ControlKind kind_;
     const Design design_;
     std::string caption_;

@@ -11,8 +11,7 @@ bool CommandButton::UserPress() {
     });
 }
 
-CheckBox::CheckBox(Form& form, Design design)
-    : Control(form, ControlKind::CheckBox, std::move(design)), value_(AtDesign().on) {
+CheckBox::CheckBox(Design design) : Control(ControlKind::CheckBox, std::move(design)), value_(AtDesign().on) {
 }
 
 void CheckBox::SetValue(bool value) {
@@ -29,8 +28,8 @@ bool CheckBox::UserPress() {
     });
 }
 
-OptionButton::OptionButton(Form& form, Design design)
-    : Control(form, ControlKind::OptionButton, std::move(design)), value_(AtDesign().on) {
+OptionButton::OptionButton(Design design)
+    : Control(ControlKind::OptionButton, std::move(design)), value_(AtDesign().on) {
 }
 
 void OptionButton::SetValue(bool value) {
@@ -62,8 +61,8 @@ void OptionButton::TurnOn() {
     Changed();
 }
 
-PictureBox::PictureBox(Form& form, Design design)
-    : Control(form, ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
+PictureBox::PictureBox(Design design)
+    : Control(ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
 }
 
 void PictureBox::SetBordered(bool bordered) {

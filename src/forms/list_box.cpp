@@ -23,8 +23,8 @@ private:
     std::string text_;
 };
 
-ListBox::ListBox(Form& form, Design design)
-    : Control(form, ControlKind::ListBox, std::move(design)), items_(form.Owner().ListOrder()) {
+ListBox::ListBox(Design design)
+    : Control(ControlKind::ListBox, std::move(design)), items_(Owner().Owner().ListOrder()) {
 }
 
 int ListBox::TopIndex() const {
