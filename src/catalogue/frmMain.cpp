@@ -141,9 +141,11 @@ void frmMain::ApplyLanguageTexts() {
 /// Names the controls without a caption after their neighbours, for screen readers.
 void frmMain::NameControls() {
     const std::string& unclassified = LabelMainList.Caption();
+    const TypeTable<forms::PictureBox*> pictures{nullptr,   &Picture1, &Picture2,
+                                                 &Picture3, &Picture4, &Picture5};
     for (int type = kFirstType; type <= kLastType; ++type) {
         const std::string& heading = LabelTypeList[type].Caption();
-        Picture[type].SetAccessibleName(heading);
+        pictures[static_cast<std::size_t>(type)]->SetAccessibleName(heading);
         TypeList[type].SetAccessibleName(heading);
         CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
         ButtonAdd[type].SetAccessibleName(MoveWords(unclassified, heading));

@@ -14,9 +14,11 @@ public:
     // clang-format off
     Array<Label, 1, 5> LabelTypeList{[this](int i) {
         return Row("LabelTypeList", { 150,  240 + 1560 * (i - 1), 4815,  255}, 38 + i, kHeadings[i - 1]); }};
-    Array<PictureBox, 1, 5> Picture{[this](int i) {
-        return Row("Picture",       { 150,  480 + 1560 * (i - 1), 1230, 1230}, i == 1 ? 28 : 33 + i)
-            .Showing("type" + std::to_string(i)).Bordered(); }};
+    PictureBox Picture1{Row("Picture1", {150,  480, 1230, 1230}, 28).Showing("type1").Bordered()};
+    PictureBox Picture2{Row("Picture2", {150, 2040, 1230, 1230}, 35).Showing("type2").Bordered()};
+    PictureBox Picture3{Row("Picture3", {150, 3600, 1230, 1230}, 36).Showing("type3").Bordered()};
+    PictureBox Picture4{Row("Picture4", {150, 5160, 1230, 1230}, 37).Showing("type4").Bordered()};
+    PictureBox Picture5{Row("Picture5", {150, 6720, 1230, 1230}, 38).Showing("type5").Bordered()};
     Array<ListBox, 1, 5> TypeList{[this](int i) {
         return Row("TypeList",      {1440,  480 + 1560 * (i - 1), 3375, 1230}, 29 + i); }};
     Array<CheckBox, 1, 5> CheckAuto{[this](int i) {
