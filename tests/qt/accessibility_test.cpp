@@ -42,6 +42,7 @@ void ExpectAllNamed(forms::Form& form) {
     const bool isMain = form.AtDesign().name == "frmMain";
     EXPECT_EQ(window->role(), isMain ? QAccessible::Window : QAccessible::Dialog);
     EXPECT_EQ(window->text(QAccessible::Name).toStdString(), form.Caption());
+    EXPECT_FALSE(WidgetOf(form).windowIcon().isNull()) << "the task bar shows it";
     for (const forms::Control* control : form.Controls()) {
         if (!control->Visible()) continue;
         const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));

@@ -12,7 +12,6 @@ public:
                            .title = "Export Speed Cameras",
                            .width = 6990,
                            .height = 1830,
-                           .icon = false,
                            .closeBox = false}) {}
 
     // clang-format off

@@ -12,7 +12,6 @@ public:
                            .title = "Rename File",
                            .width = 3495,
                            .height = 855,
-                           .icon = false,
                            .closeBox = false,
                            .toolWindow = true,
                            .keyPreview = true}) {
