@@ -33,6 +33,8 @@ struct Design {
     bool centred = false;
     bool bordered = false;
     Glyph glyph = Glyph::None;
+    /// The font size of the glyph, in points.
+    double glyphSize = 0;
     /// Command buttons: the digit that presses the button together with Alt; 0 for none.
     char altDigit = 0;
     /// Picture boxes: the picture by its name, without a folder or an extension.
@@ -45,7 +47,10 @@ struct Design {
     Design& On(bool isOn = true) { return Set(on, isOn); }
     Design& Centred() { return Set(centred, true); }
     Design& Bordered() { return Set(bordered, true); }
-    Design& Showing(Glyph itsGlyph) { return Set(glyph, itsGlyph); }
+    Design& Showing(Glyph itsGlyph, double points) {
+        glyphSize = points;
+        return Set(glyph, itsGlyph);
+    }
     Design& Showing(std::string itsPicture) { return Set(picture, std::move(itsPicture)); }
     Design& WithAlt(char digit) { return Set(altDigit, digit); }
 

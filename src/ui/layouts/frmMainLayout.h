@@ -25,10 +25,10 @@ public:
         return Row("CheckAuto",     {4920,  540 + 1560 * (i - 1),  795,  255}, 9 + 3 * i, "Auto").On(); }};
     Array<CommandButton, 1, 5> ButtonAdd{[this](int i) {
         return Row("ButtonAdd",     {4860,  840 + 1560 * (i - 1),  855,  375}, 10 + 3 * i)
-            .Showing(Glyph::TriangleLeft).WithAlt(kAddDigits[i - 1]); }};
+            .Showing(Glyph::TriangleLeft, 14.25).WithAlt(kAddDigits[i - 1]); }};
     Array<CommandButton, 1, 5> ButtonRemove{[this](int i) {
         return Row("ButtonRemove",  {4860, 1305 + 1560 * (i - 1),  855,  375}, 11 + 3 * i)
-            .Showing(Glyph::TriangleRight).WithAlt(kRemoveDigits[i - 1]); }};
+            .Showing(Glyph::TriangleRight, 14.25).WithAlt(kRemoveDigits[i - 1]); }};
 
     Label    LabelMainList      {Row("LabelMainList",       {5760, 240, 3375,  255}, 44, "Speed Camera Files  (Unclassified)")};
     ListBox  MainList           {Row("MainList",            {5760, 480, 3375, 7470}, 29)};

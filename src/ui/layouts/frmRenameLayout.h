@@ -20,8 +20,8 @@ public:
 
     // clang-format off
     TextBox       TextFileName{Row("TextFileName", {  60, 120, 3375, 285}, 0, "File Name")};
-    CommandButton ButtonRename{Row("ButtonRename", {1620, 480,  855, 315}, 1).Showing(Glyph::Tick)};
-    CommandButton ButtonCancel{Row("ButtonCancel", {2580, 480,  855, 315}, 2).Showing(Glyph::Cross)};
+    CommandButton ButtonRename{Row("ButtonRename", {1620, 480,  855, 315}, 1).Showing(Glyph::Tick, 14.25)};
+    CommandButton ButtonCancel{Row("ButtonCancel", {2580, 480,  855, 315}, 2).Showing(Glyph::Cross, 8.25)};
     PictureBox    PicBox      {Row("PicBox",       { 120, 600,  135, 135}, 3).Hidden()};
     // clang-format on
 };

@@ -6,7 +6,6 @@ namespace halvenmoor::qt {
 
 namespace {
 
-constexpr double kPixelsPerPoint = 96.0 / 72.0;
 // Unicode has a visible sign for each control character.
 constexpr char16_t kFirstControlSign = 0x2400;
 

@@ -14,6 +14,9 @@
 
 namespace halvenmoor::qt {
 
+/// At 96 dots per inch.
+inline constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
 /// Bytes as they are shown: UTF-8, anything else by the code page.
 QString ToText(std::string_view bytes, const text::CodePage& page);
 
@@ -28,7 +31,7 @@ Qt::Alignment SideOf(const QString& text);
 
 std::string ToUtf8(const QString& text);
 
-/// The font in the pixel size that belongs to its points at 96 dots per inch.
+/// The font in the pixel size that belongs to its points.
 QFont ToFont(const forms::Font& font);
 
 QRect ToRect(const forms::Bounds& bounds);
