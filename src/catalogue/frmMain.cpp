@@ -13,7 +13,7 @@ namespace {
 constexpr int kLeftOfMiddle = 400;
 constexpr int kAboveMiddle = 315;
 
-/// A move of entries, by the headings of the lists.
+/// A move of entries to the list with a heading: from another list, or by a button.
 std::string MoveWords(std::string from, const std::string& to) {
     return from.append(" \u2192 ").append(to);
 }
@@ -140,6 +140,7 @@ void frmMain::ApplyLanguageTexts() {
 
 /// Names the controls without a caption after their neighbours, for screen readers.
 void frmMain::NameControls() {
+    const cNamesClass& names = *core_.Names;
     const std::string& unclassified = LabelMainList.Caption();
     const TypeTable<forms::PictureBox*> pictures{nullptr,   &Picture1, &Picture2,
                                                  &Picture3, &Picture4, &Picture5};
@@ -148,6 +149,7 @@ void frmMain::NameControls() {
         pictures[static_cast<std::size_t>(type)]->SetAccessibleName(heading);
         TypeList[type].SetAccessibleName(heading);
         CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
+        CheckAuto[type].SetToolTip(MoveWords(names.ButtonClassifyFiles(), heading));
         ButtonAdd[type].SetAccessibleName(MoveWords(unclassified, heading));
         ButtonAdd[type].SetToolTip("Alt+" + std::to_string(type));
         ButtonRemove[type].SetAccessibleName(MoveWords(heading, unclassified));

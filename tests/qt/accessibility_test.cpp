@@ -66,6 +66,7 @@ TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     }
     EXPECT_EQ(NameOf(Form().TypeList[4]), "Blitzer Typ \"4\" (Abschnittskontrolle)");
     EXPECT_EQ(NameOf(Form().MainList), "Blitzerdateien (Ohne Typ)");
+    EXPECT_EQ(Form().CheckAuto[4].ToolTip(), "Dateien zuordnen → Blitzer Typ \"4\" (Abschnittskontrolle)");
     EXPECT_EQ(NameOf(Form().ButtonAdd[5]),
               "Blitzerdateien (Ohne Typ) \u2192 Blitzer Typ \"5\" (Mobiler Blitzer)");
     EXPECT_EQ(NameOf(Form().ButtonRemove[1]),
