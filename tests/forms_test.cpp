@@ -15,8 +15,8 @@ namespace {
 using headless::ItemsOf;
 using Log = std::vector<std::string>;
 
-Design At(const char* name, int tab, const Control* frame = nullptr) {
-    return {.name = name, .bounds = {}, .tab = tab, .frame = frame};
+Design At(Form& form, const char* name, int tab) {
+    return {.form = form, .name = name, .bounds = {}, .tab = tab};
 }
 
 /// A form that tells what happens to it. Its tab order is not the order of its controls.
@@ -48,10 +48,10 @@ struct TestForm : Form {
     bool mayClose = true;
     std::function<void()> OnLoad;
     std::function<void()> OnActivate;
-    CommandButton third{*this, At("third", 3)};
-    Label title{*this, At("title", 0)};
-    CommandButton first{*this, At("first", 1)};
-    CheckBox second{*this, At("second", 2)};
+    CommandButton third{At(*this, "third", 3)};
+    Label title{At(*this, "title", 0)};
+    CommandButton first{At(*this, "first", 1)};
+    CheckBox second{At(*this, "second", 2)};
 };
 
 class FormsTest : public testing::Test {
@@ -87,13 +87,13 @@ protected:
                     }};
     TestForm main{desktop, log, {.name = "main", .title = ""}};
     TestForm dialog{desktop, log, {.name = "dialog", .title = "", .keyPreview = true}};
-    ListBox list{main, At("list", 4)};
-    ListBox other{main, At("other", 6)};
-    ComboBox combo{main, At("combo", 5)};
+    ListBox list{At(main, "list", 4)};
+    ListBox other{At(main, "other", 6)};
+    ComboBox combo{At(main, "combo", 5)};
 };
 
 TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
-    OptionButton option(main, At("option", 7));
+    OptionButton option(At(main, "option", 7));
     for (Control* control : main.Controls()) CountClicks(*control);
     combo.AddItem("a");
     list.AddItems({"a"});
@@ -147,10 +147,10 @@ TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
 }
 
 TEST_F(FormsTest, OptionButtonsExcludeEachOtherWithinTheirFrame) {
-    Frame frame(main, At("frame", 6));
-    OptionButton one(main, At("one", 7));
-    OptionButton two(main, At("two", 8));
-    OptionButton inner(main, At("inner", 9, &frame));
+    Frame frame(At(main, "frame", 6));
+    OptionButton one(At(main, "one", 7));
+    OptionButton two(At(main, "two", 8));
+    OptionButton inner(At(main, "inner", 9).In(frame));
     ShowMain();
     EXPECT_TRUE(one.UserPress());
     EXPECT_TRUE(inner.UserPress());

@@ -90,7 +90,8 @@ TEST_F(LayoutTest, NothingThatTheUserOperatesIsCovered) {
 
 TEST(GroupTextColorTest, HeadingsAreAsTheThemeHasThem) {
     headless::FixedTheme theme;
-    EXPECT_EQ(HeadingColor(theme), static_cast<forms::Color>(0x80000012)) << "button text";
+    theme.Colors[forms::kButtonTextNumber] = 0x040506;
+    EXPECT_EQ(HeadingColor(theme), 0x040506) << "button text";
     theme.Themed = true;
     EXPECT_EQ(HeadingColor(theme), 0) << "black where the theme does not tell";
     theme.GroupBoxText = forms::Rgb(1, 2, 3);

@@ -1,5 +1,6 @@
 #include "import/ov2_import.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "import/ov2_record.h"
 
@@ -55,7 +56,7 @@ private:
     std::size_t end_ = 0;
 };
 
-/// False when the source holds what no OV2 file holds.
+/// False when the source has a record that no OV2 file can have.
 bool WriteRecords(platform::ByteReader& source, platform::TextWriter& target, std::string_view suffix) {
     RecordReader records(source);
     std::string line;
@@ -88,6 +89,7 @@ void Remove(platform::Folder& folder, const std::string& name) {
     try {
         folder.Delete(name);
     } catch (const std::exception&) {
+        TraceFailure("delete an incomplete camera file", name);
         // What cannot be deleted stays, and counts as a camera file.
     }
 }
@@ -105,7 +107,7 @@ bool ConvertOv2File(const ImportTask& task, const std::string& sourceName, platf
         target->Close();
         if (isSound) return true;
     } catch (const std::exception&) {
-        // As if the source held what no OV2 file holds.
+        TraceFailure("convert an OV2 source", sourceName);
     }
     if (!target) return false;
     target.reset();
@@ -122,6 +124,7 @@ std::int16_t ConvertOv2Files(const ImportTask& task) {
         names = SourceFiles(task);
         targetFolder = task.services.fileSystem.CreateFileSystemObject()->GetFolder(task.targetFolder);
     } catch (const std::exception&) {
+        TraceFailure("list the OV2 sources", task.sourceFolder);
         return 0;  // with anything wrong with one of the folders nothing is converted
     }
     std::int16_t failed = 0;

@@ -6,6 +6,9 @@
 #include "program_fixture.h"
 #include "tests/temporary_folder.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+
 namespace halvenmoor::qt {
 namespace {
 
@@ -49,6 +52,8 @@ protected:
                 QTest::mouseClick(window.findChild<QWidget*>(name), Qt::LeftButton, {}, place);
             };
             press(QString("OptionSource(%1)").arg(source), {8, 14});
+            press("CheckDelete");
+            EXPECT_TRUE(window.findChild<QCheckBox*>("CheckDelete")->isChecked());
             press("ButtonStart");
             EXPECT_TRUE(window.findChild<QWidget*>("PictureFinished")->isVisible());
             count = Words(window, "LabelTargetFiles");
@@ -74,6 +79,8 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
     EXPECT_EQ(Words(Main(), "LabelTypeList(1)"), "Speed Camera Type \"1\" (Fixed Speed Camera)");
     WidgetOf(Form().LanguageList).setFocus();
     QTest::keyClick(&WidgetOf(Form().LanguageList), Qt::Key_Down);
+    QTest::keyClick(&WidgetOf(Form().LanguageList), Qt::Key_X);
+    EXPECT_EQ(Main().findChild<QComboBox*>("LanguageList")->currentText(), "Klingon") << "typing is undone";
     EXPECT_EQ(Words(Main(), "ButtonExportCameras"), "Nob");
 
     Click(Form().ButtonClassifyFiles);
