@@ -92,11 +92,11 @@ bool AreDigits(text::Word digits) {
 /// the same as the number. Every coordinate comes here: taking its characters eight at a time makes an export
 /// 1.12 times as fast.
 std::optional<PlainDegrees> ReadPlainDegrees(std::string_view text) {
-    constexpr std::size_t most = sizeof(text::Word);
+    constexpr std::size_t kWordSize = sizeof(text::Word);
     if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-    if (text.size() > 2 * most) return std::nullopt;
-    text::Word digits = Digits(text.substr(0, most));
-    const text::Word moreDigits = text.size() > most ? Digits(text.substr(most)) : 0;
+    if (text.size() > 2 * kWordSize) return std::nullopt;
+    text::Word digits = Digits(text.substr(0, kWordSize));
+    const text::Word moreDigits = text.size() > kWordSize ? Digits(text.substr(kWordSize)) : 0;
 
     const text::Word point = text::BytesEqual(digits, '.' ^ '0');
     const int wholeBits = std::countr_zero(point) / 8 * 8;
