@@ -16,7 +16,7 @@ void Desktop::Show(Form& form) {
 void Desktop::ShowModal(Form& form) {
     if (ended_) return;
     Open(form);
-    toolkit_.RunModal(form, [this, &form] { Deliver(form, [&form] { form.Activate(); }); });
+    toolkit_.RunModal(form, [&form] { Deliver(form, [&form] { form.Activate(); }); });
     form.view_.reset();
     if (open_.size() == 1) Deliver(*open_.front(), [this] { open_.front()->Activate(); });
 }
