@@ -5,7 +5,7 @@
 #include "platform/posix/host_files.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/streams.h"
-#include "temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "export/frmExport.h"
 #include "export/results_file.h"
-#include "test_program.h"
+#include "tests/support/test_program.h"
 #include "tools/file_helpers.h"
 
 #include <set>

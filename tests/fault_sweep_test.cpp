@@ -2,7 +2,7 @@
 // and what is left afterwards has to be sound and of use. What cannot fail by its contract is left out:
 // clock, yields, forms, stored options.
 
-#include "journeys.h"
+#include "tests/support/journeys.h"
 
 #include <iostream>
 

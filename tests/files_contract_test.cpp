@@ -3,7 +3,7 @@
 #include "platform/headless/memory_files.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
-#include "temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
 #include <array>

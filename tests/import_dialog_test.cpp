@@ -1,4 +1,4 @@
-#include "import_program.h"
+#include "tests/support/import_program.h"
 #include "tools/file_helpers.h"
 
 #include <algorithm>

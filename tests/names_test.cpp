@@ -1,6 +1,6 @@
 #include "base/text/decode.h"
-#include "import_program.h"
-#include "temporary_folder.h"
+#include "tests/support/import_program.h"
+#include "tests/support/temporary_folder.h"
 #include "ui/frmRename.h"
 #include "ui/language/cNamesClass.h"
 

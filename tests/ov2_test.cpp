@@ -1,6 +1,6 @@
 #include "import/ov2_record.h"
-#include "import_program.h"
-#include "temporary_folder.h"
+#include "tests/support/import_program.h"
+#include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
 #include <limits>

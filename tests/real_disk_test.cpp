@@ -1,7 +1,7 @@
 // The whole program on a real disk that is full, closed to it, or not what it expects.
 
-#include "disk_program.h"
-#include "journeys.h"
+#include "tests/support/disk_program.h"
+#include "tests/support/journeys.h"
 #include "tools/file_helpers.h"
 
 #include <csignal>

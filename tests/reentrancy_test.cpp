@@ -2,7 +2,7 @@
 // presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
 // start over, and nothing may be lost.
 
-#include "journeys.h"
+#include "tests/support/journeys.h"
 #include "tools/file_helpers.h"
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-#include "test_program.h"
+#include "tests/support/test_program.h"
 
 namespace halvenmoor {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "fuzz/world.h"
 #include "import/txt_import.h"
-#include "tests/disk_program.h"
+#include "tests/support/disk_program.h"
 #include "tools/file_helpers.h"
 
 #include <cstdlib>

@@ -5,7 +5,7 @@
 
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/settings.h"
-#include "tests/disk_program.h"
+#include "tests/support/disk_program.h"
 #include "tools/file_helpers.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 #include "platform/posix/host_files.h"
 #include "platform/posix/path_finder.h"
 #include "program_fixture.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace halvenmoor::qt {
 namespace {

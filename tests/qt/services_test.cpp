@@ -5,7 +5,7 @@
 #include "platform/qt/services/program_info.h"
 #include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "window_fixture.h"
 
 #include <QElapsedTimer>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "import_program.h"
-#include "journeys.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
 #include "platform/posix/path_finder.h"
-#include "temporary_folder.h"
+#include "tests/support/import_program.h"
+#include "tests/support/journeys.h"
+#include "tests/support/temporary_folder.h"
 
 #include <filesystem>
 #include <numeric>

@@ -1,4 +1,4 @@
-#include "journeys.h"
+#include "tests/support/journeys.h"
 
 namespace halvenmoor {
 

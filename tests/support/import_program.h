@@ -1,6 +1,6 @@
 #pragma once
 
-#include "test_program.h"
+#include "tests/support/test_program.h"
 #include "tools/user_actions.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import_program.h"
+#include "tests/support/import_program.h"
 #include "tools/file_helpers.h"
 
 #include <algorithm>
