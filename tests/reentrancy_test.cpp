@@ -3,7 +3,6 @@
 // start over, and nothing may be lost.
 
 #include "tests/support/journeys.h"
-#include "tools/file_helpers.h"
 
 #include <stdexcept>
 
@@ -147,7 +146,7 @@ protected:
         if (isExport) anything.targets = {"/p/txt/", "/p/demo/", "/p/Export Results.txt"};
         ExpectSoundProgram(program, anything);
         const std::string old = program.Text("/p/txt/old.txt");
-        EXPECT_TRUE(old.starts_with(JourneyProgram::kOldTarget)) << old;
+        EXPECT_TRUE(old.starts_with(JourneyProgram::OldTarget())) << old;
     }
 
     void ExpectWorksAgain(JourneyProgram& program) {

@@ -6,7 +6,6 @@
 #include "fuzz/world.h"
 #include "import/txt_import.h"
 #include "tests/support/disk_program.h"
-#include "tools/file_helpers.h"
 
 #include <cstdlib>
 #include <malloc.h>

@@ -3,19 +3,14 @@
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
 #include "platform/posix/path_finder.h"
-#include "tests/support/import_program.h"
 #include "tests/support/journeys.h"
 #include "tests/support/temporary_folder.h"
 
 #include <filesystem>
-#include <numeric>
 #include <string>
 #include <unistd.h>
 
 namespace halvenmoor {
-
-const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
-const std::string kComment = "; Generic Ascii file created by Halvenmoor.\r\n\r\n";
 
 inline std::string Repeated(const std::string& text, std::size_t count) {
     std::string all;
@@ -70,10 +65,6 @@ struct DiskProgram : headless::Fakes {
     std::string Import(int source) { return UserImports(*this, Window(), source, ImportProgram::ExpectDone); }
     void Rename(const std::string& entry, const std::string& newName) {
         UserRenames(*this, Window(), entry, newName);
-    }
-    int Exported() {
-        const auto& counters = program.Exports().CamerasExported;
-        return std::accumulate(counters.begin(), counters.end(), 0);
     }
 
     posix::PathFinder finder{locale.CodePage()};

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tests/support/import_program.h"
-#include "tools/file_helpers.h"
+#include "tests/support/test_program.h"
 
 #include <algorithm>
 #include <functional>
@@ -30,7 +29,7 @@ struct JourneyProgram : TestProgram {
                       "1.5, 52.5, \"a\", 1, 90\r\n2.5, 52.5, \"mobile b\"\r\n200.0, 52.5, \"c\"\r\n");
         AddCameraFile("mobil_30kmh", "3.5, 53.5, \"d\"\r\n");
         AddCameraFile("rest", "4.5, 54.5, \"e\"\r\n");
-        memory.Put("/p/txt/old.txt", kOldTarget);
+        memory.Put("/p/txt/old.txt", OldTarget());
         memory.Put("/p/import/ov2/one.ov2", kPoint);
         memory.Put("/p/import/ov2/two.ov2", kPoint + kPoint);
         memory.Put("/p/import/txt/one.txt", "1.5,52.5,1,50,1,90\n2.5,52.5,2,60\n");
@@ -48,7 +47,7 @@ struct JourneyProgram : TestProgram {
         Window().CheckAuto[1].UserPress();
     }
 
-    static constexpr const char* kOldTarget = "X,Y,TYPE,SPEED,DirType,Direction\r\n9.5,59.5,1,50,0,0\r\n";
+    static std::string OldTarget() { return kHeader + "9.5,59.5,1,50,0,0\r\n"; }
 
     Disk installed;
     /// The disk stays broken: what was begun cannot be taken away again.
@@ -103,8 +102,6 @@ Journey ExportJourney(int mode);
 /// By ImportProgram::kOv2 or kTxt.
 Journey ImportJourney(int source);
 Journey RenameJourney();
-Journey LanguageJourney();
-Journey ReloadJourney();
 Journey StartJourney();
 
 }  // namespace halvenmoor
