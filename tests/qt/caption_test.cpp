@@ -52,17 +52,6 @@ TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
     }
 }
 
-TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
-    const QFont font = ToFont({});
-    const QString caption = "four words in two lines and then some more";
-    const FittedCaption twoLines = FitCaption(caption, font, {100, 26}, Qt::TextWordWrap);
-    EXPECT_TRUE(twoLines.text.startsWith("four words in two lines"));
-    EXPECT_TRUE(twoLines.text.endsWith(u"\u2026"));
-    const FittedCaption tooLow = FitCaption(caption, font, {100, 2}, Qt::TextWordWrap);
-    EXPECT_TRUE(tooLow.text.startsWith("four words")) << "the height of a line is always there";
-    EXPECT_EQ(FitCaption(caption, font, {1, 26}, Qt::TextSingleLine).text, u"\u2026");
-}
-
 /// What lies around the captions of each kind of control, estimated with care.
 const std::map<forms::ControlKind, QMargins> kBorders{{forms::ControlKind::Label, {}},
                                                       {forms::ControlKind::Frame, {11, 0, 11, 0}},

@@ -74,25 +74,6 @@ TEST_F(Lists, FollowTheProgram) {
     EXPECT_EQ(Heard(), Words{}) << "no echo";
 }
 
-TEST_F(Lists, TakeTwentyThousandItemsAtOnce) {
-    std::vector<std::string> items;
-    for (int i = 10000; i < 30000; ++i) items.push_back(std::to_string(i));
-    form.left.AddItems(std::move(items));
-    desktop.Yield();
-    EXPECT_EQ(Left().model()->rowCount(), 20005);
-    ClickRow(0);
-    Left().verticalScrollBar()->setValue(700);
-    EXPECT_EQ(form.left.TopIndex(), 700);
-    form.left.RemoveItem(20004);
-    desktop.Yield();
-    EXPECT_EQ(form.left.TopIndex(), 700);
-    Press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(form.left.SelCount(), 20004);
-    form.left.Clear();
-    desktop.Yield();
-    EXPECT_EQ(Left().model()->rowCount(), 0);
-}
-
 bool DropOn(QWidget& target, const QMimeData& content) {
     QDragEnterEvent enter({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &enter);
