@@ -57,14 +57,11 @@ protected:
 TEST_F(CatalogueTest, ButtonsMoveWhatIsSelected) {
     program.Select(0, {"b", "d"});
     program.Click(Window().ButtonAdd[1]);
-    program.Select(0, {"a", "c", "e"});
-    program.Click(Window().ButtonAdd[1]);
-    EXPECT_EQ(program.Items(0), Strings());
-    EXPECT_EQ(program.Items(1), (Strings{"a", "b", "c", "d", "e"}));
-    program.Select(1, {"b", "e"});
+    EXPECT_EQ(program.Items(0), (Strings{"a", "c", "e"}));
+    program.Select(1, {"b"});
     program.Click(Window().ButtonRemove[5]);
-    EXPECT_EQ(program.Items(0), (Strings{"b", "e"}));
-    EXPECT_EQ(program.Items(1), (Strings{"a", "c", "d"}));
+    EXPECT_EQ(program.Items(0), (Strings{"a", "b", "c", "e"}));
+    EXPECT_EQ(program.Items(1), Strings{"d"});
 }
 
 TEST_F(CatalogueTest, DragsMoveBetweenAnyLists) {
@@ -79,9 +76,6 @@ TEST_F(CatalogueTest, DragsMoveBetweenAnyLists) {
     program.Drag(4, 5, {"c"});
     EXPECT_FALSE(Window().ResultsValid);
     EXPECT_EQ(program.Items(5), Strings{"c"});
-    EXPECT_TRUE(program.List(5).UserStartDrag());
-    EXPECT_TRUE(program.List(5).UserCompleteDrag());  // cancelled
-    EXPECT_FALSE(program.List(1).UserDrop());
 }
 
 TEST_F(CatalogueTest, ButtonsFollowTheLists) {
@@ -209,15 +203,6 @@ TEST_F(LanguageTest, VanishedFileLeavesTheLanguageInUse) {
     Choose("Deutsch");
     EXPECT_EQ(Languages(program), Strings{"English"});
     EXPECT_EQ(ExitCaption(), "Exit");
-    EXPECT_EQ(program.Option("Language"), "English");
-}
-
-TEST_F(LanguageTest, NameThatCannotBeFoundAgainIsNotOffered) {
-    program.locale.CodePageNumber = 1251;  // the disk in memory reads names by 1252
-    program.AddLanguage("\xC4\xE5", "");
-    program.SetOption("Language", "Де");
-    program.Start();
-    EXPECT_EQ(Languages(program), Strings{"English"});
     EXPECT_EQ(program.Option("Language"), "English");
 }
 

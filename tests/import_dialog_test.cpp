@@ -85,7 +85,6 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
             PreparedProgram program;
             program.toolkit.SkipsYields = !isWatched;
             program.memory.Put("/p/asc/.hidden", "");
-            program.memory.Put("/p/asc/note.txt", "");
             program.memory.Put("/p/asc/folder/kept.asc", "kept");
             program.Open([&](frmImport& dialog) {
                 program.Click(dialog.OptionSource[source]);
@@ -104,7 +103,6 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
             EXPECT_EQ(program.toolkit.Yields() > 0, isWatched);
             program.ExpectImported(source);
             EXPECT_FALSE(program.memory.Has("/p/asc/.hidden"));
-            EXPECT_FALSE(program.memory.Has("/p/asc/note.txt"));
             EXPECT_EQ(program.Text("/p/asc/folder/kept.asc"), "kept");
             EXPECT_TRUE(program.Window().ButtonClassifyFiles.HasFocus());
         }

@@ -15,8 +15,6 @@ TEST(StartTest, FirstRunShowsTheDemonstrationInEnglish) {
     EXPECT_EQ(program.core.ExportMode, 1);
     EXPECT_EQ(program.Items(0), Strings{"demo"});
     EXPECT_TRUE(window.CheckDemoMode.Value() && window.CheckSaveResults.Value());
-    EXPECT_FALSE(window.ButtonImportFiles.Enabled());
-    EXPECT_EQ(window.LanguageList.Text(), "English");
     EXPECT_EQ(window.LabelTypeList[1].Caption(), "Speed Camera Type \"1\" (Fixed Speed Camera)");
     EXPECT_EQ(window.OptionExportMode[2].Caption(), "Save File As...");
     EXPECT_EQ(window.ActiveControl(), &window.ButtonClassifyFiles);

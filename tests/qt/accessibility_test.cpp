@@ -5,9 +5,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QLabel>
-#include <algorithm>
 #include <map>
-#include <set>
 
 namespace halvenmoor::qt {
 namespace {
@@ -93,28 +91,6 @@ void ExpectFocusSeenInOrder(forms::Form& form) {
 
 TEST_F(AllWindows, ShowWhereTheFocusIs) {
     LookAtAllWindows(ExpectFocusSeenInOrder);
-}
-
-/// Glyphs show, for they differ, and pictures, for they have more colours than a ground and a border.
-void ExpectPainted(forms::Form& form) {
-    form.Owner().Yield();
-    std::map<forms::Glyph, QImage> glyphs;
-    for (forms::Control* const control : form.Controls()) {
-        const QImage image = WidgetOf(*control).grab().toImage();
-        if (control->AtDesign().glyph != forms::Glyph::None) {
-            glyphs[control->AtDesign().glyph] = image;
-        } else if (!control->AtDesign().picture.empty()) {
-            std::set<QRgb> colors;
-            for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, image.height() / 2));
-            EXPECT_GT(colors.size(), 3u) << control->Name();
-        }
-    }
-    const auto areAlike = [](const auto& a, const auto& b) { return a.second == b.second; };
-    EXPECT_EQ(std::adjacent_find(glyphs.begin(), glyphs.end(), areAlike), glyphs.end());
-}
-
-TEST_F(AllWindows, PaintTheirPictures) {
-    LookAtAllWindows(ExpectPainted);
 }
 
 /// The main window with two camera files, of which no name tells the type.
