@@ -72,13 +72,6 @@ TEST(PositionTest, MustLieOnTheGlobe) {
         EXPECT_FALSE(IsValidPosition("5.5", y)) << y;
 }
 
-TEST(PositionTest, ZeroIsASearch) {
-    EXPECT_TRUE(IsZeroPosition("0.0", "-0.000"));
-    EXPECT_TRUE(IsZeroPosition("10.05", "x0.0"));
-    EXPECT_FALSE(IsZeroPosition("0.0", "0.5"));
-    EXPECT_FALSE(IsZeroPosition("0", "0.0"));
-}
-
 std::string_view Stripped(std::string_view name, const PatternList& units) {
     return StripUnitSuffix(name, units, text::WindowsCodePage(1252));
 }

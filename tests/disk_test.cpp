@@ -1,6 +1,5 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
-#include "platform/posix/clock.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
 #include "platform/posix/locale.h"
@@ -9,7 +8,6 @@
 #include "tools/file_helpers.h"
 
 #include <chrono>
-#include <ctime>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -160,14 +158,6 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
     ASSERT_EQ(::setenv("LC_ALL", before.c_str(), 1), 0);
     EXPECT_EQ(russian.CodePage().number, 1251);
     EXPECT_EQ(russian.DecimalSeparator(), ".");
-}
-
-TEST(DiskClockTest, TellsTheLocalTime) {
-    const std::time_t before = std::time(nullptr);
-    const double time = posix::SystemClock().TimeOfDay();
-    const std::tm local = *std::localtime(&before);
-    const double elapsed = time - ((local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec);
-    EXPECT_TRUE((elapsed >= 0 && elapsed < 60) || elapsed < -86000) << elapsed;  // or across midnight
 }
 
 }  // namespace

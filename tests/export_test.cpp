@@ -100,17 +100,6 @@ TEST(SourceStructureTest, TellsTheExtraFields) {
     }
 }
 
-TEST_F(ExportTest, CameraNamesOverrideTheType) {
-    Add(1, "x", "1.5,52.5,section red\n2.5,52.5,\"\"\n3.5,52.5,\n4.5,52.5,\"\xC3\x96\"\n");
-    Start("[RedSpeed]\nred\n\xF6\n[RedLight]\nnone,\n[Section]\nsection\n");
-    EXPECT_TRUE(program.Export());
-    EXPECT_EQ(program.Target(), kHeader +
-                                    "1.5,52.5,2,0,0,0\r\n2.5,52.5,3,0,0,0\r\n"
-                                    "3.5,52.5,1,0,0,0\r\n4.5,52.5,2,0,0,0\r\n")
-        << "the empty pattern hits quotes, but not an empty plain field";
-    EXPECT_EQ(Exports().CamerasExported, (Counter{0, 1, 2, 1}));
-}
-
 TEST_F(ExportTest, KeepsTheOrderOfListsAndLines) {
     Add(2, "A", "1.5,52.5,x\n");
     Add(1, "K\xF6ln_30", "9.5,52.5,x\n2.5,52.5,x\n9.5,52.5,x\n");

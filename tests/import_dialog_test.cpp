@@ -44,16 +44,12 @@ TEST(ImportDialogTest, OpensReady) {
         EXPECT_EQ(dialog.LabelTargetFolder.Caption(), ".\\asc\\*.asc");
         EXPECT_EQ(dialog.LabelSourceFiles.Caption(), "2 File(s)");
         EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "1 File(s)");
-        EXPECT_EQ(dialog.CheckDelete.Caption(), "Delete any existing files in target folder, then ...");
         EXPECT_EQ(ShownPicture(dialog), "PictureDelete");
         EXPECT_TRUE(dialog.ButtonStart.HasFocus());
         EXPECT_FALSE(dialog.ButtonFinish.Enabled());
         EXPECT_FALSE(program.List(0).Enabled() || program.List(5).Enabled());
-        program.Click(dialog.CheckDelete);
-        EXPECT_TRUE(dialog.CheckDelete.Value());
         program.memory.Remove("/p/import/txt/two.txt");
         program.Click(dialog.OptionSource[kTxt]);
-        EXPECT_EQ(dialog.LabelSourceFolder.Caption(), ".\\import\\txt\\*.txt");
         EXPECT_EQ(dialog.LabelSourceFiles.Caption(), "1 File(s)");
         program.memory.Remove(program.CameraPath("old_50"));
         program.Click(dialog.OptionSource[kOv2]);

@@ -1,4 +1,3 @@
-#include "import/ov2_record.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_program.h"
 
@@ -28,23 +27,6 @@ const std::string kDeleted = Record(0, 9, "gone");
 
 std::string LineOf(const std::string& name) {
     return "1.50000, 52.50000, \"" + name + "\"\r\n";
-}
-
-TEST(Ov2RecordTest, NamesAreCleaned) {
-    const std::pair<std::string, const char*> cases[] = {
-        {"Cafe!", R"("Cafe")"},
-        {"  a  b   c  \0"s, R"("a b c")"},
-        {"a,b\0"s, R"("a; b")"},
-        {"say \"hi\"\0"s, R"("say 'hi'")"},
-        {"\ta \0"s, "\"\ta\""},          // a tab is no blank
-        {"a\0 \0 b \0\0"s, R"("a b")"},  // zero bytes are not there at all
-        {"abcdefg, hijklmn,o\0"s, R"("abcdefg; hijklmn; o")"},
-    };
-    for (const auto& [name, expected] : cases) {
-        std::string text;
-        CleanPoiName(text, name);
-        EXPECT_EQ(text, expected) << testing::PrintToString(name);
-    }
 }
 
 TEST(Ov2ImportTest, FilesOfAnotherProgram) {

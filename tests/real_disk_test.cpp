@@ -118,28 +118,6 @@ TEST_F(RealDiskTest, AnImportToADiskThatIsFullAnywhereHasWholeOv2FilesOnly) {
     }
 }
 
-// Names
-
-TEST_F(RealDiskTest, NamesMayHoldAnyByteAndBeAsLongAsTheyCan) {
-    constexpr std::size_t kMaxName = 255 - 4;  // with the extension
-    Install();
-    folder.Put("Settings.ini", "[Type1]\nf*\n[Settings]\nSourceStructure=1\n");
-    fs::remove(folder / "import/ov2/one.ov2");
-    Disk expected;
-    for (int byte = 1; byte < 256; ++byte) {
-        if (byte == '/') continue;
-        const std::string name = byte == 1 ? std::string(kMaxName, 'f') : std::string("f") + char(byte);
-        folder.Put("import/ov2/" + name + ".ov2", kPoint);
-        expected["asc/" + name + ".asc"] = kImportedOv2.begin()->second;
-    }
-    DiskProgram program(folder);
-    EXPECT_EQ(program.Import(kOv2), "PictureFinished");
-    EXPECT_EQ(CameraFiles(), expected);
-    EXPECT_TRUE(program.Export());
-    const std::string target = folder.Text("txt/SpeedCamText.txt");
-    EXPECT_EQ(std::count(target.begin(), target.end(), '\n'), 1 + std::ssize(expected));
-}
-
 // Special files
 
 struct SpecialFile {

@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
-#include <QLabel>
 #include <map>
 
 namespace halvenmoor::qt {
@@ -137,20 +136,6 @@ TEST_F(Keyboard, DoesTheWholeJob) {
     EXPECT_EQ(memory.Text("/p/demo/txt_demo/SpeedCamText.txt"),
               "X,Y,TYPE,SPEED,DirType,Direction\r\n1.5,2.5,2,50,0,0\r\n3.5,4.5,5,70,0,0\r\n");
     EXPECT_NE(Form().ActiveControl(), nullptr) << "the focus is back in the main window";
-}
-
-TEST_F(Window, KeepsItsLayoutInAnyWriting) {
-    form.label.SetCaption("\u05E9\u05DC\u05D5\u05DD");
-    form.left.AddItem("\u05E9\u05DC\u05D5\u05DD");
-    form.left.AddItem("shalom");
-    desktop.Yield();
-    EXPECT_TRUE(Find<QLabel>("label").alignment().testFlag(Qt::AlignRight));
-    const auto alignment = [&](int row) {
-        const QAbstractItemModel& rows = *Find<QListView>("left").model();
-        return rows.index(row, 0).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    };
-    EXPECT_TRUE(alignment(0).testFlag(Qt::AlignLeft));
-    EXPECT_TRUE(alignment(1).testFlag(Qt::AlignRight));
 }
 
 }  // namespace

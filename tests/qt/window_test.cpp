@@ -194,14 +194,6 @@ TEST_F(Window, ClosesOnlyWhereThereIsACloseBox) {
     EXPECT_FALSE(form.IsOpen());
 }
 
-TEST_F(Window, ToolTipShowsAsPlainText) {
-    form.picture.SetToolTip("<b>3</b> & Datei(s)");
-    desktop.Yield();
-    const QWidget& picture = Find("picture");
-    EXPECT_EQ(ToolTipOf(picture), "<b>3</b> & Datei(s)");
-    EXPECT_EQ(picture.accessibleDescription(), "<b>3</b> & Datei(s)");
-}
-
 TEST_F(Window, LoopOfYieldsHearsTheUserAndShowsItsState) {
     bool stopped = false;
     form.first.OnClick = [&] { stopped = true; };
