@@ -72,19 +72,6 @@ TEST(PositionTest, MustLieOnTheGlobe) {
         EXPECT_FALSE(IsValidPosition("5.5", y)) << y;
 }
 
-std::string_view Stripped(std::string_view name, const PatternList& units) {
-    return StripUnitSuffix(name, units, text::WindowsCodePage(1252));
-}
-
-TEST(StripUnitSuffixTest, RemovesTheFirstUnitThatFits) {
-    EXPECT_EQ(Stripped("Fixed 50 MPH", Strings{"km/h", " mph "}), "Fixed 50 ");
-    EXPECT_EQ(Stripped("50kmh", Strings{"h", "kmh"}), "50km");
-    EXPECT_EQ(Stripped("50 mph", Strings{"", "mph"}), "50 mph") << "an empty unit ends the search";
-    EXPECT_EQ(Stripped("50\xD6", Strings{"\xC3\xB6"}), "50") << "characters are compared";
-    EXPECT_EQ(Stripped("50КМ/Ч", Strings{"км/ч"}), "50");
-    EXPECT_EQ(FailureNumber([] { Stripped("50mph", PatternList()); }), failure::TypeMismatch);
-}
-
 std::string Speed(std::string_view name, const std::string& separator = ".") {
     headless::FixedLocale locale;
     locale.Separator = separator;

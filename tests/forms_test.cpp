@@ -15,8 +15,8 @@ namespace {
 using headless::ItemsOf;
 using Log = std::vector<std::string>;
 
-Design At(const char* name, int tab, const Control* frame = nullptr) {
-    return {.name = name, .bounds = {}, .tab = tab, .frame = frame};
+Design At(const char* name, int tab) {
+    return {.name = name, .bounds = {}, .tab = tab};
 }
 
 /// A form that tells what happens to it. Its tab order is not the order of its controls.
@@ -55,10 +55,6 @@ struct TestForm : Form {
 
 class FormsTest : public testing::Test {
 protected:
-    FormsTest() {
-        toolkit.OnStuck = [this](const Form& form) { log.push_back(form.AtDesign().name + " stuck"); };
-    }
-
     void ShowMain() {
         desktop.Show(main);
         log.clear();
@@ -109,36 +105,6 @@ TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
     }
     option.SetValue(false);
     EXPECT_EQ(clicks, 1) << "an option that goes off";
-}
-
-TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
-    list.AddItems({"a", "b", "c"});
-    combo.AddItem("b");
-    list.SetSelected(1, true);
-    combo.SetListIndex(0);
-    for (Control* control : std::initializer_list<Control*>{&list, &other, &combo}) CountClicks(*control);
-    combo.AddItem("a");
-    EXPECT_EQ(combo.ListIndex(), 1);
-    list.AddItems({"aa"});
-    list.RemoveItem(0);
-    EXPECT_TRUE(list.MoveItemsTo(other, [this](int i) { return list.Selected(i); }));
-    EXPECT_EQ(list.SelCount() + other.SelCount(), 0);
-    other.Clear();
-    combo.Clear();
-    EXPECT_EQ(std::to_string(combo.ListIndex()) + combo.Text(), "-1");
-    EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(FormsTest, OptionButtonsExcludeEachOtherWithinTheirFrame) {
-    Frame frame(main, At("frame", 6));
-    OptionButton one(main, At("one", 7));
-    OptionButton two(main, At("two", 8));
-    OptionButton inner(main, At("inner", 9, &frame));
-    ShowMain();
-    EXPECT_TRUE(one.UserPress() && inner.UserPress());
-    EXPECT_TRUE(one.Value()) << "another group";
-    two.SetValue(true);
-    EXPECT_TRUE(!one.Value() && two.Value() && inner.Value());
 }
 
 TEST_F(FormsTest, DisabledOrHiddenControlPassesTheFocusOnInTabOrder) {

@@ -1,6 +1,4 @@
-#include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
-#include "ui/group_text_color.h"
 #include "ui/layouts/frmExportLayout.h"
 #include "ui/layouts/frmImportLayout.h"
 #include "ui/layouts/frmMainLayout.h"
@@ -84,15 +82,6 @@ TEST_F(LayoutTest, NothingThatTheUserOperatesIsCovered) {
             }
         }
     }
-}
-
-TEST(GroupTextColorTest, HeadingsAreAsTheThemeHasThem) {
-    headless::FixedTheme theme;
-    EXPECT_EQ(HeadingColor(theme), static_cast<forms::Color>(0x80000012)) << "button text";
-    theme.Themed = true;
-    EXPECT_EQ(HeadingColor(theme), 0) << "black where the theme does not tell";
-    theme.GroupBoxText = forms::Rgb(1, 2, 3);
-    EXPECT_EQ(HeadingColor(theme), 0x030201);
 }
 
 }  // namespace

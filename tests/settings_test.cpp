@@ -1,5 +1,4 @@
 #include "core/cSettingsClass.h"
-#include "platform/headless/failing_files.h"
 #include "platform/headless/memory_files.h"
 #include "tools/file_helpers.h"
 
@@ -13,7 +12,7 @@ class SettingsTest : public testing::Test {
 protected:
     cSettingsClass Read(std::string_view text) {
         memory.Put("/Settings.ini", text);
-        return cSettingsClass(files, "/Settings.ini");
+        return cSettingsClass(memory, "/Settings.ini");
     }
 
     /// The file-name patterns of type 1 when the section holds this text.
@@ -23,7 +22,6 @@ protected:
     int Structure(const std::string& text) { return Read("[Settings]\n" + text).SourceStructure(); }
 
     headless::MemoryFiles memory;
-    headless::FailingFiles files{memory, memory};
 };
 
 TEST_F(SettingsTest, EachSectionFeedsItsList) {
@@ -62,15 +60,6 @@ TEST_F(SettingsTest, LastValidStructureWins) {
     EXPECT_EQ(Structure("sourcestructure = 1,  S o u r c eSTRUCTURE=  3"), 3);
     EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=0\nSourceStructure=4\nSourceStructure=12\n"), 3);
     EXPECT_EQ(Structure("SourceStructure=1 ; why\nSourceStructure=\t1\nOther=1\nSourceStructure\n"), 2);
-}
-
-TEST_F(SettingsTest, UnreadableFileLeavesNoLists) {
-    // Made, opened, then asked for the end of the first line.
-    files.FailCall(3, Failure(failure::FileAccess, "Device I/O error"));
-    const cSettingsClass settings = Read("[Settings]\nSourceStructure=3\n");
-    EXPECT_EQ(settings.SourceStructure(), 0);
-    for (const PatternList& list : settings.TypeFileNamePatterns()) EXPECT_TRUE(IsArrayEmpty(list));
-    for (const PatternList& list : settings.TypeSearchPatterns()) EXPECT_TRUE(IsArrayEmpty(list));
 }
 
 TEST(PatternsTest, WalkNeedsAListOfAtMost32767) {

@@ -1,7 +1,5 @@
 #include "tests/support/test_program.h"
 
-#include <set>
-
 namespace halvenmoor {
 namespace {
 
@@ -82,23 +80,6 @@ TEST(TxtImportTest, SpeedsThatShareAFileNameLoseNothing) {
     expectX("050", {"49.5", "50", "050", "5 0", "50.5"});  // by number, then in reading order
     expectX("100", {"1e2", "1E2"});
     expectX("999999999999999", {"1e99"});
-}
-
-TEST(TxtImportTest, CountMovesEvery97Records) {
-    ImportProgram program;
-    std::string source;
-    for (int i = 0; i < 200; ++i) source += "1,2,1,50\nforeign\n";
-    program.AddTxt("a", source);
-    program.AddTxt("b", "1,2,1,50\n");
-    std::set<std::string> shown;
-    program.Open([&](frmImport& dialog) {
-        program.Click(dialog.OptionSource[kTxt]);
-        program.toolkit.OnYield = [&] { shown.insert(dialog.LabelAddedRecords.Caption()); };
-        program.Click(dialog.ButtonStart);
-        program.toolkit.OnYield = nullptr;
-    });
-    EXPECT_EQ(shown,
-              (std::set<std::string>{"", "97 Camera(s)", "194 Camera(s)", "200 Camera(s)", "201 Camera(s)"}));
 }
 
 }  // namespace

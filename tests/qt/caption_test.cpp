@@ -40,11 +40,6 @@ TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
         EXPECT_EQ(widget.font().stretch(), 85);
         EXPECT_TRUE(ShownText(*control).endsWith(u"i\u2026"));
         EXPECT_EQ(ToolTipOf(widget).toStdString(), caption);
-
-        control->SetToolTip("own");
-        desktop.Yield();
-        EXPECT_EQ(ToolTipOf(widget), "own");
-        control->SetToolTip("");
         control->SetCaption("i");
         desktop.Yield();
         EXPECT_EQ(widget.font().stretch(), 100);

@@ -134,27 +134,6 @@ TEST_F(Window, DrawsOnTheCanvasAtOnce) {
     EXPECT_NE(image.copy(60, 20, 40, 20), image.copy(60, 21, 40, 1).scaled(40, 20)) << "the text shows";
 }
 
-struct PaintingForm : SampleForm {
-    using SampleForm::SampleForm;
-    void Paint() override {
-        ++paints;
-        label.SetForeColor(forms::Rgb(0, 0, 200));
-    }
-    int paints = 0;
-};
-
-TEST_F(Window, PaintsWithoutAStorm) {
-    PaintingForm painting(desktop);
-    painting.script = [&] {
-        QTest::qWait(50);
-        EXPECT_GE(painting.paints, 1);
-        EXPECT_LE(painting.paints, 4);
-        EXPECT_EQ(WidgetOf(painting.label).palette().color(QPalette::WindowText), QColor(0, 0, 200));
-        painting.Unload();
-    };
-    desktop.ShowModal(painting);
-}
-
 TEST_F(Window, GivesAModalFormAllEvents) {
     form.left.AddItems({"a", "b"});
     SampleForm dialog(desktop);

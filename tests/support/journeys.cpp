@@ -19,15 +19,6 @@ bool IsBegun(const std::string& whole, const std::string& text) {
     return whole.starts_with(text) && (text.empty() || text.ends_with('\n'));
 }
 
-void ExpectSoundLanguage(JourneyProgram& program) {
-    const std::string language = program.Window().LanguageList.Text();
-    EXPECT_EQ(program.Option("Language"), language);
-    EXPECT_TRUE(language == "English" || language == "Deutsch") << language;
-    const std::string& caption = program.Window().ButtonExitApplication.Caption();
-    // Where the language file could not be read, the built-in text shows.
-    EXPECT_TRUE(caption == "Exit" || (caption == "Beenden" && language == "Deutsch")) << caption;
-}
-
 bool IsTarget(const Journey& journey, const std::string& path) {
     return std::any_of(journey.targets.begin(), journey.targets.end(), [&](const std::string& target) {
         return path == target || (target.ends_with('/') && path.starts_with(target));
@@ -105,23 +96,29 @@ void ExpectSoundRename(JourneyProgram& program, const Outcome&) {
     EXPECT_EQ(CameraFiles(program).size(), 3u);
 }
 
+void ExpectSoundStart(JourneyProgram& program, const Outcome& whole) {
+    const Strings some = program.Items(0);
+    EXPECT_TRUE(std::includes(whole.lists[0].begin(), whole.lists[0].end(), some.begin(), some.end()));
+    // Where the language file could not be read, the built-in text shows.
+    const std::string language = program.Window().LanguageList.Text();
+    const std::string caption = program.Window().ButtonExitApplication.Caption();
+    EXPECT_EQ(program.Option("Language"), language);
+    EXPECT_TRUE(caption == "Exit" || (caption == "Beenden" && language == "Deutsch")) << caption;
+}
+
 }  // namespace
 
-Outcome::Outcome(JourneyProgram& program)
-    : files(program.memory.Everything()),
-      filesProcessed(program.Exports().FilesProcessed),
-      camerasExported(program.Exports().CamerasExported),
-      camerasSkipped(program.Exports().CamerasSkipped),
-      resultsValid(program.Window().ResultsValid),
-      shown(program.shown) {
+Outcome::Outcome(JourneyProgram& program) : files(program.memory.Everything()) {
     for (int number = 0; number <= kLastType; ++number) lists.push_back(program.Items(number));
+    const modExport& exports = program.Exports();
+    seen = program.shown + (program.Window().ResultsValid ? " with results " : " without results ");
+    for (const auto& counters : {exports.FilesProcessed, exports.CamerasExported, exports.CamerasSkipped})
+        seen += testing::PrintToString(counters);
 }
 
 std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
-    out << (outcome.resultsValid ? "with results " : "without results ") << outcome.shown << '\n';
-    for (const auto* counters : {&outcome.filesProcessed, &outcome.camerasExported, &outcome.camerasSkipped})
-        out << testing::PrintToString(*counters) << '\n';
-    return out << testing::PrintToString(outcome.lists) << '\n' << testing::PrintToString(outcome.files);
+    return out << outcome.seen << testing::PrintToString(outcome.lists)
+               << testing::PrintToString(outcome.files);
 }
 
 Outcome Journey::Undisturbed() const {
@@ -177,50 +174,47 @@ void ExpectSoundWindow(frmMain& window) {
 }
 
 Journey ExportJourney(int mode) {
-    return {.name = "Export" + std::to_string(mode),
-            .play =
-                [mode](JourneyProgram& program) {
-                    program.Window().ButtonClassifyFiles.UserPress();
-                    UserExports(program, program.Window(), mode, ExportTarget(mode));
-                },
-            .expectSound = [mode](JourneyProgram& program,
-                                  const Outcome& whole) { ExpectSoundExport(program, whole, mode); },
-            .targets = {ExportTarget(mode), "/p/Export Results.txt"}};
+    Journey journey{"Export" + std::to_string(mode)};
+    journey.targets = {ExportTarget(mode), "/p/Export Results.txt"};
+    journey.play = [mode](JourneyProgram& program) {
+        program.Window().ButtonClassifyFiles.UserPress();
+        UserExports(program, program.Window(), mode, ExportTarget(mode));
+    };
+    journey.expectSound = [mode](JourneyProgram& program, const Outcome& whole) {
+        ExpectSoundExport(program, whole, mode);
+    };
+    return journey;
 }
 
 Journey ImportJourney(int source) {
-    return {.name = source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt",
-            .play =
-                [source](JourneyProgram& program) {
-                    program.shown = UserImports(program, program.Window(), source, ImportProgram::ExpectDone);
-                },
-            .expectSound = [source](JourneyProgram& program,
-                                    const Outcome& whole) { ExpectSoundImport(program, whole, source); },
-            .targets = {"/p/asc/"}};
+    Journey journey{source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt"};
+    journey.targets = {"/p/asc/"};
+    journey.play = [source](JourneyProgram& program) {
+        program.shown = UserImports(program, program.Window(), source, ImportProgram::ExpectDone);
+    };
+    journey.expectSound = [source](JourneyProgram& program, const Outcome& whole) {
+        ExpectSoundImport(program, whole, source);
+    };
+    return journey;
 }
 
 Journey RenameJourney() {
-    return {.name = "Rename",
-            .play = [](JourneyProgram& program) { UserRenames(program, program.Window(), "rest", "named"); },
-            .expectSound = ExpectSoundRename,
-            .targets = {"/p/asc/rest.asc", "/p/asc/named.asc"}};
+    Journey journey{"Rename"};
+    journey.targets = {"/p/asc/rest.asc", "/p/asc/named.asc"};
+    journey.play = [](JourneyProgram& program) { UserRenames(program, program.Window(), "rest", "named"); };
+    journey.expectSound = ExpectSoundRename;
+    return journey;
 }
 
 Journey StartJourney() {
-    return {.name = "Start",
-            .play =
-                [](JourneyProgram& program) {
-                    program.Start();
-                    program.shown = std::to_string(program.Window().LanguageList.ListCount()) + " languages";
-                },
-            .expectSound =
-                [](JourneyProgram& program, const Outcome& whole) {
-                    const Strings some = program.Items(0);
-                    const Strings& all = whole.lists[0];
-                    EXPECT_TRUE(std::includes(all.begin(), all.end(), some.begin(), some.end()));
-                    ExpectSoundLanguage(program);
-                },
-            .isStart = true};
+    Journey journey{"Start"};
+    journey.isStart = true;
+    journey.play = [](JourneyProgram& program) {
+        program.Start();
+        program.shown = std::to_string(program.Window().LanguageList.ListCount()) + " languages";
+    };
+    journey.expectSound = ExpectSoundStart;
+    return journey;
 }
 
 }  // namespace halvenmoor

@@ -22,8 +22,8 @@ struct JourneyProgram : TestProgram {
         SetOption("DemoMode", "0");
         SetOption("Language", "Deutsch");
         SetSettings(
-            "[Type1]\nfixed*\n[Type5]\nmob*\n[Mobile]\nmobile\n[Units]\nkmh\n[Settings]\nSourceStructure="
-            "2\n");
+            "[Type1]\nfixed*\n[Type5]\nmob*\n[Mobile]\nmobile\n[Units]\nkmh\n"
+            "[Settings]\nSourceStructure=2\n");
         AddLanguage("deutsch", "ButtonExitApplication=beenden\n");
         AddCameraFile("fixed_50",
                       "1.5, 52.5, \"a\", 1, 90\r\n2.5, 52.5, \"mobile b\"\r\n200.0, 52.5, \"c\"\r\n");
@@ -62,9 +62,8 @@ struct Outcome {
 
     Disk files;
     std::vector<Strings> lists;
-    TypeTable<std::int32_t> filesProcessed, camerasExported, camerasSkipped;
-    bool resultsValid;
-    std::string shown;
+    /// The counters, whether there are results, and what the user saw.
+    std::string seen;
 
     bool operator==(const Outcome&) const = default;
 };
@@ -73,9 +72,9 @@ std::ostream& operator<<(std::ostream& out, const Outcome& outcome);
 /// Something that a user does from beginning to end, pressing on whatever happens.
 struct Journey {
     std::string name;
-    std::function<void(JourneyProgram&)> play;
+    std::function<void(JourneyProgram&)> play = {};
     /// Checks what it left when something went wrong, against all that it should have left.
-    std::function<void(JourneyProgram&, const Outcome& whole)> expectSound;
+    std::function<void(JourneyProgram&, const Outcome& whole)> expectSound = {};
     /// Files, or folders with a '/' at the end, that it may change.
     std::vector<std::string> targets = {};
     bool isStart = false;

@@ -160,12 +160,7 @@ struct TestProgram : headless::Fakes {
 /// A point record of an OV2 file: 1.5, 52.5, "n".
 inline const std::string kPoint("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);
 
-/// The whole program in memory, running in normal mode:
-///
-///     ImportProgram program;
-///     program.AddTxt("a", "1.5,52.5,1,50\n");
-///     EXPECT_EQ(program.Import(kTxt), "PictureFinished");
-///     EXPECT_EQ(program.Items(0), Strings{"Fixed_Camera_050"});
+/// The whole program in memory, running in normal mode, with imports from the folders of sources.
 struct ImportProgram : TestProgram {
     static constexpr int kOv2 = 1;
     static constexpr int kTxt = 2;
@@ -186,7 +181,7 @@ struct ImportProgram : TestProgram {
     /// The names of the files in the camera folder.
     Strings CameraFolder() { return memory.CreateFileSystemObject()->GetFolder("/p/asc")->Files(); }
 
-    /// Opens the dialog, lets the user act in it, and closes it by Escape if it is still open.
+    /// Opens the import dialog, as above.
     void Open(const std::function<void(frmImport&)>& act) {
         EXPECT_TRUE(TestProgram::Open(Window().ButtonImportFiles, act));
     }
