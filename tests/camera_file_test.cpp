@@ -10,14 +10,14 @@
 namespace halvenmoor {
 namespace {
 
-/// Whether the quoting is sound, and the fields.
+/// Whether the quotes are closed, and the fields.
 using Split = std::pair<bool, Strings>;
 
 Split SplitLine(std::string_view line) {
     FieldList list;
-    const bool isSound = SplitCameraLine(list, line);
+    const bool isClosed = SplitCameraLine(list, line);
     EXPECT_TRUE(line.empty());
-    return {isSound, Strings(list.fields.begin(), list.fields.begin() + static_cast<long>(list.count))};
+    return {isClosed, Strings(list.fields.begin(), list.fields.begin() + static_cast<long>(list.count))};
 }
 
 TEST(SplitCameraLineTest, SplitsAtCommasOutsideOfQuotes) {

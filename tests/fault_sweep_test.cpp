@@ -1,5 +1,5 @@
 // Every single call to the disk fails once, and from each one on all calls fail: whole journeys are played,
-// and what is left afterwards has to be sound and of use. What cannot fail by its contract is left out:
+// and what is left afterwards has to be consistent and of use. What cannot fail by its contract is left out:
 // clock, yields, forms, stored options.
 
 #include "tests/support/journeys.h"
@@ -21,10 +21,10 @@ protected:
         }
     }
 
-    void ExpectSound(JourneyProgram& program) {
-        ExpectSoundProgram(program, GetParam());
-        ExpectSoundMessages(program);
-        GetParam().expectSound(program, whole);
+    void ExpectConsistent(JourneyProgram& program) {
+        ExpectConsistentProgram(program, GetParam());
+        ExpectConsistentMessages(program);
+        GetParam().expectConsistent(program, whole);
     }
 
     /// The user comes back once the disk is well. A program that has ended is started again, and so is one
@@ -48,7 +48,7 @@ protected:
         if (!GetParam().isStart) program.Start();
         Play(program);
         EXPECT_EQ(Outcome(program), whole);
-        ExpectSound(program);
+        ExpectConsistent(program);
     }
 
     static int CountCalls() {
@@ -66,7 +66,7 @@ protected:
         isLasting ? program.files.FailFromCall(call, kFault) : program.files.FailCall(call, kFault);
         Play(program);
         EXPECT_GE(program.files.Calls(), call) << "the fault was never met";
-        ExpectSound(program);
+        ExpectConsistent(program);
         ExpectWorksAgain(program);
     }
 

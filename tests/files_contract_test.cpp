@@ -12,7 +12,7 @@
 namespace halvenmoor {
 namespace {
 
-struct RealFiles {
+struct FilesOnDisk {
     TemporaryFolder folder;
     posix::PathFinder finder{text::WindowsCodePage(1252)};
     posix::DiskFileSystem fileSystem{finder};
@@ -24,7 +24,7 @@ struct RealFiles {
     std::string Text(const std::string& name) const { return folder.Text(name); }
 };
 
-struct Memory {
+struct FilesInMemory {
     headless::MemoryFiles files;
     platform::FileSystem& fileSystem = files;
     platform::HostFiles& hostFiles = files;
@@ -35,18 +35,18 @@ struct Memory {
     std::string Text(const std::string& name) const { return files.Text(Root() + '/' + name); }
 };
 
-template <class World>
+template <class Files>
 class FilesContract : public testing::Test {
 protected:
-    std::string At(const std::string& name) const { return world.Root() + '/' + name; }
-    Strings LinesOf(const std::string& name) { return ReadLines(world.fileSystem, At(name)); }
+    std::string At(const std::string& name) const { return disk.Root() + '/' + name; }
+    Strings LinesOf(const std::string& name) { return ReadLines(disk.fileSystem, At(name)); }
 
-    World world;
-    std::unique_ptr<platform::FileSystemObject> object = world.fileSystem.CreateFileSystemObject();
-    platform::HostFiles& host = world.hostFiles;
+    Files disk;
+    std::unique_ptr<platform::FileSystemObject> object = disk.fileSystem.CreateFileSystemObject();
+    platform::HostFiles& host = disk.hostFiles;
 };
 
-using Implementations = testing::Types<RealFiles, Memory>;
+using Implementations = testing::Types<FilesOnDisk, FilesInMemory>;
 TYPED_TEST_SUITE(FilesContract, Implementations);
 
 TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
@@ -66,13 +66,13 @@ TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
         {"\xEF\xBB\n\xEF\xBB\xBF", {"\xEF\xBB", "\xEF\xBB\xBF"}},
     };
     for (const auto& [bytes, lines] : cases) {
-        this->world.Put("a.txt", bytes);
+        this->disk.Put("a.txt", bytes);
         EXPECT_EQ(this->LinesOf("a.txt"), lines) << testing::PrintToString(bytes);
     }
 }
 
 TYPED_TEST(FilesContract, ReadingPastTheEndOrAfterCloseFails) {
-    this->world.Put("a.txt", "one");
+    this->disk.Put("a.txt", "one");
     const auto reader = this->object->OpenTextFile(this->At("a.txt"));
     EXPECT_EQ(reader->ReadLine(), "one");
     EXPECT_TRUE(reader->AtEndOfStream());
@@ -85,7 +85,7 @@ TYPED_TEST(FilesContract, ReadingPastTheEndOrAfterCloseFails) {
 }
 
 TYPED_TEST(FilesContract, OnlyFilesThatExistOpen) {
-    this->world.AddFolder("folder");
+    this->disk.AddFolder("folder");
     auto& files = *this->object;
     EXPECT_EQ(FailureNumber([&] { files.OpenTextFile(this->At("none")); }), failure::FileNotFound);
     EXPECT_EQ(FailureNumber([&] { files.OpenForAppending(this->At("none")); }), failure::FileNotFound);
@@ -99,36 +99,36 @@ TYPED_TEST(FilesContract, OnlyFilesThatExistOpen) {
 }
 
 TYPED_TEST(FilesContract, WritersEndLinesWithCrLf) {
-    this->world.Put("Target.txt", "what was there before\n");
+    this->disk.Put("Target.txt", "what was there before\n");
     const auto writer = this->object->CreateTextFile(this->At("Target.txt"));
     writer->WriteLine("one");
     writer->WriteLine("");
     writer->Close();
     writer->Close();
     EXPECT_EQ(FailureNumber([&] { writer->WriteLine("late"); }), failure::FileAccess);
-    EXPECT_EQ(this->world.Text("Target.txt"), "one\r\n\r\n");
+    EXPECT_EQ(this->disk.Text("Target.txt"), "one\r\n\r\n");
 
-    this->world.Put("Target.txt", "no line end");
+    this->disk.Put("Target.txt", "no line end");
     this->object->OpenForAppending(this->At("target.TXT"))->WriteLine(" now");
-    EXPECT_EQ(this->world.Text("Target.txt"), "no line end now\r\n") << "without Close";
+    EXPECT_EQ(this->disk.Text("Target.txt"), "no line end now\r\n") << "without Close";
 }
 
 TYPED_TEST(FilesContract, NewFilesGoWithTheirNameIntoTheFolderThatIsFound) {
-    this->world.Put("ASC/old.asc", "old");
+    this->disk.Put("ASC/old.asc", "old");
     this->object->CreateTextFile(this->At("asc/Old.asc"))->WriteLine("new");
-    EXPECT_EQ(this->world.Text("ASC/old.asc"), "old");
-    EXPECT_EQ(this->world.Text("ASC/Old.asc"), "new\r\n");
+    EXPECT_EQ(this->disk.Text("ASC/old.asc"), "old");
+    EXPECT_EQ(this->disk.Text("ASC/Old.asc"), "new\r\n");
     this->host.Rename(this->At("asc/old.asc"), this->At("asc/b.asc"));
-    EXPECT_EQ(this->world.Text("ASC/b.asc"), "old");
+    EXPECT_EQ(this->disk.Text("ASC/b.asc"), "old");
 }
 
 TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
-    this->world.Put("Asc/M\xC3\xBCnchen 50.ASC", "utf-8");
-    this->world.Put("Asc/K\xF6ln.asc", "code page");
-    this->world.Put("Asc/b.asc", "b");
-    this->world.Put("Asc/B.ASC", "B");
-    this->world.Put("Asc/B.asc", "B.");
-    for (const std::string name : {"ccc", "CCC", "ccC"}) this->world.Put("Asc/" + name, name);
+    this->disk.Put("Asc/M\xC3\xBCnchen 50.ASC", "utf-8");
+    this->disk.Put("Asc/K\xF6ln.asc", "code page");
+    this->disk.Put("Asc/b.asc", "b");
+    this->disk.Put("Asc/B.ASC", "B");
+    this->disk.Put("Asc/B.asc", "B.");
+    for (const std::string name : {"ccc", "CCC", "ccC"}) this->disk.Put("Asc/" + name, name);
     const std::array<std::string, 2> found[] = {{"Asc/b.asc", "b"},
                                                 {"asc/b.asc", "b"},
                                                 {"asc/cCC", "CCC"},
@@ -147,9 +147,9 @@ TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
 }
 
 TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
-    this->world.AddFolder("asc/folder.asc");
+    this->disk.AddFolder("asc/folder.asc");
     for (const char* name : {"asc/b.asc", "asc/C.txt", "asc/.hidden", "asc/\xE4", "asc/folder.asc/below"}) {
-        this->world.Put(name, "");
+        this->disk.Put(name, "");
     }
     const auto folder = this->object->GetFolder(this->At("ASC"));
     EXPECT_EQ(folder->Files(), (Strings{".hidden", "C.txt", "b.asc", "\xE4"}));
@@ -159,11 +159,11 @@ TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
     for (const char* name : {"b.asc", "folder.asc", "folder.asc/below", "..", ""}) {
         EXPECT_NE(FailureNumber([&] { folder->Delete(name); }), 0) << name;
     }
-    EXPECT_EQ(this->world.Text("asc/folder.asc/below"), "");
+    EXPECT_EQ(this->disk.Text("asc/folder.asc/below"), "");
 }
 
 TYPED_TEST(FilesContract, DeletesAFile) {
-    this->world.Put("asc/B.asc", "");
+    this->disk.Put("asc/B.asc", "");
     this->object->DeleteFile(this->At("asc/b.asc"));
     EXPECT_FALSE(this->object->FileExists(this->At("asc/B.asc")));
     EXPECT_EQ(FailureNumber([&] { this->object->DeleteFile(this->At("asc/b.asc")); }), failure::FileNotFound);
@@ -171,10 +171,10 @@ TYPED_TEST(FilesContract, DeletesAFile) {
 }
 
 TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {
-    this->world.AddFolder("asc/folder.asc");
+    this->disk.AddFolder("asc/folder.asc");
     for (const char* name : {"asc/.asc", "asc/.hidden.asc", "asc/X.ASC", "asc/x.asc", "asc/y.txt",
                              "asc/z.asc.old", "asc/asc", "asc/\xE4.Asc", "asc/folder.asc/below.asc"}) {
-        this->world.Put(name, "");
+        this->disk.Put(name, "");
     }
     EXPECT_EQ(Search(this->host, this->At("Asc/")), (Strings{"X.ASC", "x.asc", "\xE4.Asc"}));
     EXPECT_TRUE(this->host.IsListed(this->At("ASC/\xC3\xA4.asc")));
@@ -184,8 +184,8 @@ TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {
 }
 
 TYPED_TEST(FilesContract, RenameNeverReplaces) {
-    this->world.Put("asc/Old.ASC", "old");
-    this->world.Put("asc/taken.asc", "taken");
+    this->disk.Put("asc/Old.ASC", "old");
+    this->disk.Put("asc/taken.asc", "taken");
     const auto rename = [&](const std::string& from, const std::string& to) {
         return FailureNumber([&] { this->host.Rename(this->At(from), this->At(to)); });
     };
@@ -193,8 +193,8 @@ TYPED_TEST(FilesContract, RenameNeverReplaces) {
     EXPECT_NE(rename("asc/old.asc", "none/new.asc"), 0);
     EXPECT_EQ(rename("asc/none.asc", "asc/new.asc"), failure::FileNotFound);
     EXPECT_EQ(rename("asc/old.asc", "asc/new.asc"), 0);
-    EXPECT_EQ(this->world.Text("asc/new.asc"), "old");
-    EXPECT_EQ(this->world.Text("asc/taken.asc"), "taken");
+    EXPECT_EQ(this->disk.Text("asc/new.asc"), "old");
+    EXPECT_EQ(this->disk.Text("asc/taken.asc"), "taken");
     EXPECT_FALSE(this->object->FileExists(this->At("asc/Old.ASC")));
 }
 

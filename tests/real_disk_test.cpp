@@ -85,7 +85,7 @@ TEST_F(RealDiskTest, ADiskThatIsFullAnywhereKeepsWhatFits) {
         EXPECT_EQ(WithSizeLimit(limit, append), limit >= whole.size());
         EXPECT_TRUE(TextIf("txt/old.txt") == LeftOf(whole, limit));
         EXPECT_EQ(Others(), others);
-        ExpectSoundWindow(program.Window());
+        ExpectConsistentWindow(program.Window());
     }
     const auto import = [this] { return DiskProgram(folder).Import(kTxt); };
     EXPECT_EQ(WithSizeLimit(50, import), "PictureFinished") << "without a word";
@@ -129,7 +129,7 @@ TEST_F(RealDiskTest, SpecialFilesInItsFoldersHoldNothingUp) {
         EXPECT_EQ(program.Import(kTxt), "PictureFinished");
         EXPECT_EQ(CameraFiles(), kImportedTxt);
         EXPECT_EQ(Others(), others);
-        ExpectSoundWindow(program.Window());
+        ExpectConsistentWindow(program.Window());
     }
 }
 
@@ -149,7 +149,7 @@ TEST_F(RealDiskTest, SpecialFilesMayStandForAnyFileAndFolder) {
             program.Export(3, folder / "txt/old.txt");
             program.Import(kOv2);
             program.Import(kTxt);
-            ExpectSoundWindow(program.Window());
+            ExpectConsistentWindow(program.Window());
             EXPECT_FALSE(program.program.Desktop().Ended());
             EXPECT_EQ(Others(), others);
         }

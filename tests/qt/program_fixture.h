@@ -21,13 +21,13 @@ inline QWidget* ShownWindow(const char* name) {
 /// Does something in a window once it shows, which it must.
 class WhenShown {
 public:
-    WhenShown(const char* name, std::function<void(QWidget& window)> act) {
-        QObject::connect(&timer_, &QTimer::timeout, [this, name, act = std::move(act)] {
+    WhenShown(const char* name, std::function<void(QWidget& window)> action) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, name, action = std::move(action)] {
             QWidget* const window = ShownWindow(name);
             if (window == nullptr) return;
             timer_.stop();
             hasMet_ = true;
-            act(*window);
+            action(*window);
         });
         timer_.start(20);
     }

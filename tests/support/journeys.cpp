@@ -37,7 +37,7 @@ std::string ExportTarget(int mode) {
     return mode == 1 ? "/p/txt/SpeedCamText.txt" : mode == 2 ? "/p/txt/new.txt" : "/p/txt/old.txt";
 }
 
-void ExpectSoundExport(JourneyProgram& program, const Outcome& whole, int mode) {
+void ExpectConsistentExport(JourneyProgram& program, const Outcome& whole, int mode) {
     const std::string path = ExportTarget(mode);
     const std::string target = program.memory.Has(path) ? program.memory.Text(path) : "";
     EXPECT_TRUE(IsBegun(whole.files.at(path), target)) << target;
@@ -68,7 +68,7 @@ Disk CameraFiles(const JourneyProgram& program) {
 
 /// Each camera file is an old one as it was or a new one, but there are never both. Of a new one lines may be
 /// missing: TXT sources lose them without a word.
-void ExpectSoundImport(JourneyProgram& program, const Outcome& whole, int source) {
+void ExpectConsistentImport(JourneyProgram& program, const Outcome& whole, int source) {
     const bool mustBeWhole =
         source == ImportProgram::kOv2 && (!program.faultLasts || program.shown == "PictureFinished");
     int oldFiles = 0;
@@ -89,14 +89,14 @@ void ExpectSoundImport(JourneyProgram& program, const Outcome& whole, int source
 }
 
 /// The entry is what the file is called.
-void ExpectSoundRename(JourneyProgram& program, const Outcome&) {
+void ExpectConsistentRename(JourneyProgram& program, const Outcome&) {
     const std::string entry = program.memory.Has("/p/asc/named.asc") ? "named" : "rest";
     EXPECT_EQ(program.Items(0), (Strings{"fixed_50", "mobil_30kmh", entry}));
     EXPECT_EQ(program.Text("/p/asc/" + entry + ".asc"), "4.5, 54.5, \"e\"\r\n");
     EXPECT_EQ(CameraFiles(program).size(), 3u);
 }
 
-void ExpectSoundStart(JourneyProgram& program, const Outcome& whole) {
+void ExpectConsistentStart(JourneyProgram& program, const Outcome& whole) {
     const Strings some = program.Items(0);
     EXPECT_TRUE(std::includes(whole.lists[0].begin(), whole.lists[0].end(), some.begin(), some.end()));
     // Where the language file could not be read, the built-in text shows.
@@ -128,15 +128,15 @@ Outcome Journey::Undisturbed() const {
     return Outcome(program);
 }
 
-void ExpectSoundProgram(JourneyProgram& program, const Journey& journey) {
+void ExpectConsistentProgram(JourneyProgram& program, const Journey& journey) {
     ExpectOtherFilesAsInstalled(program, journey);
     EXPECT_EQ(program.toolkit.OpenDialog(), nullptr);
     if (program.desktop.Ended()) return;
     EXPECT_TRUE(program.desktop.Accepts(program.Window()));
-    ExpectSoundWindow(program.Window());
+    ExpectConsistentWindow(program.Window());
 }
 
-void ExpectSoundMessages(const JourneyProgram& program) {
+void ExpectConsistentMessages(const JourneyProgram& program) {
     bool mayEnd = false;
     for (const auto& message : program.messages.Messages) {
         const bool isFatal = message.text.starts_with("Run-time error ");
@@ -146,7 +146,7 @@ void ExpectSoundMessages(const JourneyProgram& program) {
     EXPECT_EQ(program.desktop.Ended(), mayEnd);
 }
 
-void ExpectSoundWindow(frmMain& window) {
+void ExpectConsistentWindow(frmMain& window) {
     std::set<std::string> entries;
     int listsWithSelection = 0;
     for (int number = 0; number <= kLastType; ++number) {
@@ -180,8 +180,8 @@ Journey ExportJourney(int mode) {
         program.Window().ButtonClassifyFiles.UserPress();
         UserExports(program, program.Window(), mode, ExportTarget(mode));
     };
-    journey.expectSound = [mode](JourneyProgram& program, const Outcome& whole) {
-        ExpectSoundExport(program, whole, mode);
+    journey.expectConsistent = [mode](JourneyProgram& program, const Outcome& whole) {
+        ExpectConsistentExport(program, whole, mode);
     };
     return journey;
 }
@@ -192,8 +192,8 @@ Journey ImportJourney(int source) {
     journey.play = [source](JourneyProgram& program) {
         program.shown = UserImports(program, program.Window(), source, ImportProgram::ExpectDone);
     };
-    journey.expectSound = [source](JourneyProgram& program, const Outcome& whole) {
-        ExpectSoundImport(program, whole, source);
+    journey.expectConsistent = [source](JourneyProgram& program, const Outcome& whole) {
+        ExpectConsistentImport(program, whole, source);
     };
     return journey;
 }
@@ -202,7 +202,7 @@ Journey RenameJourney() {
     Journey journey{"Rename"};
     journey.targets = {"/p/asc/rest.asc", "/p/asc/named.asc"};
     journey.play = [](JourneyProgram& program) { UserRenames(program, program.Window(), "rest", "named"); };
-    journey.expectSound = ExpectSoundRename;
+    journey.expectConsistent = ExpectConsistentRename;
     return journey;
 }
 
@@ -213,7 +213,7 @@ Journey StartJourney() {
         program.Start();
         program.shown = std::to_string(program.Window().LanguageList.ListCount()) + " languages";
     };
-    journey.expectSound = ExpectSoundStart;
+    journey.expectConsistent = ExpectConsistentStart;
     return journey;
 }
 

@@ -74,7 +74,7 @@ struct Journey {
     std::string name;
     std::function<void(JourneyProgram&)> play = {};
     /// Checks what it left when something went wrong, against all that it should have left.
-    std::function<void(JourneyProgram&, const Outcome& whole)> expectSound = {};
+    std::function<void(JourneyProgram&, const Outcome& whole)> expectConsistent = {};
     /// Files, or folders with a '/' at the end, that it may change.
     std::vector<std::string> targets = {};
     bool isStart = false;
@@ -90,11 +90,11 @@ inline std::ostream& operator<<(std::ostream& out, const Journey& journey) {
 // Checks that any journey has to pass at its end, whatever happened on the way.
 
 /// Buttons, lists and windows agree, and every file is there that the journey is not about.
-void ExpectSoundProgram(JourneyProgram& program, const Journey& journey);
+void ExpectConsistentProgram(JourneyProgram& program, const Journey& journey);
 /// The program ends by itself only with a message about the file system.
-void ExpectSoundMessages(const JourneyProgram& program);
+void ExpectConsistentMessages(const JourneyProgram& program);
 /// The part of it that shows in the window: each entry stands in one list, the buttons follow their rules.
-void ExpectSoundWindow(frmMain& window);
+void ExpectConsistentWindow(frmMain& window);
 
 /// Classify and export, by mode.
 Journey ExportJourney(int mode);

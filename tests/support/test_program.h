@@ -124,14 +124,14 @@ struct TestProgram : headless::Fakes {
     /// Gives unclassified entries a type.
     void Move(int type, const Strings& names) { Drag(0, type, names); }
 
-    /// Clicks a button. If a dialog shows up, hands it to act and closes it by Escape should it still be
+    /// Clicks a button. If a dialog shows up, hands it to action and closes it by Escape should it still be
     /// open. True when it showed up.
     template <class Dialog>
-    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& act) {
+    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& action) {
         bool shown = false;
         toolkit.Script([&](forms::Form& form) {
             shown = true;
-            if (act) act(static_cast<Dialog&>(form));
+            if (action) action(static_cast<Dialog&>(form));
             form.UserEscape();
         });
         Click(button);
@@ -182,8 +182,8 @@ struct ImportProgram : TestProgram {
     Strings CameraFolder() { return memory.CreateFileSystemObject()->GetFolder("/p/asc")->Files(); }
 
     /// Opens the import dialog, as above.
-    void Open(const std::function<void(frmImport&)>& act) {
-        EXPECT_TRUE(TestProgram::Open(Window().ButtonImportFiles, act));
+    void Open(const std::function<void(frmImport&)>& action) {
+        EXPECT_TRUE(TestProgram::Open(Window().ButtonImportFiles, action));
     }
     /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
     std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {
