@@ -161,7 +161,7 @@ TEST_F(ClassificationTest, MalformedPatternEndsItsTypeOnly) {
 
 class LanguageTest : public testing::Test {
 protected:
-    void Choose(const std::string& language) { program.Select(program.Window().LanguageList, language); }
+    void Choose(const std::string& language) { EXPECT_TRUE(UserChoosesLanguage(program.Window(), language)); }
     std::string Chosen() { return program.Window().LanguageList.Text(); }
     std::string ExitCaption() { return program.Window().ButtonExitApplication.Caption(); }
 

@@ -1,8 +1,6 @@
 // What files must do, on the disk and in its fake in memory alike.
 
 #include "platform/headless/memory_files.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
@@ -12,12 +10,7 @@
 namespace halvenmoor {
 namespace {
 
-struct FilesOnDisk {
-    TemporaryFolder folder;
-    posix::PathFinder finder{text::WindowsCodePage(1252)};
-    posix::DiskFileSystem fileSystem{finder};
-    posix::DiskHostFiles hostFiles{finder};
-
+struct RealFiles : FilesOnDisk {
     std::string Root() const { return folder.Path(); }
     void AddFolder(const std::string& name) { folder.AddFolder(name); }
     void Put(const std::string& name, const std::string& bytes) { folder.Put(name, bytes); }
@@ -46,7 +39,7 @@ protected:
     platform::HostFiles& host = disk.hostFiles;
 };
 
-using Implementations = testing::Types<FilesOnDisk, FilesInMemory>;
+using Implementations = testing::Types<RealFiles, FilesInMemory>;
 TYPED_TEST_SUITE(FilesContract, Implementations);
 
 TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {

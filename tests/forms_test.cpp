@@ -134,11 +134,6 @@ TEST_F(FormsTest, DialogIsActivatedOnceAndTheMainWindowAfterTheLastOne) {
     ShowDialog([&] { desktop.ShowModal(inner); });
     EXPECT_EQ(log, (Log{"dialog load", "got first", "dialog activate", "inner load", "got first",
                         "inner activate", "inner program?", "dialog program?", "main activate"}));
-    log.clear();
-    TestForm ghost(desktop, log, {.name = "ghost", .title = ""});
-    ghost.OnLoad = [&] { ghost.Unload(); };
-    desktop.ShowModal(ghost);
-    EXPECT_EQ(log, (Log{"ghost load", "ghost program?", "main activate"})) << "closed before it was shown";
 }
 
 TEST_F(FormsTest, FormIsAskedWithTheReasonAndMayStayOpen) {

@@ -95,7 +95,7 @@ TEST(LanguagesTest, EveryTextShowsAndNoneIsLeftInEnglish) {
     for (std::size_t i = 0; i < texts.size(); ++i)
         language += std::string(texts[i]->Key()) + "=<" + std::to_string(i) + ">\n";
     program.AddLanguage("english", language);
-    program.Select(program.Window().LanguageList, "English");
+    EXPECT_TRUE(UserChoosesLanguage(program.Window(), "English"));
     for (const char* entry : {"a", "b"}) program.AddCameraFile(entry, "1.5,52.5,x\n");
     program.AddTxt("c", "1.5,52.5,1,50\n");
     program.Click(program.Window().CheckAuto[1]);

@@ -33,8 +33,7 @@ protected:
     }
     bool Rename(const std::string& entry, const std::string& name) {
         bool closed = false;
-        EXPECT_TRUE(Open(entry, [&](frmRename& dialog) { closed = Enter(dialog, name); }));
-        return closed;
+        return Open(entry, [&](frmRename& dialog) { closed = Enter(dialog, name); }) && closed;
     }
     std::string TextOf(const std::string& entry) { return program.Text(program.CameraPath(entry)); }
     void ExpectNothingChanged() {

@@ -29,24 +29,17 @@ void ExpectMatches(const std::vector<Case>& cases) {
     }
 }
 
-TEST(Wildcards, CoverTheWholeName) {
+TEST(Wildcards, MatchTheWholeNameIgnoringCase) {
     ExpectMatches({{"fixed.asc", {"Fixed.ASC"}, {"fixed.as"}},
                    {"ixed", {}, {"fixed.asc"}},
                    {" fixed*", {}, {"fixed.asc"}},
                    {"a.b]c", {"A.B]C"}, {"axb]c"}},
                    {"*K\xD6LN*", {"A1 Köln.asc"}, {"Koln"}},  // the code page meets UTF-8
-                   {"", {""}, {"x"}}});
-}
-
-TEST(Wildcards, QuestionMarkAndDigitTakeExactlyOneCharacter) {
-    ExpectMatches({{"M?.asc", {"m1.asc"}, {"m.asc", "m12.asc"}},
+                   {"", {""}, {"x"}},
+                   {"M?.asc", {"m1.asc"}, {"m.asc", "m12.asc"}},
                    {"K?ln", {"K\xC3\xB6ln", "K\xF6ln"}, {}},  // one character, not one byte
-                   {"M##", {"M09"}, {}},
-                   {"M#", {}, {"Mx", "M/", "M:", "M٣"}}});  // only 0 to 9
-}
-
-TEST(Wildcards, StarTakesAnyRun) {
-    ExpectMatches({{"*fixed*.asc", {"fixed_30.asc", "FIXED.asc", "my fixed cameras.asc"}, {}},
+                   {"M#", {"M0", "M9"}, {"Mx", "M/", "M:", "M٣"}},
+                   {"*fixed*.asc", {"fixed_30.asc", "FIXED.asc", "my fixed cameras.asc"}, {}},
                    {"*", {""}, {}},
                    {"*ab*ab", {"abaab"}, {"xab", "ababc"}}});
 }

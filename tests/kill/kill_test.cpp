@@ -9,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -29,7 +28,7 @@ using Work = std::function<void()>;
 pid_t Start(const Work& work) {
     const pid_t child = ::fork();
     if (child != 0) return child;
-    constexpr unsigned kSecondsUntilItHangs = 20;
+    constexpr unsigned kSecondsUntilItHangs = 10;
     ::alarm(kSecondsUntilItHangs);
     work();
     ::_exit(0);
@@ -128,9 +127,7 @@ TEST_F(KillTest, OptionsAreTheOldOnesOrTheNewOnes) {
         [&] { EXPECT_EQ(End(Start([&] { save("0", "Deutsch"); })), 0); }, [&] { save("1", "English"); },
         [&] {
             EXPECT_TRUE(areStored("0", "Deutsch") || areStored("1", "Deutsch") || areStored("1", "English"));
-            const auto start = std::chrono::steady_clock::now();
             EXPECT_EQ(End(Start([&] { save("2", "French"); })), 0);
-            EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
             EXPECT_TRUE(areStored("2", "French"));
             EXPECT_EQ(folder.Names(), Strings{"halvenmoor.ini"});
         });

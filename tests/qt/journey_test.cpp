@@ -1,8 +1,5 @@
 // The program as a user has it: real windows over real files, from the start to the target file.
 
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/path_finder.h"
 #include "program_fixture.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_program.h"
@@ -13,14 +10,6 @@ namespace {
 QString Words(const QWidget& window, const char* control) {
     return window.findChild<QWidget*>(control)->property("text").toString();
 }
-
-struct FilesOnDisk {
-    TemporaryFolder folder;
-    headless::FixedLocale pageOfNames;
-    posix::PathFinder finder{pageOfNames.CodePage()};
-    posix::DiskFileSystem fileSystem{finder};
-    posix::DiskHostFiles hostFiles{finder};
-};
 
 class JourneyTest : protected FilesOnDisk, public RealWindows {
 protected:

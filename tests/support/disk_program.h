@@ -1,8 +1,5 @@
 #pragma once
 
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/path_finder.h"
 #include "tests/support/journeys.h"
 #include "tests/support/temporary_folder.h"
 
@@ -11,12 +8,6 @@
 #include <unistd.h>
 
 namespace halvenmoor {
-
-inline std::string Repeated(const std::string& text, std::size_t count) {
-    std::string all;
-    for (std::size_t i = 0; i < count; ++i) all += text;
-    return all;
-}
 
 /// A small program folder as at first, and nothing else.
 inline void InstallFiles(const TemporaryFolder& folder) {

@@ -27,6 +27,12 @@ inline const std::string kComment2 =
 inline const std::string kComment3 =
     "; Generic Ascii file created by Halvenmoor. (Extended with Direction and DirType).\r\n\r\n";
 
+inline std::string Repeated(std::string_view text, std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
+
 /// Typed text, as it stands in a file of the program.
 inline std::string Crlf(std::string_view text) {
     std::string bytes;
@@ -110,11 +116,6 @@ struct TestProgram : headless::Fakes {
     }
     void Select(int number, const Strings& names) {
         EXPECT_TRUE(headless::Select(List(number), names)) << "list " << number;
-    }
-    void Select(forms::ComboBox& combo, const std::string& text) {
-        int index = 0;
-        while (index < combo.ListCount() && combo.List(index) != text) ++index;
-        EXPECT_TRUE(combo.UserChoose(index)) << text;
     }
     /// Drags entries of one list to another.
     void Drag(int from, int to, const Strings& names) {
