@@ -1,6 +1,7 @@
 // What screen readers are told of the windows, and how the keyboard does all that a mouse can.
 
 #include "all_windows.h"
+#include "tools/user_actions.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -55,9 +56,7 @@ void ExpectAllNamed(forms::Form& form) {
 TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     for (const char* language : {"English", "Deutsch"}) {
         SCOPED_TRACE(language);
-        for (int i = 0; i < Form().LanguageList.ListCount(); ++i) {
-            if (Form().LanguageList.List(i) == language) Form().LanguageList.UserChoose(i);
-        }
+        EXPECT_TRUE(UserChoosesLanguage(Form(), language));
         LookAtAllWindows(ExpectAllNamed);
     }
     EXPECT_EQ(NameOf(Form().TypeList[4]), "Blitzer Typ \"4\" (Abschnittskontrolle)");
