@@ -2,7 +2,6 @@
 #include "base/text/compare.h"
 #include "base/text/decode.h"
 #include "base/text/lettercase.h"
-#include "base/text/trim.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -115,39 +114,11 @@ TEST(Comparing, IgnoresCaseAndEncoding) {
     EXPECT_TRUE(EqualIgnoringCase("\xC6\xD3\xCA", "жук", WindowsCodePage(1251)));
 }
 
-TEST(Comparing, KeysSortByTheFoldedCharacters) {
-    EXPECT_EQ(FoldedCharacters("M25_N\xD6RD", western), U"m25_nörd");
-    const std::string_view ascending[] = {"_A", "a", "B", "b1", "Z", "\xC4", "é", "Ж", "€", "\U0001F697"};
-    for (std::size_t i = 1; i < std::size(ascending); ++i) {
-        EXPECT_LT(FoldedKey(ascending[i - 1], western), FoldedKey(ascending[i], western)) << ascending[i];
-    }
-}
-
 TEST(Comparing, FindsEndings) {
     EXPECT_EQ(WithoutEnding("M1_70MPH", "mph", western), "M1_70");
     EXPECT_EQ(WithoutEnding("mph", "MPH", western), "");
     EXPECT_EQ(WithoutEnding("\xC6-\xCA\xCC/\xD7", "км/ч", WindowsCodePage(1251)), "\xC6-");
     EXPECT_EQ(WithoutEnding("ph", "mph", western), std::nullopt);
-}
-
-TEST(ProperCase, RaisesTheLetterBehindASeparator) {
-    EXPECT_EQ(ProperCase("eXPORT aLL  files"), "Export All  Files");
-    EXPECT_EQ(ProperCase("a\tb\nc\vd\fe\rf\0g"s), "A\tB\nC\vD\fE\rF\0G"s);
-    EXPECT_EQ(ProperCase("ÖSTLICHE straße žluťoučký ПУТЬ"), "Östliche Straße Žluťoučký Путь");
-}
-
-TEST(Trimming, TakesBlanksOnly) {
-    EXPECT_EQ(Trim("  a b  "), "a b");
-    EXPECT_EQ(Trim(" \ta\t "), "\ta\t");
-    EXPECT_EQ(TrimLeft("  a "), "a ");
-}
-
-TEST(Comments, BeginWithOneOfTenCharacters) {
-    for (const char first : "\\/:\"<>|;!#"s)
-        EXPECT_EQ(StripComment(std::string(1, first) + "1.5, 2.5"), "") << first;
-    for (const auto& line : {""s, "1.5, 2.5"s, " ; blank first"s, "a;b"s, "'"s, "[Type1]"s, "\0;"s}) {
-        EXPECT_EQ(StripComment(line), line);
-    }
 }
 
 }  // namespace
