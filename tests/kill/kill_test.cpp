@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <limits>
+#include <numeric>
 #include <random>
 #include <sys/ptrace.h>
 #include <sys/wait.h>
@@ -28,7 +29,7 @@ using Work = std::function<void()>;
 pid_t Start(const Work& work) {
     const pid_t child = ::fork();
     if (child != 0) return child;
-    constexpr unsigned kSecondsUntilItHangs = 10;
+    constexpr unsigned kSecondsUntilItHangs = 20;
     ::alarm(kSecondsUntilItHangs);
     work();
     ::_exit(0);
