@@ -2,7 +2,6 @@
 
 #include "base/text/compare.h"
 #include "catalogue/frmMain.h"
-#include "ui/frmRename.h"
 
 #include <memory>
 #include <string>
@@ -26,18 +25,10 @@ void Program::Start() {
         auto window = std::make_unique<frmMain>(core_);
         exports_.emplace(*window);
         exports_->AttachButtons();
-        AttachRename(*window);
         imports_.emplace(*window);
         imports_->AttachButtons();
         return window;
     });
-}
-
-void Program::AttachRename(frmMain& window) {
-    window.ButtonRenameFile.OnClick = [this, &list = window.MainList] {
-        RenameSelectedFile(core_, list);
-        list.SetFocus();
-    };
 }
 
 frmMain& Program::MainForm() {

@@ -28,8 +28,6 @@ public:
     modExport& Exports() { return exports_.value(); }
 
 private:
-    void AttachRename(frmMain& window);
-
     forms::Desktop desktop_;
     modMain core_;
     std::optional<modExport> exports_;

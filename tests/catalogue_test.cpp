@@ -1,3 +1,4 @@
+#include "catalogue/camera_list.h"
 #include "tests/support/test_program.h"
 
 namespace halvenmoor {
@@ -30,15 +31,14 @@ void SetResultsValid(TestProgram& program) {
     program.Window().UpdateButtons(false);
 }
 
-TEST(CameraFilesTest, AreListedSortedWithoutExtension) {
-    TestProgram program;
+TEST(FindCameraFilesTest, FindsEachNameOnceWithoutItsExtension) {
+    headless::MemoryFiles files;
     for (const auto* name : {"b.asc", "A.asc", "X.ASC", "x.y.Asc", "twice.asc", "twice.ASC", ".hidden.asc",
                              "note.txt", "a.asc.bak", "K\xF6ln.asc"}) {
-        program.memory.Put(std::string("/p/demo/asc_demo/") + name, "");
+        files.Put(std::string("/f/") + name, "");
     }
-    program.memory.AddFolder("/p/demo/asc_demo/folder.asc");
-    program.Start();
-    EXPECT_EQ(program.Items(0), (Strings{"A", "b", "K\xF6ln", "twice", "X", "x.y"}));
+    files.AddFolder("/f/folder.asc");
+    EXPECT_EQ(FindCameraFiles(files, "/f/"), (Strings{"A", "K\xF6ln", "X", "b", "twice", "x.y"}));
 }
 
 class CatalogueTest : public testing::Test {
@@ -194,18 +194,6 @@ TEST_F(LanguageTest, VanishedFileLeavesTheLanguageInUse) {
     EXPECT_EQ(Languages(program), Strings{"English"});
     EXPECT_EQ(ExitCaption(), "Exit");
     EXPECT_EQ(program.Option("Language"), "English");
-}
-
-TEST_F(LanguageTest, TypingIsUndone) {
-    program.AddLanguage("deutsch", "ButtonExitApplication=Beenden");
-    program.Start();
-    for (const auto* language : {"Deutsch", "English"}) {
-        Choose(language);
-        EXPECT_TRUE(program.Window().LanguageList.UserTyped("Deutschx"));
-        EXPECT_EQ(Chosen(), language);
-        EXPECT_EQ(program.Option("Language"), language);
-    }
-    EXPECT_EQ(ExitCaption(), "Exit");
 }
 
 }  // namespace

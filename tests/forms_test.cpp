@@ -15,8 +15,8 @@ namespace {
 using headless::ItemsOf;
 using Log = std::vector<std::string>;
 
-Design At(const char* name, int tab) {
-    return {.name = name, .bounds = {}, .tab = tab};
+Design At(Form& form, const char* name, int tab) {
+    return {.form = form, .name = name, .bounds = {}, .tab = tab};
 }
 
 /// A form that tells what happens to it. Its tab order is not the order of its controls.
@@ -47,10 +47,10 @@ struct TestForm : Form {
     bool mayClose = true;
     std::function<void()> OnLoad;
     std::function<void()> OnActivate;
-    CommandButton third{*this, At("third", 3)};
-    Label title{*this, At("title", 0)};
-    CommandButton first{*this, At("first", 1)};
-    CheckBox second{*this, At("second", 2)};
+    CommandButton third{At(*this, "third", 3)};
+    Label title{At(*this, "title", 0)};
+    CommandButton first{At(*this, "first", 1)};
+    CheckBox second{At(*this, "second", 2)};
 };
 
 class FormsTest : public testing::Test {
@@ -79,13 +79,13 @@ protected:
                     [](std::string_view text) { return text::FoldedKey(text, text::WindowsCodePage(1252)); }};
     TestForm main{desktop, log, {.name = "main", .title = ""}};
     TestForm dialog{desktop, log, {.name = "dialog", .title = ""}};
-    ListBox list{main, At("list", 4)};
-    ListBox other{main, At("other", 6)};
-    ComboBox combo{main, At("combo", 5)};
+    ListBox list{At(main, "list", 4)};
+    ListBox other{At(main, "other", 6)};
+    ComboBox combo{At(main, "combo", 5)};
 };
 
 TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
-    OptionButton option(main, At("option", 7));
+    OptionButton option(At(main, "option", 7));
     for (Control* control : main.Controls()) CountClicks(*control);
     combo.AddItem("a");
     list.AddItems({"a"});

@@ -52,7 +52,7 @@ protected:
     headless::HeadlessToolkit toolkit{clock};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     forms::Form form{desktop, {}};
-    forms::PictureBox box{form, {.name = "box", .bounds = {0, 0, 100 * 15, 20 * 15}, .bordered = true}};
+    forms::PictureBox box{{.form = form, .name = "box", .bounds = {0, 0, 1500, 300}, .bordered = true}};
     headless::FixedTheme theme;
     cProgressBar bar{theme};
 };

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace halvenmoor {
 
@@ -35,5 +36,10 @@ public:
 private:
     int number_;
 };
+
+/// For developers, to be called by every handler that swallows an exception: if the environment has
+/// HALVENMOOR_TRACE, prints what failed, the file (empty: none is known) and the failure's number (0: it is
+/// no Failure) as one line to standard error. Silent otherwise.
+void TraceFailure(std::string_view what, std::string_view file = {}) noexcept;
 
 }  // namespace halvenmoor

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "platform/files.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace halvenmoor {
 
-class frmMain;
-
-/// Empties the lists of the window and fills the unclassified one with the files of the camera folder. A
-/// failure ends the filling without a word; what was found so far stays.
-void LoadCameraFiles(frmMain& window);
+/// The camera files of a folder as entries: their names without ".asc", each once, sorted by their bytes. A
+/// failure ends the search silently; what was found before it counts. The folder ends with a separator.
+std::vector<std::string> FindCameraFiles(platform::HostFiles& files, std::string_view folder);
 
 }  // namespace halvenmoor

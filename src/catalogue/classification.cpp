@@ -1,10 +1,12 @@
 #include "catalogue/classification.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/wildcard.h"
-#include "catalogue/frmMain.h"
 
 #include <exception>
+#include <string>
+#include <vector>
 
 namespace halvenmoor {
 
@@ -32,32 +34,21 @@ std::vector<bool> MatchAny(const std::vector<std::u32string>& names, const Patte
             }
         }
     } catch (const std::exception&) {
-        // Classification says nothing of a malformed pattern or of settings that could not be read.
+        TraceFailure("match a pattern");
+        // Neither a malformed pattern nor settings that could not be read are worth a message.
     }
     return matched;
 }
 
 }  // namespace
 
-bool ClassifyFiles(frmMain& window) {
-    const TypeTable<PatternList>& patterns = window.Core().ClassificationSettings->TypeFileNamePatterns();
-    bool anyMoved = false;
-    for (int type = kFirstType; type <= kLastType; ++type) {
-        const PatternList& ofType = patterns[static_cast<std::size_t>(type)];
-        anyMoved |= ClassifyFilesOfType(window, ofType, static_cast<std::int16_t>(type));
-    }
-    return anyMoved;
-}
-
-bool ClassifyFilesOfType(frmMain& window, const PatternList& patterns, std::int16_t typeNumber) {
+bool ClassifyFilesOfType(forms::ListBox& source, forms::ListBox& target, const PatternList& patterns,
+                         const text::CodePage& codePage) {
     try {
-        if (!window.CheckAuto[typeNumber].Value()) return false;
-        forms::ListBox& source = window.MainList;
-        const text::CodePage& codePage = window.Core().Services().locale.CodePage();
         const std::vector<bool> matched = MatchAny(FoldedFileNames(source, codePage), patterns, codePage);
-        return source.MoveItemsTo(window.TypeList[typeNumber],
-                                  [&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
+        return source.MoveItemsTo(target, [&matched](int i) { return matched[static_cast<std::size_t>(i)]; });
     } catch (const std::exception&) {
+        TraceFailure("classify files");
         return false;  // a move is all or nothing
     }
 }

@@ -1,20 +1,15 @@
 #pragma once
 
-#include "core/camera_types.h"
+#include "base/text/codepage.h"
 #include "core/patterns.h"
-
-#include <cstdint>
+#include "forms/list_box.h"
 
 namespace halvenmoor {
 
-class frmMain;
-
-/// Moves each unclassified entry whose file name matches a pattern of a type into that type's list; the
-/// lowest type wins. True if an entry moved.
-bool ClassifyFiles(frmMain& window);
-
-/// The same for one type, if its CheckAuto is on. A failure, such as a malformed pattern, ends the type
-/// without a word; what has moved stays moved.
-bool ClassifyFilesOfType(frmMain& window, const PatternList& patterns, std::int16_t typeNumber);
+/// Moves each entry of the source whose file name matches a pattern to the target. True if an entry moved. A
+/// malformed pattern ends the search silently; what matched before it still moves. After any other failure
+/// nothing moves, silently too.
+bool ClassifyFilesOfType(forms::ListBox& source, forms::ListBox& target, const PatternList& patterns,
+                         const text::CodePage& codePage);
 
 }  // namespace halvenmoor

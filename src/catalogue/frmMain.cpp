@@ -1,9 +1,8 @@
 #include "catalogue/frmMain.h"
 
 #include "base/text/compare.h"
-#include "catalogue/camera_list.h"
-#include "catalogue/classification.h"
 #include "catalogue/languages.h"
+#include "ui/frmRename.h"
 #include "ui/language/cNamesClass.h"
 
 namespace halvenmoor {
@@ -14,7 +13,7 @@ namespace {
 constexpr int kLeftOfMiddle = 400;
 constexpr int kAboveMiddle = 315;
 
-/// A move of entries, by the headings of the lists.
+/// A move of entries to the list with a heading: from another list, or by a button.
 std::string MoveWords(std::string from, const std::string& to) {
     return from.append(" \u2192 ").append(to);
 }
@@ -26,12 +25,16 @@ const char* StoredValue(const forms::CheckBox& box) {
 }  // namespace
 
 frmMain::frmMain(modMain& core) : frmMainLayout(core.Desktop()), core_(core) {
-    core_.LoadCameraFiles = [this] { LoadCameraFiles(*this); };
+    core_.LoadCameraFiles = [this] { LoadCameraFiles(); };
     ConnectLists();
     ConnectOptions();
     ConnectLanguageList();
     ButtonClassifyFiles.OnClick = [this] {
-        if (ClassifyFiles(*this)) UpdateButtons(true);
+        if (ClassifyFiles()) UpdateButtons(true);
+    };
+    ButtonRenameFile.OnClick = [this] {
+        RenameSelectedFile(core_, MainList);
+        MainList.SetFocus();
     };
     ButtonReloadFiles.OnClick = [this] { ReloadAll(); };
     ButtonExitApplication.OnClick = [this] { Unload(); };
@@ -74,7 +77,7 @@ void frmMain::Load() {
     core_.Names = std::make_shared<cNamesClass>(core_.Services());
     core_.Names->SetPath(core_.LanguageFolder());
     core_.Names->SetSection("Halvenmoor");
-    InitialiseLanguageList(*this);
+    InitialiseLanguageList(LanguageList, core_);
     formLoaded_ = true;
 }
 
@@ -99,7 +102,7 @@ void frmMain::ChooseLanguage() {
     const bool hasFile = FileExistsCheck(core_.Services().fileSystem, names.Path() + language + ".ini");
     if (!hasFile && !text::EqualIgnoringAsciiCase(language, "English")) {
         // The file has gone since the list was filled.
-        InitialiseLanguageList(*this);
+        InitialiseLanguageList(LanguageList, core_);
         return;
     }
     names.SetLanguage(hasFile ? language : "English");
@@ -135,14 +138,18 @@ void frmMain::ApplyLanguageTexts() {
     NameControls();
 }
 
-/// Gives controls without words of their own those of their neighbours.
+/// Names the controls without a caption after their neighbours, for screen readers.
 void frmMain::NameControls() {
+    const cNamesClass& names = *core_.Names;
     const std::string& unclassified = LabelMainList.Caption();
+    const TypeTable<forms::PictureBox*> pictures{nullptr,   &Picture1, &Picture2,
+                                                 &Picture3, &Picture4, &Picture5};
     for (int type = kFirstType; type <= kLastType; ++type) {
         const std::string& heading = LabelTypeList[type].Caption();
-        Picture[type].SetAccessibleName(heading);
+        pictures[static_cast<std::size_t>(type)]->SetAccessibleName(heading);
         TypeList[type].SetAccessibleName(heading);
         CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
+        CheckAuto[type].SetToolTip(MoveWords(names.ButtonClassifyFiles(), heading));
         ButtonAdd[type].SetAccessibleName(MoveWords(unclassified, heading));
         ButtonAdd[type].SetToolTip("Alt+" + std::to_string(type));
         ButtonRemove[type].SetAccessibleName(MoveWords(heading, unclassified));

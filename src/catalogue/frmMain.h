@@ -39,6 +39,8 @@ private:
     void ConnectLanguageList();
 
     void LoadStoredOptions();
+    void LoadCameraFiles();
+    bool ClassifyFiles();
     void ApplyLanguageTexts();
     void NameControls();
     void ChooseLanguage();

@@ -1,6 +1,12 @@
-// The lists of the main window: moves, drags, selections, and the buttons that depend on them.
+// The lists of the main window: their files, moves, drags, selections, and the buttons that depend on them.
 
+#include "base/failure.h"
+#include "catalogue/camera_list.h"
+#include "catalogue/classification.h"
 #include "catalogue/frmMain.h"
+
+#include <exception>
+#include <utility>
 
 namespace halvenmoor {
 
@@ -37,6 +43,31 @@ void frmMain::ClearListBoxes() {
     MainList.Clear();
 }
 
+/// Empties the lists and fills the unclassified one with the files of the camera folder.
+void frmMain::LoadCameraFiles() {
+    ClearListBoxes();
+    std::vector<std::string> entries = FindCameraFiles(core_.Services().hostFiles, core_.CameraFolder());
+    try {
+        MainList.AddItems(std::move(entries));
+    } catch (const std::exception&) {
+        TraceFailure("fill the list of camera files");
+        // A folder with more files than a list can hold shows the first ones.
+    }
+}
+
+/// Moves the unclassified entries to the first type that takes them. True if an entry moved.
+bool frmMain::ClassifyFiles() {
+    const TypeTable<PatternList>& patterns = core_.ClassificationSettings->TypeFileNamePatterns();
+    const text::CodePage& codePage = core_.Services().locale.CodePage();
+    bool anyMoved = false;
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        if (!CheckAuto[type].Value()) continue;
+        const PatternList& ofType = patterns[static_cast<std::size_t>(type)];
+        anyMoved |= ClassifyFilesOfType(MainList, TypeList[type], ofType, codePage);
+    }
+    return anyMoved;
+}
+
 void frmMain::MoveSelectedItems(forms::ListBox& source, forms::ListBox& target) {
     if (source.SelCount() >= 1) {
         source.MoveItemsTo(target, [&source](int i) { return source.Selected(i); });
@@ -60,7 +91,7 @@ void frmMain::ClearOtherSelections(int clicked) {
 void frmMain::ClearSelection(forms::ListBox& list) {
     for (int i = 0; list.SelCount() > 0 && i < list.ListCount(); ++i) {
         if (!list.Selected(i)) continue;
-        // The click that this raises comes from code and must not clear selections in turn.
+        // The click that this raises comes from code and must not clear other selections.
         suppressSelectionEvent_ = true;
         list.SetSelected(i, false);
     }
@@ -93,8 +124,8 @@ void frmMain::UpdateButtons(bool resetResults) {
     UpdateResultsButton();
 }
 
-// The focus ends on the button of the most advanced step, since each rule that takes it comes after the ones
-// for the steps before.
+// Each rule may move the focus to its button. They run in the order of the steps, so the focus ends on the
+// button of the most advanced one.
 
 void frmMain::UpdateClassifyButton() {
     ButtonClassifyFiles.SetEnabled(MainList.ListCount() > 0);

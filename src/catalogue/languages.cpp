@@ -1,8 +1,8 @@
 #include "catalogue/languages.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
-#include "catalogue/frmMain.h"
 #include "ui/language/cNamesClass.h"
 
 #include <exception>
@@ -20,38 +20,38 @@ std::string ShownName(std::string_view fileName, const text::CodePage& codePage)
 
 }  // namespace
 
-void InitialiseLanguageList(frmMain& window) {
-    modMain& core = window.Core();
+void InitialiseLanguageList(forms::ComboBox& list, const modMain& core) {
     cNamesClass& names = *core.Names;
+    const text::CodePage& codePage = core.Services().locale.CodePage();
     if (names.Language().empty()) names.SetLanguage(core.ReadSetting("Language", kEnglish));
-    FillLanguageList(window);
-    if (!FindLanguageInList(window, kEnglish, false)) window.LanguageList.AddItem(std::string(kEnglish));
-    if (FindLanguageInList(window, names.Language(), true)) return;
-    if (FindLanguageInList(window, kEnglish, true)) names.SetLanguage(std::string(kEnglish));
+    FillLanguageList(list, core.Services(), core.LanguageFolder());
+    if (!FindLanguageInList(list, kEnglish, false, codePage)) list.AddItem(std::string(kEnglish));
+    if (FindLanguageInList(list, names.Language(), true, codePage)) return;
+    if (FindLanguageInList(list, kEnglish, true, codePage)) names.SetLanguage(std::string(kEnglish));
 }
 
-void FillLanguageList(frmMain& window) {
-    modMain& core = window.Core();
-    window.LanguageList.Clear();
-    const std::string folder = core.LanguageFolder();
+void FillLanguageList(forms::ComboBox& list, const platform::Platform& services, const std::string& folder) {
+    const text::CodePage& codePage = services.locale.CodePage();
+    list.Clear();
     try {
-        core.Services().hostFiles.Search(folder, kExtension, [&](std::string_view fileName) {
-            const std::string name = ShownName(fileName, core.Services().locale.CodePage());
-            if (FindLanguageInList(window, name, false)) return;
-            // A name that cannot be found again, such as a dangling link, would be chosen in vain.
-            if (!FileExistsCheck(core.Services().fileSystem, folder + name + std::string(kExtension))) return;
-            window.LanguageList.AddItem(name);
+        services.hostFiles.Search(folder, kExtension, [&](std::string_view fileName) {
+            const std::string name = ShownName(fileName, codePage);
+            if (FindLanguageInList(list, name, false, codePage)) return;
+            // A name without a file, such as that of a dangling link, could not be chosen.
+            if (!FileExistsCheck(services.fileSystem, folder + name + std::string(kExtension))) return;
+            list.AddItem(name);
         });
     } catch (const std::exception&) {
+        TraceFailure("list the languages", folder);
         // The languages found so far are offered.
     }
 }
 
-bool FindLanguageInList(frmMain& window, std::string_view name, bool select) {
-    const text::CodePage& codePage = window.Core().Services().locale.CodePage();
-    for (int i = 0; i < window.LanguageList.ListCount(); ++i) {
-        if (!text::EqualIgnoringCase(window.LanguageList.List(i), name, codePage)) continue;
-        if (select) window.LanguageList.SetListIndex(i);
+bool FindLanguageInList(forms::ComboBox& list, std::string_view name, bool select,
+                        const text::CodePage& codePage) {
+    for (int i = 0; i < list.ListCount(); ++i) {
+        if (!text::EqualIgnoringCase(list.List(i), name, codePage)) continue;
+        if (select) list.SetListIndex(i);
         return true;
     }
     return false;
@@ -61,6 +61,7 @@ bool FileExistsCheck(platform::FileSystem& fileSystem, std::string_view path) {
     try {
         return fileSystem.CreateFileSystemObject()->FileExists(path);
     } catch (const std::exception&) {
+        TraceFailure("look for a file", path);
         return false;
     }
 }

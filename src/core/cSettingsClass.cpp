@@ -1,5 +1,6 @@
 #include "core/cSettingsClass.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/trim.h"
 
@@ -20,30 +21,22 @@ struct SectionTexts {
 
 /// A section header and the text that the lines below it are added to.
 struct Header {
-    std::string_view word;
+    std::string word;
     std::string* target;
 };
 
-std::array<Header, 12> HeadersOf(SectionTexts& texts) {
-    return {{
-        {"[Type1]", &texts.names[1]},
-        {"[Type2]", &texts.names[2]},
-        {"[Type3]", &texts.names[3]},
-        {"[Type4]", &texts.names[4]},
-        {"[Type5]", &texts.names[5]},
-        {"[Fixed]", &texts.searches[1]},
-        {"[RedSpeed]", &texts.searches[2]},
-        {"[RedLight]", &texts.searches[3]},
-        {"[Section]", &texts.searches[4]},
-        {"[Mobile]", &texts.searches[5]},
-        {"[Units]", &texts.units},
-        {"[Settings]", &texts.settings},
-    }};
+std::vector<Header> HeadersOf(SectionTexts& texts) {
+    std::vector<Header> headers{{"[Units]", &texts.units}, {"[Settings]", &texts.settings}};
+    for (std::size_t type = kFirstType; type <= kLastType; ++type) {
+        headers.push_back({"[Type" + std::to_string(type) + "]", &texts.names[type]});
+        headers.push_back({"[" + std::string(kTypeWords[type]) + "]", &texts.searches[type]});
+    }
+    return headers;
 }
 
 SectionTexts ReadSections(platform::TextReader& file) {
     SectionTexts texts;
-    const std::array<Header, 12> headers = HeadersOf(texts);
+    const std::vector<Header> headers = HeadersOf(texts);
     std::string* section = nullptr;
     while (!file.AtEndOfStream()) {
         const std::string_view line = text::StripComment(text::Trim(file.ReadLine()));
@@ -61,8 +54,8 @@ SectionTexts ReadSections(platform::TextReader& file) {
     return texts;
 }
 
-/// A list with too many elements ends with one too many, which holds the rest: nobody walks over such a list,
-/// and a string for each comma would take a hundred times the memory of the file.
+/// A list with too many elements gets one element too many, which holds the rest of the text: Elements
+/// refuses such a list, and a string for each comma would take a hundred times the memory of the file.
 std::vector<std::string> SplitList(std::string_view source) {
     std::vector<std::string> list;
     if (source.empty()) return list;
@@ -91,7 +84,8 @@ cSettingsClass::cSettingsClass(platform::FileSystem& fileSystem, std::string_vie
     try {
         Class_Initialize(fileSystem, path);
     } catch (const std::exception&) {
-        // An unreadable file is no message: all values stay as they were before the read.
+        TraceFailure("read the settings", path);
+        // An unreadable file shows no message: all values stay as they were before the read.
     }
 }
 

@@ -45,7 +45,7 @@ public:
 
     /// Shows the main window; if another instance runs already, brings that one forward and makes no window.
     void Main(const FormMaker& makeMainForm);
-    /// Settles the folders, reads Settings.ini again and refills the lists.
+    /// Sets the folders, reads Settings.ini again and refills the lists.
     void ReloadWorkspace();
 
     std::string ReadSetting(std::string_view key, std::string_view defaultValue) const;

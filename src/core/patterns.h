@@ -13,7 +13,7 @@ inline constexpr std::size_t kMaxPatterns = 32767;
 /// Patterns in their order, possibly none; without a value when the settings file could not be read.
 using PatternList = std::optional<std::vector<std::string>>;
 
-/// Whether the list holds nothing at all, not even a list of no elements.
+/// Whether there is no list. A list without elements is one.
 inline bool IsArrayEmpty(const PatternList& list) {
     return !list.has_value();
 }

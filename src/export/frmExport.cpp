@@ -1,5 +1,6 @@
 #include "export/frmExport.h"
 
+#include "base/failure.h"
 #include "base/text/numbers.h"
 #include "export/export_run.h"
 #include "export/results_file.h"
@@ -39,8 +40,7 @@ frmExport::frmExport(modExport& exports)
 }
 
 void frmExport::Load() {
-    const forms::Point main = core_.MainForm->Position();
-    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
+    MoveTo(core_.MainForm->Position() + kOffsetInMainForm);
     SetExportCaptions();
     SetBusy(true);
     progressBar_.SetPicBox(&picProgress);
@@ -76,6 +76,7 @@ bool frmExport::RunExport(std::string_view targetFile) {
     exports_.FilesProcessed = {};
     exports_.CamerasExported = {};
     exports_.CamerasSkipped = {};
+    std::string_view file = targetFile;
     try {
         ExportRun run(exports_, targetFile);
         const std::int16_t count =
@@ -83,11 +84,15 @@ bool frmExport::RunExport(std::string_view targetFile) {
         for (std::int16_t i = 0; i < count; ++i) {
             core_.Desktop().Yield();
             ShowFileProgress(static_cast<std::int16_t>(i + 1), count);
-            run.Run(exports_.ExportFileTable[static_cast<std::size_t>(i)]);
+            const ExportFile& source = exports_.ExportFileTable[static_cast<std::size_t>(i)];
+            file = source.path;
+            run.Run(source);
         }
+        file = targetFile;
         run.Finish();
         return true;
     } catch (const std::exception&) {
+        TraceFailure("export", file);
         // The target keeps what was written; the counters describe the part of the run that was done.
         return false;
     }
@@ -126,6 +131,7 @@ void frmExport::WriteResultsFile() const {
         report.Write([&](const std::string& line) { file->WriteLine(services.locale.ToFileText(line)); });
         file->Close();
     } catch (const std::exception&) {
+        TraceFailure("write the results file");
         // The export stays valid without its results file.
     }
 }

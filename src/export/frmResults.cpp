@@ -32,8 +32,7 @@ frmResults::frmResults(const modExport& exports)
 }
 
 void frmResults::Load() {
-    const forms::Point main = core_.MainForm->Position();
-    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
+    MoveTo(core_.MainForm->Position() + kOffsetInMainForm);
     LoadShowResultsOption();
     SetResultsCaptions();
     ShowCounter(LabelFilesResult, exports_.FilesProcessed);

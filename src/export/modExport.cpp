@@ -1,5 +1,6 @@
 #include "export/modExport.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/trim.h"
 #include "export/file_name_speed.h"
@@ -61,6 +62,7 @@ bool modExport::BuildExportFileList() {
     try {
         for (int type = kFirstType; type <= kLastType; ++type) AddFilesOfType(type);
     } catch (const std::exception&) {
+        TraceFailure("list the files of the export");
         return false;
     }
     return !ExportFileTable.empty();
@@ -85,6 +87,7 @@ bool modExport::IsSpeedCameraTextFile(std::string_view path) const {
         file->Close();
         return isHeader;
     } catch (const std::exception&) {
+        TraceFailure("read the first line of a target", path);
         return false;
     }
 }

@@ -1,5 +1,6 @@
 #include "export/modSaveOpen.h"
 
+#include "base/failure.h"
 #include "ui/language/cNamesClass.h"
 
 #include <exception>
@@ -24,6 +25,7 @@ bool SaveFileDialogue(platform::FileDialogs& dialogs, const platform::FileDialog
         fileName = chosen.value_or(fileName);
         return chosen.has_value();
     } catch (const std::exception&) {
+        TraceFailure("ask for a new target", dialog.folder);
         return false;
     }
 }
@@ -35,6 +37,7 @@ bool OpenFileDialogue(platform::FileDialogs& dialogs, const platform::FileDialog
         fileName = chosen.value_or(fileName);
         return chosen.has_value();
     } catch (const std::exception&) {
+        TraceFailure("ask for an existing target", dialog.folder);
         return false;
     }
 }

@@ -32,6 +32,5 @@ inline constexpr int kButtonHighlightNumber = 20;
 
 inline constexpr Color kButtonFace = SystemColor(kButtonFaceNumber);
 inline constexpr Color kHighlight = SystemColor(kHighlightNumber);
-inline constexpr Color kButtonText = SystemColor(kButtonTextNumber);
 
 }  // namespace halvenmoor::forms

@@ -4,9 +4,9 @@
 
 namespace halvenmoor::forms {
 
-ComboBox::ComboBox(Form& form, Design design)
-    : Control(form, ControlKind::ComboBox, std::move(design)),
-      items_(form.Owner().ListOrder()),
+ComboBox::ComboBox(Design design)
+    : Control(ControlKind::ComboBox, std::move(design)),
+      items_(Owner().Owner().ListOrder()),
       text_(AtDesign().text) {
 }
 
@@ -15,12 +15,12 @@ void ComboBox::SetListIndex(int index) {
     text_ = index >= 0 ? List(index) : std::string();
     listIndex_ = index;
     Changed();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 void ComboBox::AddItem(std::string text) {
-    const int place = items_.Add(std::move(text));
-    if (place <= listIndex_) ++listIndex_;
+    const int position = items_.Add(std::move(text));
+    if (position <= listIndex_) ++listIndex_;
     ++itemsVersion_;
     Changed();
 }
@@ -35,19 +35,21 @@ void ComboBox::Clear() {
 
 bool ComboBox::UserChoose(int index) {
     if (index < 0 || index >= ListCount()) return false;
-    return DeliverWithFocus([&] {
-        const bool same = index == listIndex_;
-        SetListIndex(index);
-        if (same) RaiseClick();
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
+        if (index != listIndex_) return SetListIndex(index);
+        Changed();  // the view may show the choice otherwise
+        Desktop::Raise(OnClick);
     });
 }
 
 bool ComboBox::UserTyped(std::string text) {
-    return DeliverWithFocus([&] {
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
         text_ = std::move(text);
         listIndex_ = -1;
         Changed();
-        Desktop::RaiseIfSet(OnChange);
+        Desktop::Raise(OnChange);
     });
 }
 

@@ -12,7 +12,7 @@ namespace halvenmoor::forms {
 /// A sorted choice with a text field.
 class ComboBox : public Control {
 public:
-    ComboBox(Form& form, Design design);
+    explicit ComboBox(Design design);
 
     int ListCount() const { return items_.Count(); }
     const std::string& List(int index) const { return items_.At(index).text; }

@@ -4,14 +4,13 @@
 
 namespace halvenmoor::forms {
 
-Control::Control(Form& form, forms::ControlKind kind, Design design)
-    : form_(form),
-      kind_(kind),
+Control::Control(forms::ControlKind kind, Design design)
+    : kind_(kind),
       design_(std::move(design)),
       caption_(design_.text),
       enabled_(design_.enabled),
       visible_(design_.visible) {
-    form_.Add(*this);
+    Owner().Add(*this);
 }
 
 void Control::SetCaption(std::string caption) {
@@ -24,14 +23,14 @@ void Control::SetEnabled(bool enabled) {
     if (enabled == enabled_) return;
     enabled_ = enabled;
     Changed();
-    if (!enabled && HasFocus()) form_.PassFocusOn();
+    if (!enabled && HasFocus()) Owner().PassFocusOn();
 }
 
 void Control::SetVisible(bool visible) {
     if (visible == visible_) return;
     visible_ = visible;
     Changed();
-    if (!visible && HasFocus()) form_.PassFocusOn();
+    if (!visible && HasFocus()) Owner().PassFocusOn();
 }
 
 void Control::SetForeColor(Color color) {
@@ -59,34 +58,19 @@ bool Control::CanTakeFocus() const {
 }
 
 bool Control::HasFocus() const {
-    return form_.ActiveControl() == this;
+    return Owner().ActiveControl() == this;
 }
 
 void Control::SetFocus() {
-    if (CanTakeFocus()) form_.FocusOn(this);
+    if (CanTakeFocus()) Owner().FocusOn(this);
 }
 
 bool Control::UserFocused() {
-    return Deliver([this] { SetFocus(); });
+    return Desktop::Deliver(*this, [this] { SetFocus(); });
 }
 
 void Control::Changed() {
-    form_.Mark(*this);
-}
-
-void Control::RaiseClick() {
-    Desktop::RaiseIfSet(OnClick);
-}
-
-bool Control::Deliver(Event event) {
-    return enabled_ && visible_ && form_.Owner().Deliver(form_, event);
-}
-
-bool Control::DeliverWithFocus(Event event) {
-    return Deliver([&] {
-        SetFocus();
-        event();
-    });
+    Owner().Mark(*this);
 }
 
 }  // namespace halvenmoor::forms

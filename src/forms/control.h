@@ -1,8 +1,7 @@
 #pragma once
 
 #include "forms/color.h"
-#include "forms/event.h"
-#include "forms/geometry.h"
+#include "forms/design.h"
 
 #include <functional>
 #include <optional>
@@ -10,7 +9,6 @@
 
 namespace halvenmoor::forms {
 
-class Control;
 class Form;
 
 enum class ControlKind {
@@ -25,39 +23,12 @@ enum class ControlKind {
     TextBox
 };
 
-/// A sign on a button that carries no words.
-enum class Glyph { None, TriangleLeft, TriangleRight, Tick, Cross };
-
-/// A control as its window's table gives it.
-struct Design {
-    std::string name;
-    Bounds bounds;
-    /// Position in the tab order of the window; only the order of the numbers counts.
-    int tab = 0;
-    std::string text = {};
-    /// The frame that the control lies in; none: directly on the window.
-    const Control* frame = nullptr;
-    /// The label that says what the control is for; none: it says so itself.
-    const Control* label = nullptr;
-    bool enabled = true;
-    bool visible = true;
-    /// Check boxes and option buttons: on at the start.
-    bool on = false;
-    bool centred = false;
-    bool bordered = false;
-    Glyph glyph = Glyph::None;
-    /// Command buttons: the digit that presses the button together with Alt; 0 for none.
-    char altDigit = 0;
-    /// Picture boxes: the picture by its name, without a folder or an extension.
-    std::string picture = {};
-};
-
 /// What every control of a window shares. Members named Set… change it from the program, members named
-/// User… are called by the realisation when the user acts, and do nothing where the user cannot act: on a
-/// control that is disabled or hidden, or on a window behind a modal one.
+/// User… are called by its view when the user acts, and do nothing where the user cannot act: on a control
+/// that is disabled or hidden, or on a window behind a modal one. They return false then.
 class Control {
 public:
-    Control(Form& form, ControlKind kind, Design design);
+    Control(ControlKind kind, Design design);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -65,7 +36,7 @@ public:
     const Design& AtDesign() const { return design_; }
     const std::string& Name() const { return design_.name; }
     ControlKind Kind() const { return kind_; }
-    Form& Owner() const { return form_; }
+    Form& Owner() const { return design_.form; }
 
     /// UTF-8; shown as plain text.
     const std::string& Caption() const { return caption_; }
@@ -75,7 +46,7 @@ public:
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }
     void SetVisible(bool visible);
-    /// The text colour; none: the toolkit's own.
+    /// The text colour, a plain one; none: the toolkit's own.
     std::optional<Color> ForeColor() const { return foreColor_; }
     void SetForeColor(Color color);
     /// What a screen reader calls the control: its caption, unless the program has given it other words.
@@ -100,14 +71,8 @@ public:
 protected:
     /// Marks the control: its view is brought up to date at the end of the running event.
     void Changed();
-    void RaiseClick();
-    /// Runs an event of the user; false when the user cannot act on the control.
-    bool Deliver(Event event);
-    /// The same for an action that begins with moving the focus to the control.
-    bool DeliverWithFocus(Event event);
 
 private:
-    Form& form_;
     const ControlKind kind_;
     const Design design_;
     std::string caption_;

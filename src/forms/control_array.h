@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -13,12 +14,12 @@ namespace halvenmoor::forms {
 template <class ControlClass, int First, int Last>
 class ControlArray {
 public:
-    template <class DesignOf>
-    ControlArray(Form& form, DesignOf designOf) {
+    /// Takes the design of each control by its index; the index becomes a part of its name.
+    explicit ControlArray(const std::function<Design(int)>& designOf) {
         for (int i = First; i <= Last; ++i) {
             Design design = designOf(i);
             design.name += "(" + std::to_string(i) + ")";
-            controls_.emplace_back(form, std::move(design));
+            controls_.emplace_back(std::move(design));
         }
     }
 

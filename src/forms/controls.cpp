@@ -5,26 +5,31 @@
 namespace halvenmoor::forms {
 
 bool CommandButton::UserPress() {
-    return DeliverWithFocus([this] { RaiseClick(); });
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
+        Desktop::Raise(OnClick);
+    });
 }
 
-CheckBox::CheckBox(Form& form, Design design)
-    : Control(form, ControlKind::CheckBox, std::move(design)), value_(AtDesign().on) {
+CheckBox::CheckBox(Design design) : Control(ControlKind::CheckBox, std::move(design)), value_(AtDesign().on) {
 }
 
 void CheckBox::SetValue(bool value) {
     if (value == value_) return;
     value_ = value;
     Changed();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 bool CheckBox::UserPress() {
-    return DeliverWithFocus([this] { SetValue(!value_); });
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
+        SetValue(!value_);
+    });
 }
 
-OptionButton::OptionButton(Form& form, Design design)
-    : Control(form, ControlKind::OptionButton, std::move(design)), value_(AtDesign().on) {
+OptionButton::OptionButton(Design design)
+    : Control(ControlKind::OptionButton, std::move(design)), value_(AtDesign().on) {
 }
 
 void OptionButton::SetValue(bool value) {
@@ -35,13 +40,14 @@ void OptionButton::SetValue(bool value) {
         return;
     }
     TurnOn();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 bool OptionButton::UserPress() {
-    return DeliverWithFocus([this] {
+    return Desktop::Deliver(*this, [this] {
+        SetFocus();
         TurnOn();
-        RaiseClick();
+        Desktop::Raise(OnClick);
     });
 }
 
@@ -55,8 +61,8 @@ void OptionButton::TurnOn() {
     Changed();
 }
 
-PictureBox::PictureBox(Form& form, Design design)
-    : Control(form, ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
+PictureBox::PictureBox(Design design)
+    : Control(ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
 }
 
 void PictureBox::SetBordered(bool bordered) {
@@ -75,7 +81,11 @@ void TextBox::SelectAll() {
 }
 
 bool TextBox::UserTyped(std::string text) {
-    return DeliverWithFocus([&] { SetCaption(std::move(text)); });
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
+        SetCaption(std::move(text));
+        Changed();  // even where the text is the same: the view may show it otherwise
+    });
 }
 
 }  // namespace halvenmoor::forms

@@ -12,24 +12,24 @@ class Canvas;
 
 class Label : public Control {
 public:
-    Label(Form& form, Design design) : Control(form, ControlKind::Label, std::move(design)) {}
+    explicit Label(Design design) : Control(ControlKind::Label, std::move(design)) {}
 };
 
 class Frame : public Control {
 public:
-    Frame(Form& form, Design design) : Control(form, ControlKind::Frame, std::move(design)) {}
+    explicit Frame(Design design) : Control(ControlKind::Frame, std::move(design)) {}
 };
 
 class CommandButton : public Control {
 public:
-    CommandButton(Form& form, Design design) : Control(form, ControlKind::CommandButton, std::move(design)) {}
+    explicit CommandButton(Design design) : Control(ControlKind::CommandButton, std::move(design)) {}
 
     bool UserPress();
 };
 
 class CheckBox : public Control {
 public:
-    CheckBox(Form& form, Design design);
+    explicit CheckBox(Design design);
 
     bool Value() const { return value_; }
     /// Raises the click when the value changes.
@@ -44,7 +44,7 @@ private:
 /// One of a group: the option buttons of a window that lie in the same frame, or directly on it.
 class OptionButton : public Control {
 public:
-    OptionButton(Form& form, Design design);
+    explicit OptionButton(Design design);
 
     bool Value() const { return value_; }
     /// Turning one on turns the others of its group off. Raises the click when it turns this one on.
@@ -61,7 +61,7 @@ private:
 /// A picture or a drawing surface.
 class PictureBox : public Control {
 public:
-    PictureBox(Form& form, Design design);
+    explicit PictureBox(Design design);
 
     const Font& GetFont() const { return font_; }
     bool Bordered() const { return bordered_; }
@@ -76,7 +76,7 @@ private:
 
 class TextBox : public Control {
 public:
-    TextBox(Form& form, Design design) : Control(form, ControlKind::TextBox, std::move(design)) {}
+    explicit TextBox(Design design) : Control(ControlKind::TextBox, std::move(design)) {}
 
     const std::string& Text() const { return Caption(); }
     void SetText(std::string text) { SetCaption(std::move(text)); }

@@ -68,26 +68,6 @@ void Desktop::YieldIfDue() {
     if (YieldIsDue()) Yield();
 }
 
-bool Desktop::Deliver(Form& form, Event event) {
-    if (!Accepts(form)) return false;
-    Raise(event);
-    Raise([this] { Refresh(); });
-    return true;
-}
-
-bool Desktop::Raise(Event event) noexcept {
-    try {
-        event();
-        return true;
-    } catch (...) {
-        return false;  // what a handler does not catch ends its event, and nothing else
-    }
-}
-
-void Desktop::RaiseIfSet(const std::function<void()>& handler) noexcept {
-    if (handler) Raise(handler);
-}
-
 bool Desktop::Accepts(const Form& form) const {
     return !open_.empty() && open_.back() == &form;
 }

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "forms/event.h"
+#include "base/failure.h"
 #include "forms/form.h"
 #include "forms/sorted_items.h"
 #include "forms/toolkit.h"
 
 #include <functional>
+#include <type_traits>
 #include <vector>
 
 namespace halvenmoor::forms {
@@ -34,13 +35,17 @@ public:
     void YieldIfDue();
     bool YieldIsDue() const { return toolkit_.YieldIsDue(); }
 
-    /// Runs an event of a form: only the topmost form takes events. What the event's handlers do not catch
-    /// ends here, silently. Afterwards the views are brought up to date.
-    bool Deliver(Form& form, Event event);
-    /// Runs an event; a failure that it does not catch ends it silently. False if there was one.
-    static bool Raise(Event event) noexcept;
-    /// The same for a handler that may be missing.
-    static void RaiseIfSet(const std::function<void()>& handler) noexcept;
+    /// Runs an event of a form, then brings the views up to date. A failure that the event does not catch
+    /// ends it silently. False, and nothing runs, when the form is not the topmost one.
+    template <class Event>
+    static bool Deliver(Form& form, const Event& event);
+    /// The same for a control, which must also be enabled and visible.
+    template <class Event>
+    static bool Deliver(Control& control, const Event& event);
+    /// Runs a handler; one that is not set does nothing. A failure that it does not catch ends it silently.
+    /// False if there was one.
+    template <class Handler>
+    static bool Raise(const Handler& handler) noexcept;
     /// Whether the user can act on the form.
     bool Accepts(const Form& form) const;
 
@@ -58,5 +63,36 @@ private:
     std::vector<Form*> open_;
     bool ended_ = false;
 };
+
+// Templates take a handler of any type as it is: to wrap it in a std::function may allocate, and so fail
+// before the handler runs.
+
+template <class Event>
+bool Desktop::Deliver(Form& form, const Event& event) {
+    Desktop& desktop = form.Owner();
+    if (!desktop.Accepts(form)) return false;
+    Raise(event);
+    Raise([&desktop] { desktop.Refresh(); });
+    return true;
+}
+
+template <class Event>
+bool Desktop::Deliver(Control& control, const Event& event) {
+    return control.Enabled() && control.Visible() && Deliver(control.Owner(), event);
+}
+
+template <class Handler>
+bool Desktop::Raise(const Handler& handler) noexcept {
+    try {
+        if constexpr (std::is_same_v<Handler, std::function<void()>>) {
+            if (!handler) return true;
+        }
+        handler();
+        return true;
+    } catch (...) {
+        TraceFailure("handle an event");
+        return false;
+    }
+}
 
 }  // namespace halvenmoor::forms

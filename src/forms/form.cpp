@@ -44,7 +44,7 @@ void Form::Unload() {
 
 bool Form::UserClose() {
     if (!design_.closeBox) return false;
-    return desktop_.Deliver(*this, [this] { desktop_.Close(*this, CloseReason::User); });
+    return Desktop::Deliver(*this, [this] { desktop_.Close(*this, CloseReason::User); });
 }
 
 bool Form::UserEscape() {
@@ -54,7 +54,7 @@ bool Form::UserEscape() {
 bool Form::UserKeyPress(char32_t key) {
     if (!design_.keyPreview) return false;
     bool consumed = false;
-    desktop_.Deliver(*this, [&] { consumed = KeyPress(key); });
+    Desktop::Deliver(*this, [&] { consumed = KeyPress(key); });
     return consumed;
 }
 

@@ -22,7 +22,6 @@ struct FormDesign {
     std::string title;
     Twips width = 0;
     Twips height = 0;
-    bool icon = true;
     bool closeBox = true;
     bool toolWindow = false;
     /// The window receives key presses before its controls do.

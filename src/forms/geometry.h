@@ -26,6 +26,10 @@ struct Point {
     Twips top = 0;
 };
 
+constexpr Point operator+(Point a, Point b) {
+    return {a.left + b.left, a.top + b.top};
+}
+
 /// A rectangle in pixels; right and bottom lie just outside of it.
 struct PixelRect {
     int left = 0;

@@ -23,8 +23,8 @@ private:
     std::string text_;
 };
 
-ListBox::ListBox(Form& form, Design design)
-    : Control(form, ControlKind::ListBox, std::move(design)), items_(form.Owner().ListOrder()) {
+ListBox::ListBox(Design design)
+    : Control(ControlKind::ListBox, std::move(design)), items_(Owner().Owner().ListOrder()) {
 }
 
 int ListBox::TopIndex() const {
@@ -45,7 +45,7 @@ void ListBox::SetSelected(int index, bool selected) {
         mustScroll_ = true;
     }
     Changed();
-    RaiseClick();
+    Desktop::Raise(OnClick);
 }
 
 int ListBox::AddItem(std::string text) {
@@ -98,28 +98,29 @@ void ListBox::ItemsGone(const std::vector<int>& positions, int selectedCount) {
 }
 
 bool ListBox::UserSelect(const std::vector<int>& rows, int current) {
-    return DeliverWithFocus([&] {
+    return Desktop::Deliver(*this, [&] {
+        SetFocus();
         for (const int row : rows) static_cast<void>(items_.At(row));  // fails before anything has changed
         for (int i = 0; i < ListCount(); ++i) items_.At(i).selected = false;
         for (const int row : rows) items_.At(row).selected = true;
         selCount_ = static_cast<int>(rows.size());
         listIndex_ = current;
         Changed();
-        RaiseClick();
+        Desktop::Raise(OnClick);
     });
 }
 
 bool ListBox::UserStartDrag() {
-    return Deliver([this] { Desktop::RaiseIfSet(OnStartDrag); });
+    return Desktop::Deliver(*this, OnStartDrag);
 }
 
 bool ListBox::UserDrop() {
     if (dropMode_ != DropMode::Manual) return false;
-    return Deliver([this] { Desktop::RaiseIfSet(OnDragDrop); });
+    return Desktop::Deliver(*this, OnDragDrop);
 }
 
 bool ListBox::UserCompleteDrag() {
-    return Deliver([this] { Desktop::RaiseIfSet(OnCompleteDrag); });
+    return Desktop::Deliver(*this, OnCompleteDrag);
 }
 
 void ListBox::ItemsChanged() {

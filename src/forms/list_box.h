@@ -16,7 +16,7 @@ class ListBox : public Control {
 public:
     enum class DropMode { None, Manual };
 
-    ListBox(Form& form, Design design);
+    explicit ListBox(Design design);
 
     int ListCount() const { return items_.Count(); }
     const std::string& List(int index) const { return items_.At(index).text; }

@@ -23,8 +23,8 @@ int SortedItems::Add(std::string text) {
     if (Count() >= kMaxCount) FailFull();
     std::string key = sortKey_(text);
     Item item{std::move(text), std::move(key)};
-    const auto place = std::upper_bound(items_.begin(), items_.end(), item, StandsBefore);
-    const auto added = items_.insert(place, std::move(item));  // may move all items, so begin comes after
+    const auto position = std::upper_bound(items_.begin(), items_.end(), item, StandsBefore);
+    const auto added = items_.insert(position, std::move(item));  // may move all items, so begin comes after
     return static_cast<int>(added - items_.begin());
 }
 

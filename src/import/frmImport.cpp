@@ -1,5 +1,6 @@
 #include "import/frmImport.h"
 
+#include "base/failure.h"
 #include "import/ov2_import.h"
 #include "import/txt_import.h"
 #include "ui/group_text_color.h"
@@ -36,7 +37,7 @@ std::string CountOf(std::int32_t count, const std::string& word) {
 
 frmImport::frmImport(frmMain& mainForm)
     : frmImportLayout(mainForm.Core().Desktop()), mainForm_(mainForm), core_(mainForm.Core()) {
-    CheckDelete.OnClick = [this] { CheckDelete.SetValue(true); };  // the run deletes, whatever happens
+    CheckDelete.OnClick = [this] { CheckDelete.SetValue(true); };  // an import always deletes them
     for (int option = 1; option <= 2; ++option) {
         OptionSource[option].OnClick = [this, option] { ChooseSource(option); };
     }
@@ -46,8 +47,7 @@ frmImport::frmImport(frmMain& mainForm)
 }
 
 void frmImport::Load() {
-    const forms::Point main = mainForm_.Position();
-    MoveTo({main.left + kOffsetInMainForm.left, main.top + kOffsetInMainForm.top});
+    MoveTo(mainForm_.Position() + kOffsetInMainForm);
     ApplyImportTexts();
     UpdateDisplay(Display::Ready);
 }
@@ -102,7 +102,8 @@ void frmImport::StartImport() {
     try {
         RunImport();
     } catch (const std::exception&) {
-        // Whatever happened, the user gets out by Finish.
+        TraceFailure("import");
+        // Whatever failed, the user can close the dialog by Finish.
     }
     SetBusy(false);
     ButtonCancel.SetEnabled(false);
@@ -127,6 +128,7 @@ bool frmImport::ConvertSources() {
         const bool isSound = sourceOption_ == kOv2 ? ConvertOv2(task) : ConvertTxt(task);
         return isSound && !StopRequested();
     } catch (const std::exception&) {
+        TraceFailure("convert the sources", task.sourceFolder);
         return false;
     }
 }
@@ -156,11 +158,13 @@ bool frmImport::DeleteAllFiles(const std::string& path) const {
             try {
                 folder->Delete(name);
             } catch (const std::exception&) {
-                // The files left over tell.
+                TraceFailure("delete a camera file", name);
+                // The check below finds the files that could not be deleted.
             }
         }
         return folder->Files().empty();
     } catch (const std::exception&) {
+        TraceFailure("empty the camera folder", path);
         return false;
     }
 }
@@ -175,6 +179,7 @@ std::int32_t frmImport::CountFiles(const std::string& path, std::string_view ext
         }
         return count;
     } catch (const std::exception&) {
+        TraceFailure("count files", path);
         return 0;
     }
 }
@@ -187,7 +192,7 @@ void frmImport::UpdateDisplay(Display display) {
     }
     LabelSourceFiles.SetCaption(CountOf(sourceFileCount_, filesWord_));
     LabelTargetFiles.SetCaption(CountOf(targetFileCount, filesWord_));
-    // The end of a run: no other colour comes after it.
+    // Once red, the label stays red: the import is over.
     if (display == Display::Incomplete) LabelTargetFiles.SetForeColor(kRed);
     Owner().YieldIfDue();
 }
@@ -208,11 +213,11 @@ void frmImport::ShowPicture(Display display, std::int32_t targetFileCount) {
 }
 
 bool frmImport::StopRequested() const {
-    return stopRequested_ || !IsOpen();  // the system may have closed the dialog in the middle of its run
+    return stopRequested_ || !IsOpen();  // the system may have closed the dialog during the import
 }
 
 void frmImport::FileDone() {
-    // Nobody sees the counts between two yields, and in a large folder they are not cheap.
+    // Counts show at a yield only, and counting the files of a large folder takes time.
     if (Owner().YieldIsDue()) UpdateDisplay(Display::Counts);
 }
 

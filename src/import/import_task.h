@@ -21,7 +21,7 @@ public:
     virtual bool StopRequested() const = 0;
     /// A camera file has been dealt with. Yields to the interface.
     virtual void FileDone() = 0;
-    /// So many records were read so far.
+    /// This many records have been read so far.
     virtual void RecordsAdded(std::int32_t count) = 0;
 };
 

@@ -6,7 +6,7 @@ namespace halvenmoor {
 
 namespace {
 
-/// Lists that take no input for as long as this lives.
+/// Disables the lists for as long as it lives.
 class DisabledLists {
 public:
     explicit DisabledLists(frmMain& mainForm) : mainForm_(mainForm) { mainForm_.DisableLists(); }

@@ -1,5 +1,6 @@
 #include "import/ov2_import.h"
 
+#include "base/failure.h"
 #include "import/ov2_record.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ private:
     std::size_t end_ = 0;
 };
 
-/// False when the source holds what no OV2 file holds.
+/// False when the source has a record that no OV2 file can have.
 bool WriteRecords(platform::ByteReader& source, platform::TextWriter& target, std::string_view suffix) {
     RecordReader records(source);
     std::string line;
@@ -89,6 +90,7 @@ bool ConvertOv2File(const ImportTask& task, std::string_view sourcePath, std::st
         target->Close();
         return isSound;
     } catch (const std::exception&) {
+        TraceFailure("convert an OV2 source", sourcePath);
         return false;
     }
 }
@@ -98,6 +100,7 @@ void RemoveTarget(const ImportTask& task, std::string_view path) {
         const auto files = task.services.fileSystem.CreateFileSystemObject();
         if (files->FileExists(path)) files->DeleteFile(path);
     } catch (const std::exception&) {
+        TraceFailure("delete an incomplete camera file", path);
         // What cannot be deleted stays, and counts as a camera file.
     }
 }
@@ -109,6 +112,7 @@ std::vector<std::string> ReadableSourceFiles(const ImportTask& task) {
         if (!names.empty()) task.services.fileSystem.CreateFileSystemObject()->GetFolder(task.targetFolder);
         return names;
     } catch (const std::exception&) {
+        TraceFailure("list the OV2 sources", task.sourceFolder);
         return {};
     }
 }

@@ -1,5 +1,6 @@
 #include "import/txt_import.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/numbers.h"
 #include "base/text/trim.h"
@@ -12,10 +13,9 @@ namespace halvenmoor {
 
 namespace {
 
-constexpr TypeTable<std::string_view> kTypeWords{"", "Fixed", "RedSpeed", "RedLight", "Section", "Mobile"};
 constexpr int kRedLight = 3;
 
-/// The label of the added records moves when so many came in.
+/// The label of the added records is updated each time so many more were read.
 constexpr std::int32_t kRecordsPerRefresh = 97;
 
 constexpr std::size_t kShortRecord = 4;
@@ -102,6 +102,7 @@ void TxtImport::ReadTxtFiles() {
     try {
         names = SourceFiles(task_);
     } catch (const std::exception&) {
+        TraceFailure("list the TXT sources", task_.sourceFolder);
         return;
     }
     for (const std::string& name : names) {
@@ -118,6 +119,7 @@ void TxtImport::ReadTxtFile(const std::string& path) {
         task_.progress.RecordsAdded(addedRecords_);
         file->Close();
     } catch (const std::exception&) {
+        TraceFailure("read a TXT source", path);
         // The records taken so far stay; the rest of the file is lost.
     }
 }
@@ -154,8 +156,8 @@ void TxtImport::CollectAllSpeeds() {
 }
 
 void TxtImport::CollectSpeeds(TypeRecords& records) {
-    // The speeds were told apart when the records were read. The turns are still there, one for each record,
-    // so that a stop comes through before the first file is written.
+    // The records were grouped by speed as they were read. This loop only yields, once for each record, so
+    // that the user can stop the import before its first file is written.
     for (std::int32_t i = 0; i < records.Count(); ++i) {
         task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
@@ -169,6 +171,7 @@ void TxtImport::WriteAllTypes() {
         try {
             WriteTypeFiles(type);
         } catch (const std::exception&) {
+            TraceFailure("write the camera files of a type", kTypeWords[static_cast<std::size_t>(type)]);
             // The speeds of this type that are not written yet are lost.
         }
     }

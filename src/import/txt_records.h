@@ -24,12 +24,11 @@ class SpeedRecords {
 public:
     explicit SpeedRecords(std::string_view speed);
 
-    const std::string& Speed() const { return speed_; }
     /// The number that the speed's text begins with.
     double Number() const { return number_; }
     void Append(std::string_view storedRecord) { stored_ += storedRecord; }
 
-    /// Hands over each record, with the speed's text as it was first met.
+    /// Calls take with each record; the speed is the text that was read first.
     template <class Taker>
     void ForEach(const Taker& take) const;
 
@@ -41,7 +40,7 @@ private:
 
     std::string speed_;
     double number_;
-    std::string stored_;  // each text once, and nothing else: there may be millions
+    std::string stored_;  // one string for all records, since there may be millions
 };
 
 /// The records of one camera type, by their speeds. Speeds that differ only in letter case are one.

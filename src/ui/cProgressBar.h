@@ -17,7 +17,7 @@ public:
     explicit cProgressBar(const platform::Theme& theme) : theme_(theme) {}
 
     forms::PictureBox* PicBox() const { return picBox_; }
-    /// No picture box: the present one stays.
+    /// A null pointer changes nothing.
     void SetPicBox(forms::PictureBox* box);
     std::int32_t Min() const { return min_; }
     void SetMin(std::int32_t value) { Store(min_, value); }

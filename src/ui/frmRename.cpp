@@ -1,5 +1,6 @@
 #include "ui/frmRename.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
 #include "ui/language/cNamesClass.h"
@@ -92,6 +93,7 @@ bool frmRename::RenameFile(const std::string& oldName, const std::string& newNam
         MoveEntry(newName);
         return true;
     } catch (const std::exception&) {
+        TraceFailure("rename a camera file", oldName);
         return false;
     }
 }
@@ -127,7 +129,8 @@ void RenameSelectedFile(const modMain& core, forms::ListBox& list) {
         frmRename dialog(core, list);
         core.Desktop().ShowModal(dialog);
     } catch (const std::exception&) {
-        // The user sees that nothing happens, and everything is as it was.
+        TraceFailure("open the rename window");
+        // No window opens, and nothing has changed.
     }
 }
 

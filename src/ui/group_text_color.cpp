@@ -1,5 +1,7 @@
 #include "ui/group_text_color.h"
 
+#include "base/failure.h"
+
 #include <exception>
 
 namespace halvenmoor {
@@ -10,13 +12,16 @@ bool GetGroupTextColor(const platform::Theme& theme, forms::Color& color) {
         color = theme.GroupBoxTextColor().value_or(color);
         return true;
     } catch (const std::exception&) {
+        TraceFailure("read the theme");
         return false;
     }
 }
 
 forms::Color HeadingColor(const platform::Theme& theme) {
-    forms::Color color = forms::Rgb(0, 0, 0);
-    return GetGroupTextColor(theme, color) ? color : forms::kButtonText;
+    constexpr forms::Color kBlack = forms::Rgb(0, 0, 0);
+    forms::Color color = kBlack;
+    if (GetGroupTextColor(theme, color)) return color;
+    return theme.SystemColor(forms::kButtonTextNumber).value_or(kBlack);
 }
 
 }  // namespace halvenmoor

@@ -9,7 +9,8 @@ namespace halvenmoor {
 /// the theme does not tell.
 bool GetGroupTextColor(const platform::Theme& theme, forms::Color& color);
 
-/// The colour of the heading labels of a window: that of a themed group box, else of button text.
+/// The colour of the heading labels of a window, a plain one: that of a themed group box, else of button
+/// text.
 forms::Color HeadingColor(const platform::Theme& theme);
 
 }  // namespace halvenmoor

@@ -40,6 +40,7 @@ void ExpectAllNamed(forms::Form& form) {
     const bool isMain = form.AtDesign().name == "frmMain";
     EXPECT_EQ(window->role(), isMain ? QAccessible::Window : QAccessible::Dialog);
     EXPECT_EQ(window->text(QAccessible::Name).toStdString(), form.Caption());
+    EXPECT_FALSE(WidgetOf(form).windowIcon().isNull()) << "the task bar shows it";
     for (const forms::Control* control : form.Controls()) {
         if (!control->Visible()) continue;
         const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&WidgetOf(*control));
@@ -61,6 +62,7 @@ TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     }
     EXPECT_EQ(NameOf(Form().TypeList[4]), "Blitzer Typ \"4\" (Abschnittskontrolle)");
     EXPECT_EQ(NameOf(Form().MainList), "Blitzerdateien (Ohne Typ)");
+    EXPECT_EQ(Form().CheckAuto[4].ToolTip(), "Dateien zuordnen → Blitzer Typ \"4\" (Abschnittskontrolle)");
     EXPECT_EQ(NameOf(Form().ButtonAdd[5]),
               "Blitzerdateien (Ohne Typ) \u2192 Blitzer Typ \"5\" (Mobiler Blitzer)");
     EXPECT_EQ(NameOf(Form().ButtonRemove[1]),

@@ -4,6 +4,9 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_program.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+
 namespace halvenmoor::qt {
 namespace {
 
@@ -34,6 +37,8 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
     EXPECT_EQ(Words(Main(), "LabelTypeList(1)"), "Speed Camera Type \"1\" (Fixed Speed Camera)");
     WidgetOf(Form().LanguageList).setFocus();
     QTest::keyClick(&WidgetOf(Form().LanguageList), Qt::Key_Down);
+    QTest::keyClick(&WidgetOf(Form().LanguageList), Qt::Key_X);
+    EXPECT_EQ(Main().findChild<QComboBox*>("LanguageList")->currentText(), "Klingon") << "typing is undone";
     EXPECT_EQ(Words(Main(), "ButtonExportCameras"), "Nob");
 
     Click(Form().ButtonClassifyFiles);
@@ -58,6 +63,8 @@ TEST_F(JourneyTest, FromTheStartToTheTargetFile) {
     Click(Form().CheckDemoMode);
     {
         const WhenShown dialog("frmImport", [](QWidget& window) {
+            QTest::mouseClick(window.findChild<QWidget*>("CheckDelete"), Qt::LeftButton);
+            EXPECT_TRUE(window.findChild<QCheckBox*>("CheckDelete")->isChecked());
             QTest::mouseClick(window.findChild<QWidget*>("ButtonStart"), Qt::LeftButton);
             EXPECT_TRUE(window.findChild<QWidget*>("PictureFinished")->isVisible());
             EXPECT_EQ(Words(window, "LabelTargetFiles"), "1 File(s)");

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "forms/combo_box.h"
 #include "forms/desktop.h"
-#include "forms/list_box.h"
+#include "forms/layout.h"
 #include "platform/headless/services.h"
 #include "platform/qt/windows/form_window.h"
 #include "platform/qt/windows/toolkit.h"
@@ -34,10 +33,10 @@ inline QPoint CentreOfRow(const QListView& list, int row) {
 }
 
 /// A window with a control of each kind.
-struct SampleForm : forms::Form {
+struct SampleForm : forms::Layout {
     explicit SampleForm(forms::Desktop& desktop, bool closeBox = true)
-        : Form(desktop,
-               {.name = "sample", .title = "Sample", .width = 6000, .height = 6000, .closeBox = closeBox}) {
+        : Layout(desktop,
+                 {.name = "sample", .title = "Sample", .width = 6000, .height = 6000, .closeBox = closeBox}) {
         SetCancelButton(&cancel);
         const auto hearClicks = [this](auto&... controls) {
             ((controls.OnClick = [this, &controls] { heard.push_back(controls.Name()); }), ...);
@@ -54,21 +53,18 @@ struct SampleForm : forms::Form {
         if (script) script();
     }
 
-    forms::Frame frame{*this, {.name = "frame", .bounds = {3000, 0, 2900, 1500}, .text = "A & B"}};
-    forms::Label label{
-        *this, {.name = "label", .bounds = {150, 300, 1500, 300}, .text = "<b>a</b> & b", .frame = &frame}};
-    forms::CommandButton first{*this,
-                               {.name = "first", .bounds = {0, 0, 1200, 375}, .tab = 1, .text = "&Go"}};
-    forms::CommandButton cancel{*this, {.name = "cancel", .bounds = {1500, 0, 1200, 375}, .tab = 2}};
-    forms::CheckBox check{*this, {.name = "check", .bounds = {0, 450, 1500, 300}, .tab = 3, .text = "On"}};
-    forms::OptionButton optionA{*this,
-                                {.name = "optionA", .bounds = {0, 900, 1500, 300}, .tab = 4, .on = true}};
-    forms::OptionButton optionB{*this, {.name = "optionB", .bounds = {0, 1200, 1500, 300}, .tab = 5}};
-    forms::ListBox left{*this, {.name = "left", .bounds = {0, 1650, 2400, 1500}, .tab = 6}};
-    forms::ListBox right{*this, {.name = "right", .bounds = {3000, 1650, 2400, 1500}, .tab = 7}};
-    forms::ComboBox combo{*this, {.name = "combo", .bounds = {0, 3300, 2400, 315}, .tab = 8, .text = "Pick"}};
-    forms::TextBox text{*this, {.name = "text", .bounds = {0, 3750, 2400, 315}, .tab = 9}};
-    forms::PictureBox picture{*this, {.name = "picture", .bounds = {0, 4200, 1500, 750}, .bordered = true}};
+    forms::Frame frame{Row("frame", {3000, 0, 2900, 1500}, 0, "A & B")};
+    forms::Label label{Row("label", {150, 300, 1500, 300}, 0, "<b>a</b> & b").In(frame)};
+    forms::CommandButton first{Row("first", {0, 0, 1200, 375}, 1, "&Go")};
+    forms::CommandButton cancel{Row("cancel", {1500, 0, 1200, 375}, 2)};
+    forms::CheckBox check{Row("check", {0, 450, 1500, 300}, 3, "On")};
+    forms::OptionButton optionA{Row("optionA", {0, 900, 1500, 300}, 4).On()};
+    forms::OptionButton optionB{Row("optionB", {0, 1200, 1500, 300}, 5)};
+    forms::ListBox left{Row("left", {0, 1650, 2400, 1500}, 6)};
+    forms::ListBox right{Row("right", {3000, 1650, 2400, 1500}, 7)};
+    forms::ComboBox combo{Row("combo", {0, 3300, 2400, 315}, 8, "Pick")};
+    forms::TextBox text{Row("text", {0, 3750, 2400, 315}, 9)};
+    forms::PictureBox picture{Row("picture", {0, 4200, 1500, 750}, 0).Bordered()};
 
     std::vector<std::string> heard;
     /// What happens once the form is on the screen.

@@ -1,5 +1,6 @@
 #include "platform/posix/path_finder.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "platform/posix/directory.h"
 #include "platform/posix/system.h"
@@ -74,6 +75,7 @@ void PathFinder::Scan(const std::string& folder, Index& index) const {
         }
         index.isTrusted = now - index.stamp.seconds >= kMaxTimeStep;
     } catch (const Failure&) {
+        TraceFailure("list a folder", folder);
         // A folder that cannot be listed still has the entries whose exact names are known.
     }
 }

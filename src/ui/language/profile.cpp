@@ -1,5 +1,6 @@
 #include "ui/language/profile.h"
 
+#include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
 
@@ -60,6 +61,7 @@ std::optional<std::string> ReadProfileValue(platform::FileSystem& fileSystem, st
         if (!SkipToSection(*file, section)) return std::nullopt;
         return FindValue(*file, key, codePage);
     } catch (const std::exception&) {
+        TraceFailure("read a language file", path);
         return std::nullopt;
     }
 }

@@ -1,28 +1,23 @@
 #pragma once
 
-#include "forms/controls.h"
-#include "forms/form.h"
+#include "forms/layout.h"
 
 namespace halvenmoor {
 
 /// The controls of the window that shows a running export. The user cannot close it.
-class frmExportLayout : public forms::Form {
+class frmExportLayout : public forms::Layout {
 public:
     explicit frmExportLayout(forms::Desktop& desktop)
-        : Form(desktop, {.name = "frmExport",
-                         .title = "Export Speed Cameras",
-                         .width = 6990,
-                         .height = 1830,
-                         .icon = false,
-                         .closeBox = false}) {}
+        : Layout(desktop, {.name = "frmExport",
+                           .title = "Export Speed Cameras",
+                           .width = 6990,
+                           .height = 1830,
+                           .closeBox = false}) {}
 
-    forms::Label LabelProgress{*this,
-                               {.name = "LabelProgress",
-                                .bounds = {480, 360, 3615, 255},
-                                .tab = 0,
-                                .text = "Exporting Speed Cameras..."}};
-    forms::PictureBox picProgress{
-        *this, {.name = "picProgress", .bounds = {480, 720, 6025, 285}, .tab = 1, .bordered = true}};
+    // clang-format off
+    Label      LabelProgress{Row("LabelProgress", {480, 360, 3615, 255}, 0, "Exporting Speed Cameras...")};
+    PictureBox picProgress  {Row("picProgress",   {480, 720, 6025, 285}, 1).Bordered()};
+    // clang-format on
 };
 
 }  // namespace halvenmoor

@@ -1,5 +1,6 @@
 #include "platform/qt/services/application.h"
 
+#include "base/failure.h"
 #include "platform/version.h"
 
 namespace halvenmoor::qt {
@@ -20,6 +21,7 @@ bool SafeApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
+        TraceFailure("handle an event of the toolkit");
         return false;  // the event is lost, the program lives on
     }
 }

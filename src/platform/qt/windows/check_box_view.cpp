@@ -7,8 +7,7 @@ namespace halvenmoor::qt {
 CheckBoxView::CheckBoxView(forms::CheckBox& box, QWidget& parent, const text::CodePage& page)
     : ViewOf(box, parent, page) {
     QObject::connect(&Widget(), &QCheckBox::clicked, [this] {
-        Control().UserPress();
-        Update();
+        if (!Control().UserPress()) Update();
     });
 }
 

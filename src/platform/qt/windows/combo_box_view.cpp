@@ -14,13 +14,11 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, QWidget& parent, const text::Co
     Widget().setInsertPolicy(QComboBox::NoInsert);
     Widget().setCompleter(nullptr);
     QObject::connect(&Widget(), &QComboBox::activated, [this](int index) {
-        Control().UserChoose(index);
-        Update();
+        if (!Control().UserChoose(index)) Update();
     });
     // The box's own signal would also tell of a choice.
     QObject::connect(Widget().lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
-        Control().UserTyped(ToUtf8(text));
-        Update();
+        if (!Control().UserTyped(ToUtf8(text))) Update();
     });
 }
 

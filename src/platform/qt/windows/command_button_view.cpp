@@ -44,11 +44,12 @@ QRect GlyphButton::CaptionRect() const {
 void GlyphButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     if (glyph_ == forms::Glyph::None) return;
-    constexpr double kShareOfHeight = 0.22;
+    constexpr double kShareOfSize = 5.5 / 19;  // from the middle of the glyph to its edge
+    const double scale = glyphSize_ * kPixelsPerPoint * kShareOfSize;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center());
-    painter.scale(height() * kShareOfHeight, height() * kShareOfHeight);
+    painter.scale(scale, scale);
     const QColor color = palette().color(QPalette::ButtonText);
     if (IsFilled(glyph_)) {
         painter.setPen(Qt::NoPen);
@@ -63,17 +64,14 @@ void GlyphButton::paintEvent(QPaintEvent* event) {
 CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& parent,
                                      const text::CodePage& page)
     : ViewOf(button, parent, page) {
-    Widget().SetGlyph(button.AtDesign().glyph);
+    Widget().SetGlyph(button.AtDesign().glyph, button.AtDesign().glyphSize);
     if (const char digit = button.AtDesign().altDigit; digit != 0) {
         // Not the button's own shortcut, which shows a press of a tenth of a second before it acts.
         auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(digit)), &Widget());
         QObject::connect(shortcut, &QShortcut::activated, &Widget(), &QPushButton::click);
     }
     Widget().setAutoDefault(true);  // the Enter key presses the button that has the focus
-    QObject::connect(&Widget(), &QPushButton::clicked, [this] {
-        Control().UserPress();
-        Update();
-    });
+    QObject::connect(&Widget(), &QPushButton::clicked, [this] { Control().UserPress(); });
 }
 
 void CommandButtonView::ShowState() {

@@ -12,7 +12,11 @@ class GlyphButton : public QPushButton {
 public:
     explicit GlyphButton(QWidget* parent) : QPushButton(parent) {}
 
-    void SetGlyph(forms::Glyph glyph) { glyph_ = glyph; }
+    /// The size is that of a font, in points.
+    void SetGlyph(forms::Glyph glyph, double size) {
+        glyph_ = glyph;
+        glyphSize_ = size;
+    }
     /// Where the words may stand.
     QRect CaptionRect() const;
 
@@ -21,6 +25,7 @@ protected:
 
 private:
     forms::Glyph glyph_ = forms::Glyph::None;
+    double glyphSize_ = 0;
 };
 
 class CommandButtonView : public ViewOf<forms::CommandButton, GlyphButton> {

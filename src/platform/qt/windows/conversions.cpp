@@ -1,17 +1,11 @@
 #include "platform/qt/windows/conversions.h"
 
 #include "base/text/decode.h"
-#include "platform/qt/services/theme.h"
-
-#include <QGuiApplication>
-#include <QPalette>
-#include <optional>
 
 namespace halvenmoor::qt {
 
 namespace {
 
-constexpr double kPixelsPerPoint = 96.0 / 72.0;
 // Unicode has a visible sign for each control character.
 constexpr char16_t kFirstControlSign = 0x2400;
 
@@ -49,9 +43,9 @@ QFont ToFont(const forms::Font& font) {
     return result;
 }
 
-QRect ToRect(const forms::Bounds& place) {
-    return {forms::ToPixels(place.left), forms::ToPixels(place.top), forms::ToPixels(place.width),
-            forms::ToPixels(place.height)};
+QRect ToRect(const forms::Bounds& bounds) {
+    return {forms::ToPixels(bounds.left), forms::ToPixels(bounds.top), forms::ToPixels(bounds.width),
+            forms::ToPixels(bounds.height)};
 }
 
 QRect ToRect(const forms::PixelRect& area) {
@@ -63,10 +57,6 @@ forms::Color ToColor(const QColor& color) {
 }
 
 QColor ToQColor(forms::Color color) {
-    if (forms::IsSystemColor(color)) {
-        const std::optional<forms::Color> plain = QtTheme().SystemColor(forms::SystemColorNumber(color));
-        return plain ? ToQColor(*plain) : QGuiApplication::palette().color(QPalette::WindowText);
-    }
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
 }
 

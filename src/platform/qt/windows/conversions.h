@@ -14,6 +14,9 @@
 
 namespace halvenmoor::qt {
 
+/// At 96 dots per inch.
+inline constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
 /// Bytes as they are shown: UTF-8, anything else by the code page.
 QString ToText(std::string_view bytes, const text::CodePage& page);
 
@@ -28,14 +31,14 @@ Qt::Alignment SideOf(const QString& text);
 
 std::string ToUtf8(const QString& text);
 
-/// The font in the pixel size that belongs to its points at 96 dots per inch.
+/// The font in the pixel size that belongs to its points.
 QFont ToFont(const forms::Font& font);
 
-QRect ToRect(const forms::Bounds& place);
+QRect ToRect(const forms::Bounds& bounds);
 QRect ToRect(const forms::PixelRect& area);
 
 forms::Color ToColor(const QColor& color);
-/// A system colour is taken from the theme; the palette's text colour stands in for one that it lacks.
+/// Of a plain colour.
 QColor ToQColor(forms::Color color);
 
 }  // namespace halvenmoor::qt

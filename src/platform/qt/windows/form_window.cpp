@@ -35,7 +35,7 @@ QString ToTitle(const std::string& caption, const text::CodePage& page) {
 FormWindow::FormWindow(forms::Form& form, const text::CodePage& page, QWidget* below)
     : QWidget(below, WindowFlags(form.AtDesign(), below != nullptr)), form_(form), page_(page) {
     if (below != nullptr) setWindowModality(Qt::ApplicationModal);
-    if (form.AtDesign().icon) setWindowIcon(ProgramIcon());
+    setWindowIcon(ProgramIcon());
     setObjectName(QString::fromStdString(form.AtDesign().name));
     setFixedSize(forms::ToPixels(form.AtDesign().width), forms::ToPixels(form.AtDesign().height));
     BuildControls();

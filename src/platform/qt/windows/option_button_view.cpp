@@ -7,8 +7,7 @@ namespace halvenmoor::qt {
 OptionButtonView::OptionButtonView(forms::OptionButton& button, QWidget& parent, const text::CodePage& page)
     : ViewOf(button, parent, page) {
     QObject::connect(&Widget(), &QRadioButton::clicked, [this] {
-        Control().UserPress();
-        Update();
+        if (!Control().UserPress()) Update();
     });
 }
 

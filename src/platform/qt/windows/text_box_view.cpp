@@ -7,8 +7,7 @@ namespace halvenmoor::qt {
 TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, const text::CodePage& page)
     : ViewOf(box, parent, page) {
     QObject::connect(&Widget(), &QLineEdit::textEdited, [this](const QString& text) {
-        Control().UserTyped(ToUtf8(text));
-        Update();
+        if (!Control().UserTyped(ToUtf8(text))) Update();
     });
 }
 
