@@ -1,6 +1,6 @@
 """Measures CPU time (user and system) of exports, imports and the lists, and prints one table.
 
-The program is driven through its command-line fake `journey`. All rows come from one run with interleaved rounds, since
+The program is driven by the command-line tool `journey`. All rows come from one run with interleaved rounds, since
 only ratios of the same minute mean anything. Every output is compared byte by byte with that of the baselines: a
 difference ends the run with status 1. A missed target does not, it is shown.
 """

@@ -49,10 +49,10 @@ int main(int argc, char** argv) {
     const QString sourceOption = std::string_view(argv[2]) == "ov2" ? "OptionSource(1)" : "OptionSource(2)";
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    qt::QtPlatform qt(argv[0], locale);
     posix::PathFinder finder(locale.CodePage());
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
+    qt::QtPlatform qt(argv[0], locale, hostFiles);
     headless::FixedProgramInfo programInfo(argv[1]);
     headless::ManualClock clock;
     headless::MemorySettings settings;

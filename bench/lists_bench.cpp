@@ -34,7 +34,7 @@ public:
         if (extension != ".asc") return;
         for (const std::string& name : names_) found(name);
     }
-    bool IsListed(std::string_view) override { return true; }
+    std::optional<std::string> FindFile(std::string_view) override { return std::nullopt; }
     std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view) override { return nullptr; }
     void Rename(std::string_view, std::string_view) override {}
 
@@ -111,7 +111,8 @@ int main(int, [[maybe_unused]] char** arguments) {
 #ifdef HALVENMOOR_QT
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const headless::FixedLocale locale;
-    qt::QtPlatform qt(arguments[0], locale);
+    headless::MemoryFiles files;
+    qt::QtPlatform qt(arguments[0], locale, files);
     for (const int entries : {5000, 20000}) Measure("window", entries, qt.toolkit);
 #endif
     return 0;

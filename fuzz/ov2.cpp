@@ -117,8 +117,8 @@ void DecodesByteByByte(std::string_view bytes) {
 
 /// A deleted record that moves what follows across the end of a piece of the reader.
 std::string Shifted(std::string_view bytes) {
-    constexpr std::size_t piece = 64 * 1024;
-    const std::size_t before = piece - bytes.size() / 2;
+    constexpr std::size_t kPiece = 64 * 1024;
+    const std::size_t before = kPiece - bytes.size() / 2;
     std::string shifted(before, '\0');
     for (std::size_t i = 0; i < 4; ++i) shifted[1 + i] = static_cast<char>(before >> (8 * i) & 0xFF);
     return shifted.append(bytes);

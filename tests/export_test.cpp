@@ -105,7 +105,9 @@ TEST_F(ExportTest, KeepsTheOrderOfListsAndLines) {
     Add(1, "gone", "4.5,52.5,x\n");
     program.AddCameraFile("unclassified", "5.5,52.5,x\n");
     Start();
-    program.memory.Remove(program.CameraPath("gone"));
+    for (const auto* entry : {"gone", "B_70"}) program.memory.Remove(program.CameraPath(entry));
+    program.memory.Put("/p/demo/asc_demo/B_70.Asc", "3.5,52.5,x\n");
+    for (const auto* entry : {"GONE", "b_70"}) program.AddCameraFile(entry, "6.5,52.5,x\n");  // no entries
     program.memory.Put(program.TargetPath(), std::string(500, 'x'));
     EXPECT_TRUE(program.Export());
     EXPECT_EQ(program.Target(), kHeader +

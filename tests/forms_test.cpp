@@ -1,4 +1,5 @@
 #include "base/text/compare.h"
+#include "forms/combo_box.h"
 #include "forms/desktop.h"
 #include "platform/headless/list_actions.h"
 #include "platform/headless/toolkit.h"

@@ -57,8 +57,8 @@ TEST(LeadingNumber, ReadsHexadecimalAndOctal) {
 }
 
 TEST(LeadingNumber, IsInfiniteBeyondADouble) {
-    for (const auto& text :
-         {"1E309"s, "1E99999999999999999999999"s, std::string(400, '9'), "&H" + std::string(300, 'F')})
+    for (const auto& text : {"1E309"s, "1E99999999999999999999999"s, "12E2147483647"s, std::string(400, '9'),
+                             "&H" + std::string(300, 'F')})
         EXPECT_EQ(LeadingNumber(text), HUGE_VAL) << text;
     EXPECT_EQ(LeadingNumber("-1E400"), -HUGE_VAL);
     EXPECT_EQ(LeadingNumber("1.7976931348623157E308"), std::numeric_limits<double>::max());

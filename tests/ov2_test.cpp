@@ -84,10 +84,12 @@ TEST(Ov2ImportTest, FailedFilesLeaveNoTraceAndAreCounted) {
 
 TEST(Ov2ImportTest, SourcesWithOneTargetAreNotWrittenOverOneAnother) {
     ImportProgram program;
-    program.memory.Put("/p/import/ov2/a.OV2", Point("n"));
-    program.memory.Put("/p/import/ov2/a.ov2", Point("m"));
+    program.AddOv2("\xC4", Point("n"));
+    for (const char* name : {"\xE4.OV2", "\xE4.ov2"})
+        program.memory.Put("/p/import/ov2/"s + name, Point("m"));
     EXPECT_EQ(program.Import(kOv2), "PictureIncomplete");
-    EXPECT_EQ(program.Camera("a"), kComment + LineOf("n"));
+    EXPECT_EQ(program.CameraFolder(), Strings{"\xC4.asc"});
+    EXPECT_EQ(program.Camera("\xC4"), kComment + LineOf("n"));
 }
 
 }  // namespace

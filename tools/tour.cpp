@@ -8,9 +8,11 @@
 #include "platform/posix/clock.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
+#include "platform/posix/instance_lock.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/qt/services/program_info.h"
 #include "program.h"
 
 #include <QAbstractItemView>
@@ -30,19 +32,6 @@ using namespace halvenmoor;
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The program runs in another folder than its executable's.
-class TourProgramInfo : public qt::QtProgramInfo {
-public:
-    TourProgramInfo(fs::path programFolder, const fs::path& runtimeFolder)
-        : QtProgramInfo(QString::fromStdString(runtimeFolder.string())),
-          programFolder_(std::move(programFolder)) {}
-
-    std::string ProgramFolder() const override { return programFolder_.string(); }
-
-private:
-    fs::path programFolder_;
-};
 
 /// What a user does with the widgets of the program, found by their names.
 class Visitor {
@@ -212,8 +201,9 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qt::QtPlatform qt(programName, locale);
-    TourProgramInfo programInfo(fs::absolute(folder), fs::absolute(runtime));
+    qt::QtPlatform qt(programName, locale, hostFiles);
+    posix::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
+    qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
     qt::QtSettings settings(QString::fromStdString(fs::absolute(output / "options").string()));
     Program program(
         {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},

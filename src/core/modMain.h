@@ -56,6 +56,7 @@ public:
 
     /// The folder of the camera files, with a separator at its end.
     std::string CameraFolder() const { return DataFolder("asc"); }
+    /// The path of a new camera file; CameraFiles finds those that exist.
     std::string CameraFile(std::string_view entry) const;
     /// The folder of the target files, with a separator at its end.
     std::string TargetFolder() const { return DataFolder("txt"); }

@@ -9,6 +9,7 @@
 #include "export/modSaveOpen.h"
 
 #include <exception>
+#include <optional>
 
 namespace halvenmoor {
 
@@ -60,7 +61,8 @@ bool modExport::ChooseTarget(std::string& path) const {
 bool modExport::BuildExportFileList() {
     ExportFileTable.clear();
     try {
-        for (int type = kFirstType; type <= kLastType; ++type) AddFilesOfType(type);
+        const CameraFiles files(core_.Services().hostFiles, core_.CameraFolder());
+        for (int type = kFirstType; type <= kLastType; ++type) AddFilesOfType(type, files);
     } catch (const std::exception&) {
         TraceFailure("list the files of the export");
         return false;
@@ -68,15 +70,14 @@ bool modExport::BuildExportFileList() {
     return !ExportFileTable.empty();
 }
 
-void modExport::AddFilesOfType(int type) {
-    const platform::Platform& services = core_.Services();
+void modExport::AddFilesOfType(int type, const CameraFiles& files) {
     const forms::ListBox& list = mainForm_.TypeList[type];
     for (int i = 0; i < list.ListCount(); ++i) {
-        std::string path = core_.CameraFile(list.List(i));
-        if (!services.hostFiles.IsListed(path)) continue;
+        std::optional<std::string> path = files.FileOf(list.List(i));
+        if (!path) continue;
         std::string speed = SpeedFromFileName(
-            list.List(i), core_.ClassificationSettings->UnitSearchPatterns(), services.locale);
-        ExportFileTable.push_back({std::move(path), type, std::move(speed)});
+            list.List(i), core_.ClassificationSettings->UnitSearchPatterns(), core_.Services().locale);
+        ExportFileTable.push_back({*std::move(path), type, std::move(speed)});
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
+#include "core/camera_files.h"
 #include "core/modMain.h"
 
 #include <cstdint>
@@ -49,7 +50,7 @@ private:
     void ExportCamerasClicked();
     void ShowResults();
     bool ChooseTarget(std::string& path) const;
-    void AddFilesOfType(int type);
+    void AddFilesOfType(int type, const CameraFiles& files);
 
     frmMain& mainForm_;
     modMain& core_;

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "base/text/codepage.h"
-#include "base/text/decode.h"
 #include "core/camera_types.h"
 #include "core/patterns.h"
-#include "export/pattern_filter.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
 namespace halvenmoor {
 
-/// The texts that set a camera's type by its name, prepared so that a name is searched for all of them at
-/// once, ignoring case: a filter finds the places where they begin, and a tree of their characters follows
-/// the longer ones to their ends.
+/// The texts that set a camera's type by its name, searched for all at once and ignoring case: an automaton
+/// over the bytes of case-folded UTF-8, as in A. V. Aho and M. J. Corasick, "Efficient string matching: an
+/// aid to bibliographic search", CACM 18(6), 1975.
 class NamePatterns {
 public:
     /// Patterns are trimmed of blanks. Throws Failure(TypeMismatch) for a type without a list. The code page
@@ -26,33 +26,38 @@ public:
     int NameMatchesAnyPattern(std::string_view name) const;
 
 private:
-    static constexpr int kNoType = PatternFilter::kNoType;
+    static constexpr std::uint8_t kNoType = kLastType + 1;
+    using StateId = std::uint32_t;
 
-    static constexpr std::uint32_t kRoot = 0xFFFFFFFF;
-    static constexpr std::uint32_t kNone = 0xFFFFFFFE;
-
-    /// A node of the tree, with the character that leads to it from its parent. Nodes go by their places in
-    /// the table.
-    struct Node {
-        /// kNone in a free place.
-        std::uint32_t parent = kNone;
-        char32_t character = 0;
-        /// The lowest type of which a pattern ends here.
-        int type = kNoType;
+    /// The longest beginning of a pattern that the bytes read so far end with. State 0 is the empty one.
+    struct State {
+        StateId failure = 0;         // the longest shorter beginning that these bytes end with
+        StateId child = 0;           // the first beginning with one byte more, 0 for none
+        StateId sibling = 0;         // the next child of the same state, 0 for none
+        std::uint8_t byteClass = 0;  // of the last byte
     };
 
-    void Add(std::u32string_view foldedPattern, int type);
-    /// The place of the child, which is free if there is no such child.
-    std::uint32_t PlaceOfChild(std::uint32_t parent, char32_t character) const;
-    int LowestTypeIn(std::string_view name) const;
-    int LowestTypeAt(text::CharacterReader& text) const;
+    void AddWindows(std::string_view folded);
+    void Add(std::string_view folded, int type);
+    void FillTable();
+    StateId Next(StateId state, std::uint8_t byteClass) const;
+    std::string_view FromFirstWindow(std::string_view name) const;
 
     const text::CodePage& codePage_;
-    /// For short patterns and for long ones, which have longer keys.
-    std::vector<PatternFilter> filters_;
-    /// A hash table with a power of two places, half of them free.
-    std::vector<Node> nodes_;
-    int typeOfEmptyPattern_ = kNoType;
+    /// One class for each byte in a pattern, the same for both cases of a letter, and 0 for all other bytes.
+    std::array<std::uint8_t, 256> classes_{};
+    std::uint8_t classCount_ = 1;
+    std::vector<State> states_{State()};
+    /// By state: the lowest type of the patterns that its bytes end with.
+    std::vector<std::uint8_t> types_{kNoType};
+    /// By class and state: the next state. Only for so many states, which bounds its size.
+    std::vector<StateId> table_;
+    std::size_t tableStates_ = 0;
+    /// By three bytes, five bits of each, which both cases of an ASCII letter share: whether a name with a
+    /// pattern may have them. Most names have none, which takes a fifth off an export with 20 patterns.
+    std::array<bool, 32 * 32 * 32> hasWindow_{};
+    /// Whether every pattern has four ASCII bytes in a row, and so two windows.
+    bool canSkip_ = true;
 };
 
 }  // namespace halvenmoor

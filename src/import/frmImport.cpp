@@ -1,6 +1,7 @@
 #include "import/frmImport.h"
 
 #include "base/failure.h"
+#include "base/text/compare.h"
 #include "import/ov2_import.h"
 #include "import/txt_import.h"
 #include "ui/group_text_color.h"
@@ -175,7 +176,7 @@ std::int32_t frmImport::CountFiles(const std::string& path, std::string_view ext
         if (!files->FolderExists(path)) return 0;
         std::int32_t count = 0;
         for (const std::string& name : files->GetFolder(path)->Files()) {
-            if (HasExtension(name, extension)) ++count;
+            if (text::EndsWithIgnoringAsciiCase(name, extension)) ++count;
         }
         return count;
     } catch (const std::exception&) {

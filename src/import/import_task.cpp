@@ -1,6 +1,6 @@
 #include "import/import_task.h"
 
-#include "base/text/compare.h"
+#include <string_view>
 
 namespace halvenmoor {
 
@@ -19,24 +19,15 @@ std::string_view LayoutRemark(int sourceStructure) {
 
 }  // namespace
 
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
-
 std::vector<std::string> SourceFiles(const ImportTask& task) {
     const auto files = task.services.fileSystem.CreateFileSystemObject();
     if (!files->FolderExists(task.sourceFolder) || !files->FolderExists(task.targetFolder)) return {};
     return files->GetFolder(task.sourceFolder)->Files();
 }
 
-std::unique_ptr<platform::TextWriter> CreateCameraFile(platform::FileSystemObject& files,
-                                                       std::string_view path, int sourceStructure) {
-    std::unique_ptr<platform::TextWriter> file = files.CreateTextFile(path);
-    file->WriteLine(
-        std::string("; Generic Ascii file created by Halvenmoor.").append(LayoutRemark(sourceStructure)));
-    file->WriteLine("");
-    return file;
+void WriteCameraFileHeader(platform::TextWriter& file, int sourceStructure) {
+    file.WriteLine({"; Generic Ascii file created by Halvenmoor.", LayoutRemark(sourceStructure)});
+    file.WriteLine("");
 }
 
 }  // namespace halvenmoor

@@ -3,9 +3,7 @@
 #include "platform/platform.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace halvenmoor {
@@ -36,16 +34,12 @@ struct ImportTask {
     int sourceStructure;
 };
 
-/// Whether the last characters of a name are the extension (".ov2", ASCII), ignoring case.
-bool HasExtension(std::string_view name, std::string_view extension);
-
 /// The names of all files of the source folder, in their order; none when source or target folder is missing.
 /// Throws Failure when a folder cannot be read.
 std::vector<std::string> SourceFiles(const ImportTask& task);
 
-/// A new camera file with its two header lines. The layout shows in the comment, for people only. Throws
-/// Failure.
-std::unique_ptr<platform::TextWriter> CreateCameraFile(platform::FileSystemObject& files,
-                                                       std::string_view path, int sourceStructure);
+/// Begins a new camera file with its two header lines. The layout shows in the comment, for people only.
+/// Throws Failure.
+void WriteCameraFileHeader(platform::TextWriter& file, int sourceStructure);
 
 }  // namespace halvenmoor

@@ -1,13 +1,18 @@
 #include "import/ov2_import.h"
 
 #include "base/failure.h"
+#include "base/text/compare.h"
 #include "import/ov2_record.h"
 
 #include <algorithm>
 #include <exception>
 #include <limits>
-#include <set>
+#include <memory>
 #include <span>
+#include <string>
+#include <unordered_set>
+#include <utility>
+#include <vector>
 
 namespace halvenmoor {
 
@@ -80,61 +85,59 @@ bool WriteRecords(platform::ByteReader& source, platform::TextWriter& target, st
     }
 }
 
-bool ConvertOv2File(const ImportTask& task, std::string_view sourcePath, std::string_view targetPath) {
+void Remove(platform::Folder& folder, const std::string& name) {
     try {
-        const bool hasDirections = task.sourceStructure == 2 || task.sourceStructure == 3;
-        const auto files = task.services.fileSystem.CreateFileSystemObject();
-        const auto target = CreateCameraFile(*files, targetPath, task.sourceStructure);
-        const auto source = task.services.hostFiles.OpenBytes(sourcePath);
-        const bool isSound = WriteRecords(*source, *target, hasDirections ? ", 0, 0" : "");
-        target->Close();
-        return isSound;
+        folder.Delete(name);
     } catch (const std::exception&) {
-        TraceFailure("convert an OV2 source", sourcePath);
-        return false;
-    }
-}
-
-void RemoveTarget(const ImportTask& task, std::string_view path) {
-    try {
-        const auto files = task.services.fileSystem.CreateFileSystemObject();
-        if (files->FileExists(path)) files->DeleteFile(path);
-    } catch (const std::exception&) {
-        TraceFailure("delete an incomplete camera file", path);
+        TraceFailure("delete an incomplete camera file", name);
         // What cannot be deleted stays, and counts as a camera file.
     }
 }
 
-/// All files of the source folder; none when there is anything wrong with one of the folders.
-std::vector<std::string> ReadableSourceFiles(const ImportTask& task) {
+/// A file that fails leaves no target, and no file is deleted but the one made here.
+bool ConvertOv2File(const ImportTask& task, const std::string& sourceName, platform::Folder& targetFolder,
+                    const std::string& targetName) {
+    std::unique_ptr<platform::TextWriter> target;
     try {
-        std::vector<std::string> names = SourceFiles(task);
-        if (!names.empty()) task.services.fileSystem.CreateFileSystemObject()->GetFolder(task.targetFolder);
-        return names;
+        const bool hasDirections = task.sourceStructure == 2 || task.sourceStructure == 3;
+        target = targetFolder.CreateTextFile(targetName);
+        WriteCameraFileHeader(*target, task.sourceStructure);
+        const auto source = task.services.hostFiles.OpenBytes(task.sourceFolder + sourceName);
+        const bool isSound = WriteRecords(*source, *target, hasDirections ? ", 0, 0" : "");
+        target->Close();
+        if (isSound) return true;
     } catch (const std::exception&) {
-        TraceFailure("list the OV2 sources", task.sourceFolder);
-        return {};
+        TraceFailure("convert an OV2 source", sourceName);
     }
+    if (!target) return false;
+    target.reset();
+    Remove(targetFolder, targetName);
+    return false;
 }
 
 }  // namespace
 
 std::int16_t ConvertOv2Files(const ImportTask& task) {
+    std::vector<std::string> names;
+    std::unique_ptr<platform::Folder> targetFolder;
+    try {
+        names = SourceFiles(task);
+        targetFolder = task.services.fileSystem.CreateFileSystemObject()->GetFolder(task.targetFolder);
+    } catch (const std::exception&) {
+        TraceFailure("list the OV2 sources", task.sourceFolder);
+        return 0;  // with anything wrong with one of the folders nothing is converted
+    }
     std::int16_t failed = 0;
-    std::set<std::string> written;
-    for (const std::string& name : ReadableSourceFiles(task)) {
+    std::unordered_set<std::string> written;  // the targets, as files are found: ignoring case
+    for (const std::string& name : names) {
         if (task.progress.StopRequested()) break;
-        if (!HasExtension(name, kSourceExtension)) continue;
-        const std::string baseName = name.substr(0, name.size() - kSourceExtension.size());
-        const std::string targetPath = task.targetFolder + baseName + ".asc";
-        // Sources that differ in the case of their extensions only have one target: the first one keeps it.
-        const bool isTaken = written.count(targetPath) > 0;
-        if (!isTaken && ConvertOv2File(task, task.sourceFolder + name, targetPath)) {
-            written.insert(targetPath);
-        } else {
-            if (failed < std::numeric_limits<std::int16_t>::max()) ++failed;
-            if (!isTaken) RemoveTarget(task, targetPath);
-        }
+        if (!text::EndsWithIgnoringAsciiCase(name, kSourceExtension)) continue;
+        const std::string target = name.substr(0, name.size() - kSourceExtension.size()) + ".asc";
+        std::string key = text::FoldedKey(target, task.services.locale.CodePage());
+        // Of sources that have one target the first one keeps it.
+        const bool isWritten = written.count(key) == 0 && ConvertOv2File(task, name, *targetFolder, target);
+        if (isWritten) written.insert(std::move(key));
+        if (!isWritten && failed < std::numeric_limits<std::int16_t>::max()) ++failed;
         task.progress.FileDone();
     }
     return failed;

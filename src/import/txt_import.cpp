@@ -108,7 +108,7 @@ void TxtImport::ReadTxtFiles() {
     for (const std::string& name : names) {
         task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
-        if (HasExtension(name, ".txt")) ReadTxtFile(task_.sourceFolder + name);
+        if (text::EndsWithIgnoringAsciiCase(name, ".txt")) ReadTxtFile(task_.sourceFolder + name);
     }
 }
 
@@ -181,15 +181,15 @@ void TxtImport::WriteTypeFiles(int type) {
     const std::string_view typeWord = kTypeWords[static_cast<std::size_t>(type)];
     const auto files = task_.services.fileSystem.CreateFileSystemObject();
     if (!files->FolderExists(task_.targetFolder)) return;
+    const auto folder = files->GetFolder(task_.targetFolder);
     RecordWriter writer(typeWord, task_.sourceStructure);
     const std::vector<SpeedRecords>& speeds = Records(type).Speeds();
     for (auto speed = speeds.begin(); speed != speeds.end();) {
         task_.progress.Yield();
         if (task_.progress.StopRequested()) return;
         const std::string speedInName = SpeedInFileName(speed->Number());
-        const std::string path =
-            task_.targetFolder + std::string(typeWord) + "_Camera_" + speedInName + ".asc";
-        const auto file = CreateCameraFile(*files, path, task_.sourceStructure);
+        const auto file = folder->CreateTextFile(std::string(typeWord) + "_Camera_" + speedInName + ".asc");
+        WriteCameraFileHeader(*file, task_.sourceStructure);
         // Speeds that have one file name are neighbours, since they stand in the order of their numbers.
         do writer.Write(*file, *speed++);
         while (speed != speeds.end() && SpeedInFileName(speed->Number()) == speedInName);

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,7 +14,8 @@
 namespace halvenmoor::platform {
 
 // Paths and names are bytes as the file system has them. A path is found without regard to letter case, the
-// exact one first; a new file gets its own name as it is given. Every failed call throws Failure.
+// exact one first, for reading as for writing; only where there is none a new file is made, with its name as
+// it is given. Every failed call throws Failure.
 
 /// A text file being read. A line ends at CR LF or LF; a UTF-8 byte-order mark at the start is skipped.
 class TextReader {
@@ -39,7 +41,8 @@ public:
     virtual void Close() = 0;
 };
 
-/// The files that lie directly in one folder: every entry that is no folder.
+/// The files that lie directly in one folder: every entry that is no folder. Here each name is exact, and no
+/// other file is looked for.
 class Folder {
 public:
     virtual ~Folder() = default;
@@ -48,6 +51,8 @@ public:
     virtual std::vector<std::string> Files() const = 0;
     /// Deletes the file of this name, even if it is read-only; a link is deleted as a link.
     virtual void Delete(std::string_view name) = 0;
+    /// A new or emptied file.
+    virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view name) = 0;
 };
 
 /// The file-system object. Each routine that needs one makes its own.
@@ -58,8 +63,6 @@ public:
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool FolderExists(std::string_view path) = 0;
     virtual std::unique_ptr<Folder> GetFolder(std::string_view path) = 0;
-    /// Deletes a file, even if it is read-only.
-    virtual void DeleteFile(std::string_view path) = 0;
     /// A new or emptied file.
     virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view path) = 0;
     virtual std::unique_ptr<TextReader> OpenTextFile(std::string_view path) = 0;
@@ -93,11 +96,12 @@ public:
     virtual ~HostFiles() = default;
 
     /// Hands over the bare name of each file of the folder whose last characters are the extension (".asc",
-    /// ASCII), ignoring case. Folders and hidden files are left out. A failure may come after some names.
+    /// ASCII), ignoring case. Hidden files are left out, and all that is no regular file. A failure may come
+    /// after some names.
     virtual void Search(std::string_view folder, std::string_view extension,
                         const std::function<void(std::string_view)>& found) = 0;
-    /// Whether a search would find this file.
-    virtual bool IsListed(std::string_view path) = 0;
+    /// The path of the file that writing to this one would change; nothing when it would make a new one.
+    virtual std::optional<std::string> FindFile(std::string_view path) = 0;
     virtual std::unique_ptr<ByteReader> OpenBytes(std::string_view path) = 0;
     /// Never replaces a file: fails if the new path exists.
     virtual void Rename(std::string_view oldPath, std::string_view newPath) = 0;

@@ -3,9 +3,11 @@
 #include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
+#include "core/camera_files.h"
 #include "ui/language/cNamesClass.h"
 
 #include <exception>
+#include <optional>
 #include <string_view>
 
 namespace halvenmoor {
@@ -25,8 +27,8 @@ std::string CurrentEntry(const forms::ListBox& list) {
     return list.List(list.ListIndex());
 }
 
-bool FileExists(const modMain& core, std::string_view entry) {
-    return core.Services().fileSystem.CreateFileSystemObject()->FileExists(core.CameraFile(entry));
+std::optional<std::string> FileOf(const modMain& core, const std::string& entry) {
+    return CameraFiles(core.Services().hostFiles, core.CameraFolder()).FileOf(entry);
 }
 
 void ReportMissingFile(const modMain& core, std::string_view entry) {
@@ -89,7 +91,9 @@ bool frmRename::RenameFile(const std::string& oldName, const std::string& newNam
             OfferName(oldName);
             return false;
         }
-        core_.Services().hostFiles.Rename(core_.CameraFile(oldName), core_.CameraFile(newName));
+        const std::optional<std::string> file = FileOf(core_, oldName);
+        if (!file) return false;
+        core_.Services().hostFiles.Rename(*file, core_.CameraFile(newName));
         MoveEntry(newName);
         return true;
     } catch (const std::exception&) {
@@ -99,7 +103,9 @@ bool frmRename::RenameFile(const std::string& oldName, const std::string& newNam
 }
 
 bool frmRename::IsRefused(const std::string& newName) const {
-    return FileExists(core_, newName) || ContainsAnyCharacter(newName, kRefusedCharacters);
+    const bool isHidden = newName.starts_with('.');
+    if (isHidden || ContainsAnyCharacter(newName, kRefusedCharacters)) return true;
+    return core_.Services().fileSystem.CreateFileSystemObject()->FileExists(core_.CameraFile(newName));
 }
 
 void frmRename::OfferName(const std::string& name) {
@@ -122,7 +128,7 @@ void RenameSelectedFile(const modMain& core, forms::ListBox& list) {
     try {
         if (list.SelCount() != 1) return;
         const std::string entry = CurrentEntry(list);
-        if (!FileExists(core, entry)) {
+        if (!FileOf(core, entry)) {
             ReportMissingFile(core, entry);
             return;
         }

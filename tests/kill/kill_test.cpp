@@ -3,6 +3,7 @@
 //
 // HALVENMOOR_KILLS says how often, 10 times unless it is set.
 
+#include "platform/posix/instance_lock.h"
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/settings.h"
 #include "tests/support/disk_program.h"
@@ -140,7 +141,8 @@ TEST_F(KillTest, TheNextInstanceIsTheFirst) {
         char name[] = "halvenmoor";
         char* arguments[] = {name, nullptr};
         const QCoreApplication application(count, arguments);
-        return qt::InstanceGuard(folder.Path().c_str()).IsFirst();
+        posix::SystemInstanceLock lock(folder.Path());
+        return qt::InstanceGuard(lock).IsFirst();
     };
     Sweep([] {}, [&] { isFirst(); },
           [&] {

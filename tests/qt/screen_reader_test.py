@@ -64,6 +64,8 @@ def window_of(reader, process):
             if program is not None and program.get_process_id() == process.pid and program.get_child_count() > 0:
                 return program.get_child_at_index(0)
         time.sleep(0.2)
+    if process.poll() == 0:
+        skip("another instance is running")
     sys.exit("no window was told of")
 
 

@@ -1,3 +1,5 @@
+#include "platform/posix/host_files.h"
+#include "platform/posix/instance_lock.h"
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/instance_guard.h"
@@ -17,7 +19,6 @@
 #include <QPushButton>
 #include <cmath>
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace halvenmoor::qt {
 namespace {
@@ -71,33 +72,38 @@ protected:
     }
 
     TemporaryFolder folder;
+    posix::PathFinder finder{text::WindowsCodePage(1252)};
+    posix::DiskHostFiles files{finder};
+    QtFileDialogs dialogs{files};
     platform::FileDialog request;
 };
 
-TEST_F(Dialogs, AskAboutTheNameThatIsWritten) {
-    folder.Put("old.txt", "");
+TEST_F(Dialogs, AskAboutTheFileThatIsWritten) {
+    folder.Put("Old.txt", "");
     WhenShown<QFileDialog>([this](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Title");
         EXPECT_EQ(dialog.nameFilters(), QStringList{"Text File (*.txt)"});
         EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "Suggested");
-        bool isAsked = false;
-        Type(dialog, "old", [&isAsked](QMessageBox& box) {
-            isAsked = true;
-            EXPECT_TRUE(box.text().contains("old.txt"));
-            box.button(QMessageBox::No)->click();
-        });
-        EXPECT_TRUE(isAsked);
+        int questions = 0;
+        for (const char* const name : {"Old", "OLD"}) {
+            Type(dialog, name, [&questions](QMessageBox& box) {
+                ++questions;
+                EXPECT_TRUE(box.text().contains("Old.txt"));
+                box.button(QMessageBox::No)->click();
+            });
+        }
+        EXPECT_EQ(questions, 2);
         Type(dialog, "new");
     });
-    EXPECT_EQ(QtFileDialogs().AskSavePath(request), folder / "new.txt");
+    EXPECT_EQ(dialogs.AskSavePath(request), folder / "new.txt");
 }
 
 TEST_F(Dialogs, OpenWhatExists) {
     folder.Put("there.txt", "");
     WhenShown<QFileDialog>([this](QFileDialog& dialog) { Type(dialog, "there"); });
-    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), folder / "there.txt");
+    EXPECT_EQ(dialogs.AskOpenPath(request), folder / "there.txt");
     WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(QtFileDialogs().AskOpenPath(request), std::nullopt);
+    EXPECT_EQ(dialogs.AskOpenPath(request), std::nullopt);
 }
 
 TEST(Settings, LastAndNeverFail) {
@@ -136,16 +142,24 @@ TEST(Settings, RemoveWhatAKilledWriterLeftBehind) {
                                                         "halvenmoor.ini.before", "other.ini.AbCdEf"}));
 }
 
+struct Instance {
+    explicit Instance(const TemporaryFolder& folder) : lock(folder.Path()) {}
+
+    posix::SystemInstanceLock lock;
+    InstanceGuard guard{lock};
+};
+
 TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     const TemporaryFolder folder;
-    auto first = std::make_unique<InstanceGuard>(Path(folder));
-    InstanceGuard second(Path(folder));
-    ASSERT_TRUE(first->IsFirst());
-    EXPECT_FALSE(second.IsFirst());
-    EXPECT_TRUE(first->IsFirst());
+    // As if a killed one had left them behind.
+    for (const char* const name : {"halvenmoor.lock", "halvenmoor.socket"}) folder.Put(name, "");
+    auto first = std::make_unique<Instance>(folder);
+    Instance second(folder);
+    ASSERT_TRUE(first->guard.IsFirst());
+    EXPECT_FALSE(second.guard.IsFirst());
 
     std::vector<QByteArray> tokens;
-    first->OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
+    first->guard.OnRaise = [&tokens](const QByteArray& token) { tokens.push_back(token); };
     const QByteArray endless = "raise " + QByteArray(1 << 20, 'x');
     for (const QByteArray& message :
          {QByteArray("stop\n"), QByteArray("raise"), QByteArray("raise\nraise x\n"),
@@ -161,57 +175,38 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     }
     EXPECT_TRUE(tokens.empty());
     qputenv("XDG_ACTIVATION_TOKEN", "token-1");
-    second.RaiseOther();
+    second.guard.RaiseOther();
     qunsetenv("XDG_ACTIVATION_TOKEN");
-    second.RaiseOther();
+    second.guard.RaiseOther();
     EXPECT_TRUE(QTest::qWaitFor([&tokens] { return tokens.size() == 2; }));
     EXPECT_EQ(tokens, (std::vector<QByteArray>{"token-1", ""}));
 
     first.reset();
-    InstanceGuard(Path(folder)).RaiseOther();
-    EXPECT_TRUE(InstanceGuard(Path(folder)).IsFirst()) << "a later start";
+    Instance(folder).guard.RaiseOther();
+    EXPECT_TRUE(Instance(folder).guard.IsFirst()) << "a later start";
 }
 
-TEST(InstanceGuard, IsFirstWhateverAKilledOneLeftBehind) {
+TEST(InstanceGuard, NeedsAFolderThatIsItsUsersAlone) {
     const TemporaryFolder folder;
-    for (const char* const name : {"halvenmoor.lock", "halvenmoor.socket"}) folder.Put(name, "");
-    InstanceGuard guard(Path(folder));
-    EXPECT_TRUE(guard.IsFirst());
-    bool isCalled = false;
-    guard.OnRaise = [&isCalled](const QByteArray&) { isCalled = true; };
-    InstanceGuard second(Path(folder));
-    EXPECT_FALSE(second.IsFirst());
-    second.RaiseOther();
-    EXPECT_TRUE(QTest::qWaitFor([&isCalled] { return isCalled; }));
-}
-
-TEST(InstanceGuard, ListensToItsUserOnly) {
-    const TemporaryFolder folder;
-    InstanceGuard guard(Path(folder));
-    ASSERT_TRUE(guard.IsFirst());
-    struct stat socket = {};
-    ASSERT_EQ(::stat((folder / "halvenmoor.socket").c_str(), &socket), 0);
-    EXPECT_EQ(socket.st_mode & (S_IRWXG | S_IRWXO), 0u);
-
-    const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
-    qunsetenv("XDG_RUNTIME_DIR");
-    qputenv("TMPDIR", folder.Path().c_str());
-    const QString own = InstanceGuard::RuntimeFolder();
-    EXPECT_TRUE(own.startsWith(Path(folder, "halvenmoor-"))) << "made for this user";
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), own);
-    std::filesystem::permissions(own.toStdString(), std::filesystem::perms(0755));
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "others can enter it";
-    std::filesystem::rename(own.toStdString(), folder / "private");
-    std::filesystem::create_symlink(folder / "private", own.toStdString());
-    EXPECT_EQ(InstanceGuard::RuntimeFolder(), QString()) << "it may lead anywhere";
-    qunsetenv("TMPDIR");
-    qputenv("XDG_RUNTIME_DIR", runtime);
+    std::filesystem::create_directory_symlink(folder.Path(), folder / "link");
+    folder.AddFolder("open");
+    std::filesystem::permissions(folder / "open", std::filesystem::perms(0755));
+    for (const char* const name : {"link", "open", "missing"}) {
+        posix::SystemInstanceLock lock(folder / name);
+        testing::internal::CaptureStderr();
+        EXPECT_TRUE(lock.IsFirst()) << name;
+        EXPECT_TRUE(
+            testing::internal::GetCapturedStderr().starts_with("halvenmoor: no lock in " + folder / name));
+        EXPECT_EQ(lock.SocketPath(), "") << name;
+    }
 }
 
 TEST_F(Window, IsRaisedAndRestored) {
     const TemporaryFolder folder;
-    QtProgramInfo first(Path(folder));
-    QtProgramInfo second(Path(folder));
+    posix::SystemInstanceLock lock(folder.Path());
+    posix::SystemInstanceLock secondLock(folder.Path());
+    QtProgramInfo first(lock, "");
+    QtProgramInfo second(secondLock, "");
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);

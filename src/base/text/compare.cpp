@@ -91,6 +91,11 @@ bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view asciiPr
     return true;
 }
 
+bool EndsWithIgnoringAsciiCase(std::string_view text, std::string_view asciiEnding) noexcept {
+    return text.size() >= asciiEnding.size() &&
+           EqualIgnoringAsciiCase(text.substr(text.size() - asciiEnding.size()), asciiEnding);
+}
+
 std::string ProperCase(std::string_view utf8) {
     std::string proper;
     proper.reserve(utf8.size());

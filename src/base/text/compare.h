@@ -27,9 +27,10 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b, const CodePage& p
 std::optional<std::string_view> WithoutEnding(std::string_view bytes, std::string_view ending,
                                               const CodePage& page) noexcept;
 
-/// For fixed ASCII words such as headers: letters other than A to Z only equal themselves.
+/// For fixed ASCII words such as headers and extensions: letters other than A to Z only equal themselves.
 bool EqualIgnoringAsciiCase(std::string_view text, std::string_view asciiWord) noexcept;
 bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view asciiPrefix) noexcept;
+bool EndsWithIgnoringAsciiCase(std::string_view text, std::string_view asciiEnding) noexcept;
 
 /// A UTF-8 text with all letters small, except the first one and each that stands directly behind a blank,
 /// tab, line feed, vertical tab, form feed, carriage return or NUL. Invalid UTF-8 reads as Windows-1252.

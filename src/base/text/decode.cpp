@@ -1,7 +1,6 @@
 #include "base/text/decode.h"
 
-#include <cstdint>
-#include <cstring>
+#include "base/text/words.h"
 
 namespace halvenmoor::text {
 namespace {
@@ -30,26 +29,21 @@ std::size_t SequenceLength(std::string_view bytes) {
     return length;
 }
 
+constexpr Word kHighBits = RepeatByte('\x80');
+
 /// How many ASCII bytes the text begins with, rounded down to whole words.
 std::size_t AsciiWords(std::string_view bytes) {
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
     std::size_t length = 0;
-    std::uint64_t word = 0;
-    while (bytes.size() - length >= sizeof word) {
-        std::memcpy(&word, bytes.data() + length, sizeof word);
-        if ((word & kHighBits) != 0) break;
-        length += sizeof word;
-    }
+    while (bytes.size() - length >= sizeof(Word) && (Load<Word>(bytes.data() + length) & kHighBits) == 0)
+        length += sizeof(Word);
     return length;
 }
 
 }  // namespace
 
 bool IsAscii(std::string_view bytes) noexcept {
-    for (const char byte : bytes.substr(AsciiWords(bytes))) {
-        if (static_cast<unsigned char>(byte) >= 0x80) return false;
-    }
-    return true;
+    bytes.remove_prefix(AsciiWords(bytes));
+    return bytes.size() < sizeof(Word) && (LoadShort(bytes) & kHighBits) == 0;
 }
 
 bool IsValidUtf8(std::string_view bytes) noexcept {
@@ -60,10 +54,6 @@ bool IsValidUtf8(std::string_view bytes) noexcept {
         if (length == 0) return false;
         bytes.remove_prefix(length);
     }
-}
-
-bool CharacterReader::IsInsideSequence() const noexcept {
-    return IsContinuation(static_cast<unsigned char>(*at_));
 }
 
 char32_t CharacterReader::FinishSequence(unsigned char lead) noexcept {

@@ -34,19 +34,12 @@ public:
     /// Where the next character begins.
     const char* Position() const noexcept { return at_; }
 
-    /// Goes to a place in the text, or to its end. False inside a character.
-    bool MoveTo(std::size_t place) noexcept {
-        at_ = bytes_.data() + place;
-        return AtEnd() || static_cast<unsigned char>(*at_) < 0x80 || !IsUtf8() || !IsInsideSequence();
-    }
-
 private:
     /// Looked at only when it is needed, since most texts are ASCII.
     bool IsUtf8() noexcept {
         if (!isUtf8_) isUtf8_ = IsValidUtf8(bytes_);
         return *isUtf8_;
     }
-    bool IsInsideSequence() const noexcept;
     char32_t FinishSequence(unsigned char lead) noexcept;
 
     std::string_view bytes_;

@@ -7,6 +7,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <string>
+#include <system_error>
 
 namespace halvenmoor::text {
 namespace {
@@ -27,122 +29,6 @@ constexpr int DigitValue(char character) {
     return 16;
 }
 
-/// Walks over a text and passes by blanks, tabs and line feeds.
-class Cursor {
-public:
-    explicit Cursor(std::string_view text) : rest_(text) {}
-
-    /// The next character, NUL at the end.
-    char Peek() {
-        while (!rest_.empty() && (rest_.front() == ' ' || rest_.front() == '\t' || rest_.front() == '\n')) {
-            rest_.remove_prefix(1);
-        }
-        return rest_.empty() ? '\0' : rest_.front();
-    }
-
-    /// Only behind a Peek that gave a character.
-    void Advance() { rest_.remove_prefix(1); }
-
-    bool Accept(char character) {
-        if (Peek() != character) return false;
-        Advance();
-        return true;
-    }
-
-    /// Whether a minus sign stood there; a plus sign is passed by as well.
-    bool AcceptMinus() {
-        if (Accept('-')) return true;
-        Accept('+');
-        return false;
-    }
-
-private:
-    std::string_view rest_;
-};
-
-/// A decimal number of any length in bounded space: the digits that a double can depend on, and a power of
-/// ten.
-class Decimal {
-public:
-    void Add(char digit, bool isFraction) {
-        if (isFraction) --exponent_;
-        const bool isLeadingZero = count_ == 0 && digit == '0';
-        if (isLeadingZero) return;
-        if (count_ < kMaxDigits) {
-            digits_[count_++] = digit;
-            return;
-        }
-        ++exponent_;
-        hasMore_ = hasMore_ || digit != '0';
-    }
-
-    void Scale(long long powerOfTen) { exponent_ += powerOfTen; }
-
-    double Value() {
-        if (count_ == 0) return 0;
-        if (hasMore_ && digits_[count_ - 1] == '0') digits_[count_ - 1] = '1';
-        const long long magnitude = exponent_ + static_cast<long long>(count_);
-        const long long exponent = std::clamp(exponent_, -99999LL, 99999LL);
-        char* const end = digits_.data() + count_;
-        *end = 'e';
-        const char* const last = std::to_chars(end + 1, digits_.data() + digits_.size(), exponent).ptr;
-        double number = 0;
-        // A number out of range leaves `number` as it is, whether too large or too small.
-        const std::errc error = std::from_chars(digits_.data(), last, number).ec;
-        return error == std::errc{} ? number : magnitude > 0 ? HUGE_VAL : 0;
-    }
-
-private:
-    // What decides how a number is rounded: at most 767 digits, and whether anything but zeros follows.
-    static constexpr std::size_t kMaxDigits = 770;
-    static constexpr std::size_t kExponentSize = 8;
-
-    std::array<char, kMaxDigits + kExponentSize> digits_;  // only the first count_ are set
-    std::size_t count_ = 0;
-    long long exponent_ = 0;
-    bool hasMore_ = false;
-};
-
-double ReadBased(Cursor& cursor, int base) {
-    double number = 0;
-    for (int digit = DigitValue(cursor.Peek()); digit < base; digit = DigitValue(cursor.Peek())) {
-        number = number * base + digit;
-        cursor.Advance();
-    }
-    return number;
-}
-
-long long ReadExponent(Cursor& cursor) {
-    // Far beyond what any number of digits in memory can make up for.
-    constexpr long long kMaxExponent = 1'000'000'000'000'000;
-    const bool isNegative = cursor.AcceptMinus();
-    long long exponent = 0;
-    for (char digit = cursor.Peek(); IsDigit(digit); digit = cursor.Peek()) {
-        if (exponent < kMaxExponent) exponent = exponent * 10 + (digit - '0');
-        cursor.Advance();
-    }
-    return isNegative ? -exponent : exponent;
-}
-
-double ReadDecimal(Cursor& cursor) {
-    const bool isNegative = cursor.AcceptMinus();
-    Decimal decimal;
-    bool isFraction = false;
-    for (char next = cursor.Peek(); IsDigit(next) || (next == '.' && !isFraction); next = cursor.Peek()) {
-        if (next == '.') {
-            isFraction = true;
-        } else {
-            decimal.Add(next, isFraction);
-        }
-        cursor.Advance();
-    }
-    if (IsExponentLetter(cursor.Peek())) {
-        cursor.Advance();
-        decimal.Scale(ReadExponent(cursor));
-    }
-    return isNegative ? -decimal.Value() : decimal.Value();
-}
-
 std::size_t SkipDigits(std::string_view& text) {
     std::size_t count = 0;
     while (count < text.size() && IsDigit(text[count])) ++count;
@@ -154,14 +40,55 @@ void SkipSign(std::string_view& text) {
     if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
 }
 
+double ReadBased(std::string_view digits, int base) {
+    double number = 0;
+    for (const char digit : digits) {
+        if (DigitValue(digit) >= base) break;
+        number = number * base + DigitValue(digit);
+    }
+    return number;
+}
+
+/// Whether a number beyond the range of a double is too large for it, not too small.
+bool IsTooLarge(std::string_view number) {
+    const std::size_t mark = std::min(number.find('e'), number.size());
+    const std::size_t point = std::min(number.find('.'), mark);
+    long long magnitude =
+        static_cast<long long>(point) - static_cast<long long>(number.find_first_of("123456789"));
+    if (mark < number.size()) {
+        number.remove_prefix(mark + 1);
+        if (number.front() == '+') number.remove_prefix(1);
+        using Limits = std::numeric_limits<std::int32_t>;
+        std::int32_t exponent =
+            number.front() == '-' ? Limits::min() : Limits::max();  // stays if out of range
+        std::from_chars(number.data(), number.data() + number.size(), exponent);
+        magnitude += exponent;
+    }
+    return magnitude > 0;
+}
+
+/// A number without sign and blanks, with "e" before the exponent.
+double ReadDecimal(std::string_view text) {
+    const bool isNumber = !text.empty() && (IsDigit(text.front()) || text.front() == '.');
+    if (!isNumber) return 0;  // from_chars would also read "inf" and "nan"
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc::result_out_of_range) return number;
+    return IsTooLarge({text.data(), end}) ? HUGE_VAL : 0;
+}
+
 }  // namespace
 
-double LeadingNumber(std::string_view text) noexcept {
-    Cursor cursor(text);
-    if (!cursor.Accept('&')) return ReadDecimal(cursor);
-    if (cursor.Accept('H') || cursor.Accept('h')) return ReadBased(cursor, 16);
-    if (cursor.Accept('O') || cursor.Accept('o')) return ReadBased(cursor, 8);
-    return 0;
+double LeadingNumber(std::string_view text) {
+    std::string number(text);
+    std::erase_if(number,
+                  [](char character) { return character == ' ' || character == '\t' || character == '\n'; });
+    std::string_view rest = number;
+    if (rest.starts_with("&H") || rest.starts_with("&h")) return ReadBased(rest.substr(2), 16);
+    if (rest.starts_with("&O") || rest.starts_with("&o")) return ReadBased(rest.substr(2), 8);
+    std::replace_if(number.begin(), number.end(), IsExponentLetter, 'e');
+    SkipSign(rest);
+    return number.starts_with('-') ? -ReadDecimal(rest) : ReadDecimal(rest);
 }
 
 bool IsNumericText(std::string_view text, std::string_view decimalSeparator) noexcept {

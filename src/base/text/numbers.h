@@ -13,7 +13,7 @@ namespace halvenmoor::text {
 /// The number that a text begins with, 0 when there is none. Blanks, tabs and line feeds are skipped wherever
 /// they stand. A sign, digits with at most one point, and an exponent with E or D may follow, or else &H with
 /// hexadecimal or &O with octal digits. A number beyond the range of a double is infinite.
-double LeadingNumber(std::string_view text) noexcept;
+double LeadingNumber(std::string_view text);
 
 /// Whether the whole text is a number: an optional sign, digits with at most one decimal separator (also
 /// ".5" and "5."), and an optional exponent with E or D. Blanks are not accepted.

@@ -35,7 +35,8 @@ inline void Store(Word word, char* bytes) noexcept {
     }
 }
 
-/// A text of at most eight bytes, with zeros behind it.
+/// A text of at most eight bytes, with zeros behind it. From four bytes on, its first four and its last four
+/// may overlap: shifted to where they belong, they have the same bits there, so both are in the word.
 inline Word LoadShort(std::string_view text) noexcept {
     constexpr std::size_t kHalf = sizeof(std::uint32_t);
     if (text.size() >= kHalf) {

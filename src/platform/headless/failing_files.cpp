@@ -59,6 +59,9 @@ public:
 
     std::vector<std::string> Files() const override { return counter_.Counted(*folder_).Files(); }
     void Delete(std::string_view name) override { counter_.Counted(*folder_).Delete(name); }
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        return std::make_unique<FailingWriter>(counter_, counter_.Counted(*folder_).CreateTextFile(name));
+    }
 
 private:
     CallCounter& counter_;
@@ -72,7 +75,6 @@ public:
 
     bool FileExists(std::string_view path) override { return Object().FileExists(path); }
     bool FolderExists(std::string_view path) override { return Object().FolderExists(path); }
-    void DeleteFile(std::string_view path) override { Object().DeleteFile(path); }
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<FailingFolder>(counter_, Object().GetFolder(path));
@@ -108,8 +110,8 @@ void FailingFiles::Search(std::string_view folder, std::string_view extension,
     });
 }
 
-bool FailingFiles::IsListed(std::string_view path) {
-    return counter_.Counted(hostFiles_).IsListed(path);
+std::optional<std::string> FailingFiles::FindFile(std::string_view path) {
+    return counter_.Counted(hostFiles_).FindFile(path);
 }
 
 std::unique_ptr<platform::ByteReader> FailingFiles::OpenBytes(std::string_view path) {

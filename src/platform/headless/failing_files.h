@@ -64,7 +64,7 @@ public:
 
     void Search(std::string_view folder, std::string_view extension,
                 const std::function<void(std::string_view)>& found) override;
-    bool IsListed(std::string_view path) override;
+    std::optional<std::string> FindFile(std::string_view path) override;
     std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view path) override;
     void Rename(std::string_view oldPath, std::string_view newPath) override;
 

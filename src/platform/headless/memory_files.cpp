@@ -31,11 +31,6 @@ std::string Join(std::string_view folder, std::string_view name) {
     return std::string(folder).append("/").append(name);
 }
 
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
-
 [[noreturn]] void ThrowFileNotFound() {
     throw Failure(failure::FileNotFound, "File not found");
 }
@@ -123,11 +118,20 @@ public:
 
     void Delete(std::string_view name) override {
         files_.Record("delete", Join(path_, name));
-        if (name.find('/') != std::string_view::npos) ThrowFileNotFound();
-        files_.Delete(Join(path_, name));
+        files_.Delete(PathOf(name));
+    }
+
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        files_.Record("create", Join(path_, name));
+        return files_.Create(PathOf(name));
     }
 
 private:
+    std::string PathOf(std::string_view name) const {
+        if (name.find('/') != std::string_view::npos) ThrowFileNotFound();
+        return Join(path_, name);
+    }
+
     MemoryFiles& files_;
     std::string path_;
 };
@@ -144,19 +148,9 @@ public:
         return std::make_unique<FilesOfFolder>(files_, files_.RequireFolder(path));
     }
 
-    void DeleteFile(std::string_view path) override {
-        files_.Record("delete", path);
-        files_.Delete(files_.Find(path));
-    }
-
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
         files_.Record("create", path);
-        const std::string place = files_.FindForWriting(path);
-        if (files_.Has(place) && files_.IsFolder(place)) ThrowPermissionDenied();
-        Bytes& bytes = files_.entries_[place];
-        if (!bytes) bytes = std::make_shared<std::string>();
-        bytes->clear();
-        return std::make_unique<MemoryWriter>(bytes);
+        return files_.Create(files_.FindForWriting(path));
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
@@ -217,14 +211,17 @@ void MemoryFiles::Search(std::string_view folder, std::string_view extension,
     Record("search", folder);
     const std::string real = RequireFolder(folder);
     for (const std::string& name : NamesIn(real)) {
-        if (name.starts_with('.') || !HasExtension(name, extension) || !IsFile(Join(real, name))) continue;
+        if (name.starts_with('.') || !text::EndsWithIgnoringAsciiCase(name, extension) ||
+            !IsFile(Join(real, name)))
+            continue;
         found(name);
     }
 }
 
-bool MemoryFiles::IsListed(std::string_view path) {
-    const std::string real = Find(path);
-    return IsFile(real) && !NameOf(real).starts_with('.');
+std::optional<std::string> MemoryFiles::FindFile(std::string_view path) {
+    std::string found = Find(path);
+    if (!IsFile(found)) return std::nullopt;
+    return found;
 }
 
 std::unique_ptr<platform::ByteReader> MemoryFiles::OpenBytes(std::string_view path) {
@@ -236,10 +233,10 @@ void MemoryFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     Record("rename", std::string(oldPath).append(" > ").append(newPath));
     const std::string real = Find(oldPath);
     const Bytes bytes = RequireFile(oldPath);
-    const std::string place = FindForWriting(newPath);
-    if (Has(place)) throw Failure(failure::FileExists, "File already exists");
+    const std::string target = FindForWriting(newPath);
+    if (Has(target)) throw Failure(failure::FileExists, "File already exists");
     entries_.erase(real);
-    entries_.emplace(place, bytes);
+    entries_.emplace(target, bytes);
 }
 
 void MemoryFiles::Record(std::string_view call, std::string_view path) {
@@ -259,6 +256,8 @@ std::string MemoryFiles::Find(std::string_view path) const {
 }
 
 std::string MemoryFiles::FindForWriting(std::string_view path) const {
+    std::string found = Find(path);
+    if (Has(found)) return found;
     const std::string folder = Find(FolderOf(path));
     if (!IsFolder(folder)) ThrowPathNotFound();
     return Join(folder, NameOf(path));
@@ -292,6 +291,15 @@ void MemoryFiles::Delete(const std::string& path) {
     if (IsFolder(path)) ThrowPermissionDenied();
     if (!IsFile(path)) ThrowFileNotFound();
     entries_.erase(path);
+}
+
+std::unique_ptr<platform::TextWriter> MemoryFiles::Create(const std::string& path) {
+    if (IsFolder(path)) ThrowPermissionDenied();
+    if (!IsFolder(FolderOf(path))) ThrowPathNotFound();
+    Bytes& bytes = entries_[path];
+    if (!bytes) bytes = std::make_shared<std::string>();
+    bytes->clear();
+    return std::make_unique<MemoryWriter>(bytes);
 }
 
 /// Files and folders, in the order of their bytes.

@@ -42,7 +42,7 @@ public:
 
     void Search(std::string_view folder, std::string_view extension,
                 const std::function<void(std::string_view)>& found) override;
-    bool IsListed(std::string_view path) override;
+    std::optional<std::string> FindFile(std::string_view path) override;
     std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view path) override;
     void Rename(std::string_view oldPath, std::string_view newPath) override;
 
@@ -53,13 +53,14 @@ private:
 
     void Record(std::string_view call, std::string_view path);
     std::string Find(std::string_view path) const;
-    /// Where a new file goes: the folder as it is found, the name as given. Throws Failure(PathNotFound).
+    /// As posix::PathFinder has it. Throws Failure(PathNotFound) when there is no folder for a new file.
     std::string FindForWriting(std::string_view path) const;
     bool IsFile(std::string_view path) const;
     bool IsFolder(std::string_view path) const;
     Bytes RequireFile(std::string_view path) const;
     std::string RequireFolder(std::string_view path) const;
     void Delete(const std::string& path);
+    std::unique_ptr<platform::TextWriter> Create(const std::string& path);
     std::vector<std::string> NamesIn(std::string_view folder) const;
 
     const text::CodePage& page_;

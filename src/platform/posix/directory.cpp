@@ -23,11 +23,12 @@ const dirent* Directory::Next() {
     }
 }
 
-bool Directory::IsFolder(const dirent& entry) const {
-    if (entry.d_type == DT_DIR) return true;
-    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return false;
+Kind Directory::KindOf(const dirent& entry) const {
+    const bool isKnown = entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN;
+    if (isKnown) return posix::KindOf(DTTOIF(entry.d_type));
     struct stat info {};
-    return ::fstatat(::dirfd(stream_.get()), entry.d_name, &info, 0) == 0 && S_ISDIR(info.st_mode);
+    const bool isThere = ::fstatat(::dirfd(stream_.get()), entry.d_name, &info, 0) == 0;
+    return isThere ? posix::KindOf(info.st_mode) : Kind::Nothing;
 }
 
 }  // namespace halvenmoor::posix

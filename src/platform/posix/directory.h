@@ -16,8 +16,8 @@ public:
     /// The next entry, hidden ones too but neither "." nor "..", valid until the next call; null at the end.
     /// Throws Failure.
     const dirent* Next();
-    /// Whether the entry is a folder or a link to one.
-    bool IsFolder(const dirent& entry) const;
+    /// What the entry leads to, through links.
+    Kind KindOf(const dirent& entry) const;
 
 private:
     struct Closer {

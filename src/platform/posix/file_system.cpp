@@ -23,20 +23,27 @@ public:
         Directory directory(OpenFolder(folder_));
         std::vector<std::string> names;
         while (const dirent* entry = directory.Next()) {
-            if (!directory.IsFolder(*entry)) names.emplace_back(entry->d_name);
+            if (directory.KindOf(*entry) != Kind::Folder) names.emplace_back(entry->d_name);
         }
         std::sort(names.begin(), names.end());
         return names;
     }
 
     void Delete(std::string_view name) override {
-        const std::string path(name);
-        const bool leavesTheFolder = name.find('/') != std::string_view::npos;
-        if (leavesTheFolder) throw SystemFailure(ENOENT);
-        if (::unlinkat(folder_.Get(), SystemPath(path), 0) != 0) throw SystemFailure(errno);
+        if (::unlinkat(folder_.Get(), SystemPath(OwnName(name)), 0) != 0) throw SystemFailure(errno);
+    }
+
+    std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
+        return std::make_unique<DiskTextWriter>(OpenForWriting(folder_, OwnName(name)));
     }
 
 private:
+    /// The name, which must not lead out of the folder.
+    static std::string OwnName(std::string_view name) {
+        if (name.find('/') != std::string_view::npos) throw SystemFailure(ENOENT);
+        return std::string(name);
+    }
+
     FileDescriptor folder_;
 };
 
@@ -50,11 +57,6 @@ public:
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<DiskFolder>(OpenFolder(finder_.Find(path)));
-    }
-
-    void DeleteFile(std::string_view path) override {
-        // Whether the file may be written does not matter to unlink: that is the folder's right.
-        if (::unlink(SystemPath(finder_.Find(path))) != 0) throw SystemFailure(errno);
     }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {

@@ -13,31 +13,23 @@
 #include <utility>
 
 namespace halvenmoor::posix {
-namespace {
-
-bool IsHidden(std::string_view name) {
-    return name.starts_with('.');
-}
-
-bool HasExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= extension.size() &&
-           text::EqualIgnoringAsciiCase(name.substr(name.size() - extension.size()), extension);
-}
-
-}  // namespace
 
 void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
                            const std::function<void(std::string_view)>& found) {
     Directory directory(OpenFolder(finder_.Find(folder)));
     while (const dirent* entry = directory.Next()) {
         const std::string_view name(entry->d_name);
-        if (!IsHidden(name) && HasExtension(name, extension) && !directory.IsFolder(*entry)) found(name);
+        const bool isHidden = name.starts_with('.');
+        if (isHidden || !text::EndsWithIgnoringAsciiCase(name, extension)) continue;
+        if (directory.KindOf(*entry) == Kind::File) found(name);
     }
 }
 
-bool DiskHostFiles::IsListed(std::string_view path) {
-    const std::string real = finder_.Find(path);
-    return !IsHidden(std::string_view(real).substr(real.rfind('/') + 1)) && KindOf(real) == Kind::File;
+std::optional<std::string> DiskHostFiles::FindFile(std::string_view path) {
+    std::string found = finder_.Find(path);
+    const Kind kind = KindOf(found);
+    if (kind == Kind::Nothing || kind == Kind::Folder) return std::nullopt;
+    return found;
 }
 
 std::unique_ptr<platform::ByteReader> DiskHostFiles::OpenBytes(std::string_view path) {

@@ -14,11 +14,9 @@ class DiskHostFiles : public platform::HostFiles {
 public:
     explicit DiskHostFiles(PathFinder& finder) : finder_(finder) {}
 
-    /// A link to a folder counts as a folder; a link that leads nowhere is handed over.
     void Search(std::string_view folder, std::string_view extension,
                 const std::function<void(std::string_view)>& found) override;
-    /// False for a link that leads nowhere.
-    bool IsListed(std::string_view path) override;
+    std::optional<std::string> FindFile(std::string_view path) override;
     std::unique_ptr<platform::ByteReader> OpenBytes(std::string_view path) override;
     void Rename(std::string_view oldPath, std::string_view newPath) override;
 

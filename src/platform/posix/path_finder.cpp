@@ -40,6 +40,8 @@ std::string PathFinder::Find(std::string_view path) {
 }
 
 std::string PathFinder::FindForWriting(std::string_view path) {
+    std::string found = Find(path);
+    if (EntryExists(found)) return found;
     const std::size_t slash = path.rfind('/');
     if (slash == std::string_view::npos || slash == 0) return std::string(path);
     return Join(Find(path.substr(0, slash)), path.substr(slash + 1));

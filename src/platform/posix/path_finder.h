@@ -23,7 +23,8 @@ public:
     /// it was given, so that the call which uses it fails for the true reason. A link is not followed at the
     /// end.
     std::string Find(std::string_view path);
-    /// The path at which a new entry is to be made: its folder as it is on the disk, its own name as given.
+    /// The path to write to: that of the entry that is found or, when there is none, its folder as it is on
+    /// the disk and its own name as given.
     std::string FindForWriting(std::string_view path);
 
 private:

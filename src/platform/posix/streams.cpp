@@ -93,8 +93,7 @@ std::size_t DiskByteReader::Read(std::span<char> buffer) {
 }
 
 DiskTextWriter::DiskTextWriter(FileDescriptor file)
-    : file_(std::move(file)),
-      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize + sizeof(text::Word))) {
+    : file_(std::move(file)), buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {
 }
 
 void DiskTextWriter::WriteLine(std::initializer_list<std::string_view> parts) {

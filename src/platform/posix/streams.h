@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/text/words.h"
 #include "platform/files.h"
 #include "platform/posix/system.h"
 
@@ -81,12 +80,7 @@ public:
 private:
     void Append(std::string_view bytes) {
         if (bytes.size() > Free()) return AppendPiecewise(bytes);
-        char* const end = buffer_.get() + size_;
-        if (bytes.size() <= sizeof(text::Word)) {
-            text::Store(text::LoadShort(bytes), end);  // most parts of a line
-        } else {
-            bytes.copy(end, bytes.size());
-        }
+        bytes.copy(buffer_.get() + size_, bytes.size());
         size_ += bytes.size();
     }
     std::size_t Free() const { return kBufferSize - size_; }
@@ -97,7 +91,7 @@ private:
     }
 
     FileDescriptor file_;
-    std::unique_ptr<char[]> buffer_;  // with a word more, for the last store
+    std::unique_ptr<char[]> buffer_;
     std::size_t size_ = 0;
     int error_ = 0;  // of the first write that failed; nothing is written after it
 };

@@ -50,6 +50,15 @@ FileDescriptor Open(int base, const std::string& path, int flags, int errorWhenM
     return file;
 }
 
+FileDescriptor OpenForWriting(int base, const std::string& path, WriteMode mode) {
+    FileDescriptor file = mode == WriteMode::Replace ? Open(base, path, O_WRONLY | O_CREAT | O_TRUNC, ENOTDIR)
+                                                     : Open(base, path, O_WRONLY | O_APPEND);
+    // Only the opening must not wait. From here on a write that would have to is no failure.
+    const int flags = ::fcntl(file.Get(), F_GETFL);
+    if (flags < 0 || ::fcntl(file.Get(), F_SETFL, flags & ~O_NONBLOCK) < 0) throw SystemFailure(errno);
+    return file;
+}
+
 }  // namespace
 
 Failure SystemFailure(int error) {
@@ -64,10 +73,14 @@ bool EntryExists(const std::string& path) {
     return ::lstat(SystemPath(path), &info) == 0;
 }
 
+Kind KindOf(mode_t mode) {
+    if (S_ISDIR(mode)) return Kind::Folder;
+    return S_ISREG(mode) ? Kind::File : Kind::Other;
+}
+
 Kind KindOf(const std::string& path) {
     struct stat info {};
-    if (::stat(SystemPath(path), &info) != 0) return Kind::Nothing;
-    return S_ISDIR(info.st_mode) ? Kind::Folder : Kind::File;
+    return ::stat(SystemPath(path), &info) == 0 ? KindOf(info.st_mode) : Kind::Nothing;
 }
 
 int FileDescriptor::Close() noexcept {
@@ -107,13 +120,11 @@ FileDescriptor OpenForReading(const std::string& path) {
 }
 
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode) {
-    FileDescriptor file = mode == WriteMode::Replace
-                              ? Open(AT_FDCWD, path, O_WRONLY | O_CREAT | O_TRUNC, ENOTDIR)
-                              : Open(AT_FDCWD, path, O_WRONLY | O_APPEND);
-    // Only the opening must not wait. From here on a write that would have to is no failure.
-    const int flags = ::fcntl(file.Get(), F_GETFL);
-    if (flags < 0 || ::fcntl(file.Get(), F_SETFL, flags & ~O_NONBLOCK) < 0) throw SystemFailure(errno);
-    return file;
+    return OpenForWriting(AT_FDCWD, path, mode);
+}
+
+FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name) {
+    return OpenForWriting(folder.Get(), name, WriteMode::Replace);
 }
 
 FileDescriptor OpenFolder(const std::string& path) {

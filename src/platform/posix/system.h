@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <sys/types.h>
 #include <utility>
 
 namespace halvenmoor::posix {
@@ -23,9 +24,11 @@ inline const char* SystemPath(const std::string& path) {
 /// Whether there is an entry of this path; a link is not followed at the end.
 bool EntryExists(const std::string& path);
 
-enum class Kind { Nothing, File, Folder };
+/// Only a regular file counts as a file.
+enum class Kind { Nothing, File, Folder, Other };
 
-/// What the path leads to, through links; a file is all that is no folder.
+Kind KindOf(mode_t mode);
+/// What the path leads to, through links.
 Kind KindOf(const std::string& path);
 
 /// An open file or folder.
@@ -61,6 +64,8 @@ enum class WriteMode { Replace, Append };
 
 /// Replace makes or empties the file, Append needs one. Never waits for a reader. Throws Failure.
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
+/// The same in an open folder, in the mode Replace.
+FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name);
 
 /// Opens a folder, also through a link. Throws Failure.
 FileDescriptor OpenFolder(const std::string& path);

@@ -9,8 +9,11 @@ QtPlatform::Arguments::Arguments(char* programName) : values{programName, nullpt
     PreferX11();
 }
 
-QtPlatform::QtPlatform(char* programName, const platform::Locale& locale)
-    : arguments(programName), application(arguments.count, arguments.values.data()), toolkit(locale) {
+QtPlatform::QtPlatform(char* programName, const platform::Locale& locale, platform::HostFiles& files)
+    : arguments(programName),
+      application(arguments.count, arguments.values.data()),
+      toolkit(locale),
+      fileDialogs(files) {
     // Qt's own words, as in the file dialogs, in the language of the user's desktop.
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {

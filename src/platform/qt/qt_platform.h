@@ -3,7 +3,6 @@
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/message_box.h"
-#include "platform/qt/services/program_info.h"
 #include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "platform/qt/windows/toolkit.h"
@@ -15,9 +14,8 @@ namespace halvenmoor::qt {
 
 /// All of the Qt side, in the order in which it has to be made. The program's forms end before it does.
 struct QtPlatform {
-    /// The program's name as main gets it, the first of its arguments; it and the locale outlive the
-    /// platform.
-    QtPlatform(char* programName, const platform::Locale& locale);
+    /// The program's name as main gets it, the first of its arguments; all of them outlive the platform.
+    QtPlatform(char* programName, const platform::Locale& locale, platform::HostFiles& files);
 
     struct Arguments {
         explicit Arguments(char* programName);
@@ -30,7 +28,6 @@ struct QtPlatform {
     SafeApplication application;
     QTranslator translator;
     QtToolkit toolkit;
-    QtProgramInfo programInfo;
     QtSettings settings;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;

@@ -12,14 +12,20 @@ namespace halvenmoor::qt {
 
 namespace {
 
-/// Accepts no path in a folder that does not exist.
+/// Accepts no path in a folder that does not exist, and asks before it accepts a file to be replaced.
 class PathDialog : public QFileDialog {
 public:
-    PathDialog(const platform::FileDialog& dialog, AcceptMode acceptMode, FileMode fileMode);
+    PathDialog(const platform::FileDialog& dialog, platform::HostFiles& files, AcceptMode acceptMode,
+               FileMode fileMode);
 
     std::optional<std::string> Ask();
 
     void accept() override;
+
+private:
+    bool MayBeWritten(const QString& path);
+
+    platform::HostFiles& files_;
 };
 
 /// "Text File (*.txt)|*.txt" becomes "Text File (*.txt)": Qt reads the patterns from the brackets.
@@ -33,9 +39,11 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-PathDialog::PathDialog(const platform::FileDialog& dialog, AcceptMode acceptMode, FileMode fileMode)
-    : QFileDialog(TopWindow()) {
+PathDialog::PathDialog(const platform::FileDialog& dialog, platform::HostFiles& files, AcceptMode acceptMode,
+                       FileMode fileMode)
+    : QFileDialog(TopWindow()), files_(files) {
     setOption(DontUseNativeDialog);
+    setOption(DontConfirmOverwrite);  // Qt would ask about a file of exactly this name
     setAcceptMode(acceptMode);
     setFileMode(fileMode);
     setWindowTitle(QString::fromStdString(dialog.title));
@@ -51,9 +59,10 @@ std::optional<std::string> PathDialog::Ask() {
 }
 
 void PathDialog::accept() {
-    const QString folder = QFileInfo(selectedFiles().value(0)).path();
+    const QString path = selectedFiles().value(0);
+    const QString folder = QFileInfo(path).path();
     if (QFileInfo(folder).isDir()) {
-        QFileDialog::accept();
+        if (acceptMode() == AcceptOpen || MayBeWritten(path)) QFileDialog::accept();
         return;
     }
     QMessageBox::warning(this, windowTitle(),
@@ -61,14 +70,23 @@ void PathDialog::accept() {
                              .arg(QDir::toNativeSeparators(folder)));
 }
 
+bool PathDialog::MayBeWritten(const QString& path) {
+    const std::optional<std::string> file = files_.FindFile(QFile::encodeName(path).toStdString());
+    if (!file) return true;
+    const QString name = QFileInfo(QFile::decodeName(file->c_str())).fileName();
+    const QString question = tr("%1 already exists.\nDo you want to replace it?").arg(name);
+    return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+}
+
 }  // namespace
 
 std::optional<std::string> QtFileDialogs::AskSavePath(const platform::FileDialog& dialog) {
-    return PathDialog(dialog, QFileDialog::AcceptSave, QFileDialog::AnyFile).Ask();
+    return PathDialog(dialog, files_, QFileDialog::AcceptSave, QFileDialog::AnyFile).Ask();
 }
 
 std::optional<std::string> QtFileDialogs::AskOpenPath(const platform::FileDialog& dialog) {
-    return PathDialog(dialog, QFileDialog::AcceptOpen, QFileDialog::ExistingFile).Ask();
+    return PathDialog(dialog, files_, QFileDialog::AcceptOpen, QFileDialog::ExistingFile).Ask();
 }
 
 }  // namespace halvenmoor::qt

@@ -7,8 +7,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
 namespace halvenmoor::qt {
 
@@ -18,19 +17,15 @@ constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
 
 }  // namespace
 
-QtProgramInfo::QtProgramInfo(const QString& runtimeFolder) : guard_(runtimeFolder) {
+QtProgramInfo::QtProgramInfo(platform::InstanceLock& lock, std::string programFolder)
+    : guard_(lock), programFolder_(std::move(programFolder)) {
+    if (programFolder_.empty()) {
+        programFolder_ = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+    }
     guard_.OnRaise = [](const QByteArray& token) {
         if (!token.isEmpty()) qputenv(kTokenVariable, token);  // where Qt looks for it
         RaiseWindows();
     };
-}
-
-std::string QtProgramInfo::ProgramFolder() const {
-    // Qt's own answer is text and loses bytes that are not UTF-8.
-    std::error_code error;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (!error) return program.parent_path().string();
-    return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
 }
 
 platform::ProgramVersion QtProgramInfo::Version() const {

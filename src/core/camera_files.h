@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/files.h"
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace halvenmoor {
+
+/// The camera files that a folder holds, by the entries of the lists: their names without ".asc". The letter
+/// case of an entry counts; only the extension may be written in any.
+class CameraFiles {
+public:
+    /// Looks through the folder, a path with a separator at its end. Throws Failure.
+    CameraFiles(platform::HostFiles& files, std::string path);
+
+    /// The path of the entry's file; nothing when it has gone.
+    std::optional<std::string> FileOf(const std::string& entry) const;
+
+private:
+    std::string path_;
+    std::unordered_map<std::string, std::string> extensions_;  // by entry
+};
+
+}  // namespace halvenmoor
