@@ -10,43 +10,25 @@
 namespace halvenmoor {
 namespace {
 
-/// Whether the quoting is sound, and the fields.
+/// Whether the quotes are closed, and the fields.
 using Split = std::pair<bool, Strings>;
 
 Split SplitLine(std::string_view line) {
     FieldList list;
-    const bool isSound = SplitCameraLine(list, line);
+    const bool isClosed = SplitCameraLine(list, line);
     EXPECT_TRUE(line.empty());
-    return {isSound, Strings(list.fields.begin(), list.fields.begin() + static_cast<long>(list.count))};
+    return {isClosed, Strings(list.fields.begin(), list.fields.begin() + static_cast<long>(list.count))};
 }
 
-TEST(SplitCameraLineTest, SplitsAtCommas) {
-    EXPECT_EQ(SplitLine("  1.5 ,\t2.5 , a b  "), (Split{true, {"1.5", "\t2.5", "a b"}}));
-    EXPECT_EQ(SplitLine("no comma"), (Split{true, {"no comma"}}));
+TEST(SplitCameraLineTest, SplitsAtCommasOutsideOfQuotes) {
+    EXPECT_EQ(SplitLine("  1.5 ,\t2.5 ,, a b  "), (Split{true, {"1.5", "\t2.5", "", "a b"}}));
     EXPECT_EQ(SplitLine(" "), (Split{true, {""}}));
-    EXPECT_EQ(SplitLine("1,,3,"), (Split{true, {"1", "", "3", ""}}));
-}
-
-TEST(SplitCameraLineTest, QuotedFieldsEndAtTheNextQuote) {
     EXPECT_EQ(SplitLine(R"("A,B" , 2)"), (Split{true, {R"("A,B")", "2"}}));
-    EXPECT_EQ(SplitLine(R"(1,"",3)"), (Split{true, {"1", R"("")", "3"}}));
-    EXPECT_EQ(SplitLine(R"(1,2," A " word,4)"), (Split{true, {"1", "2", R"(" A ")", "4"}}));
     EXPECT_EQ(SplitLine(R"(1,"A"x"y",3)"), (Split{true, {"1", R"("A")", "3"}}));
     EXPECT_EQ(SplitLine(R"(1,"A"",3)"), (Split{true, {"1", R"("A")", "3"}})) << "no escape";
-}
-
-TEST(SplitCameraLineTest, BadQuotingEndsTheList) {
     EXPECT_EQ(SplitLine(R"(1.5,50.25,"open, 4)"), (Split{false, {"1.5", "50.25"}}));
-    EXPECT_EQ(SplitLine(R"(1.5,50.25,in"side",4)"), (Split{false, {"1.5", "50.25"}}));
-    EXPECT_EQ(SplitLine(R"("open)"), (Split{false, {""}}));
     EXPECT_EQ(SplitLine(R"(in"side,2)"), (Split{false, {""}}));
-}
-
-TEST(SplitCameraLineTest, ReadsTenFields) {
     const Strings ten{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
-    EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10"), (Split{true, ten}));
-    EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10,11,12"), (Split{true, ten}));
-    EXPECT_EQ(SplitLine(R"(1,2,3,4,5,6,7,8,9,10,"open)"), (Split{true, ten}));
     EXPECT_EQ(SplitLine("1,2,3,4,5,6,7,8,9,10," + std::string(40000, 'x')), (Split{true, ten}));
 }
 
@@ -61,13 +43,7 @@ TEST(SplitCameraLineTest, PositionsAre16BitNumbers) {
     EXPECT_TRUE(Overflows(longest + "x,2"));
     EXPECT_TRUE(Overflows("1," + longest + "x")) << "behind the last field too stands a comma";
     EXPECT_EQ(SplitLine(std::string(40000, ' ') + "1,2"), (Split{true, {"1", "2"}}));
-    EXPECT_TRUE(Overflows("1" + std::string(32767, ' ') + ",2"));
-
-    const std::string quoted = "\"," + std::string(32764, 'x') + "\"";
-    EXPECT_EQ(SplitLine(quoted + ",2"), (Split{true, {quoted, "2"}}));
-    EXPECT_TRUE(Overflows("\",x" + std::string(32764, 'x') + "\",2"));
     EXPECT_TRUE(Overflows("\"" + longest + "\"")) << "the comma is looked for before the quote";
-    EXPECT_TRUE(Overflows("\"a\"" + longest + "x,2"));
 }
 
 TEST(SplitCameraLineTest, PositionsCountCharacters) {
@@ -81,50 +57,19 @@ TEST(SplitCameraLineTest, PositionsCountCharacters) {
 TEST(PositionTest, NeedsNumbersWithAPoint) {
     EXPECT_TRUE(IsValidPosition("-0.12345", "51.50000"));
     EXPECT_TRUE(IsValidPosition("+1.5e1", ".5"));
-    EXPECT_TRUE(IsValidPosition("5.", "-50.25"));
     EXPECT_FALSE(IsValidPosition("5", "50.25"));
     EXPECT_FALSE(IsValidPosition("5.5", "50"));
-    for (const auto* text : {"", ".", "1.2.3", "1.5x", "1. 5", "\t1.5", "1,5", "5.0,5", "1\u00b75",
-                             "5.0\u00b75", "&H1.", "\"1.5\"", "nan."}) {
+    for (const auto* text : {"", ".", "1.2.3", "1.5x", "1. 5", "\t1.5", "1,5", "5.0,5", "&H1.", "nan."})
         EXPECT_FALSE(IsValidPosition(text, "50.25")) << text;
-        EXPECT_FALSE(IsValidPosition("5.5", text)) << text;
-    }
 }
 
 TEST(PositionTest, MustLieOnTheGlobe) {
-    using Positions = std::vector<std::array<const char*, 2>>;
-    for (const auto& [x, y] : Positions{{"180.0", "90.0"},
-                                        {"-180.0", "-90.0"},
-                                        {"0.0", "50.25"},
-                                        {"0180.0", "-9.0e1"},
-                                        {"-180.00000000000000001", "1.0e-300"}}) {
-        EXPECT_TRUE(IsValidPosition(x, y)) << x << " " << y << ", as near as a double tells";
-    }
-    for (const auto* x : {"180.00001", "-180.5", "1.0e999", "0180.5"})
-        EXPECT_FALSE(IsValidPosition(x, "50.25")) << x;
-    for (const auto* y : {"90.00001", "-90.5", "9.01e1", "0.0", "-0.000", "0000.0", "1.0e-999"}) {
+    EXPECT_TRUE(IsValidPosition("180.0", "90.0"));
+    EXPECT_TRUE(IsValidPosition("-180.00000000000000001", "-9.0e1")) << "as near as a double tells";
+    EXPECT_TRUE(IsValidPosition("0.0", "1.0e-300"));
+    for (const auto* x : {"180.00001", "-180.5", "1.0e999"}) EXPECT_FALSE(IsValidPosition(x, "50.25")) << x;
+    for (const auto* y : {"90.00001", "-90.5", "0.0", "-0.000", "1.0e-999"})
         EXPECT_FALSE(IsValidPosition("5.5", y)) << y;
-    }
-}
-
-TEST(PositionTest, ZeroIsASearch) {
-    EXPECT_TRUE(IsZeroPosition("0.0", "-0.000"));
-    EXPECT_TRUE(IsZeroPosition("10.05", "x0.0"));
-    EXPECT_FALSE(IsZeroPosition("0.0", "0.5"));
-    EXPECT_FALSE(IsZeroPosition("0", "0.0"));
-}
-
-std::string_view Stripped(std::string_view name, const PatternList& units) {
-    return StripUnitSuffix(name, units, text::WindowsCodePage(1252));
-}
-
-TEST(StripUnitSuffixTest, RemovesTheFirstUnitThatFits) {
-    EXPECT_EQ(Stripped("Fixed 50 MPH", Strings{"km/h", " mph "}), "Fixed 50 ");
-    EXPECT_EQ(Stripped("50kmh", Strings{"h", "kmh"}), "50km");
-    EXPECT_EQ(Stripped("50 mph", Strings{"", "mph"}), "50 mph") << "an empty unit ends the search";
-    EXPECT_EQ(Stripped("50\xD6", Strings{"\xC3\xB6"}), "50") << "characters are compared";
-    EXPECT_EQ(Stripped("50КМ/Ч", Strings{"км/ч"}), "50");
-    EXPECT_EQ(FailureNumber([] { Stripped("50mph", PatternList()); }), failure::TypeMismatch);
 }
 
 std::string Speed(std::string_view name, const std::string& separator = ".") {
@@ -135,19 +80,17 @@ std::string Speed(std::string_view name, const std::string& separator = ".") {
 
 TEST(SpeedFromFileNameTest, ReadsTheEndOfTheName) {
     const std::array<const char*, 2> speeds[] = {
-        {"Fixed 50 mph", "50"}, {"Fixed_120MPH", "120"}, {"Fixed_1120", "120"}, {"Fixed-30", "30"},
-        {"Fixed M25", "25"},    {"Fixed050", "50"},      {"Fixed 7", "7"},      {"7", "7"},
-        {"50km/h", "50"},       {"x&H9", "9"},           {"x&o7", "7"},         {"x1e3", "1000"},
-        {"x 1 2", "12"},        {"x1.5", "1.5"},         {"120\xC3\xA9", "20"}, {"\u00e950", "50"},
-        {"80\xD6H", "80"}};
+        {"Fixed 50 mph", "50"}, {"Fixed_120MPH", "120"}, {"Fixed_1120", "120"},
+        {"Fixed-30", "30"},     {"Fixed050", "50"},      {"7", "7"},
+        {"50km/h", "50"},       {"x&H9", "9"},           {"x1e3", "1000"},
+        {"x 1 2", "12"},        {"120\xC3\xA9", "20"},   {"80\xD6H", "80"}};
     for (const auto& [name, speed] : speeds) EXPECT_EQ(Speed(name), speed) << name;
-    for (const auto* name : {"", "mph", "Fixed", "Fixed K5", "Fixed-5", "Fixed 50 mph new", "Fixed000"}) {
+    for (const auto* name : {"", "mph", "Fixed K5", "Fixed-5", "Fixed 50 mph new", "Fixed000"}) {
         EXPECT_EQ(Speed(name), "0") << name;
     }
     EXPECT_EQ(Speed("x1.5", ","), "1,5");
     EXPECT_EQ(Speed("x1,5", ","), "1") << "a name has its point whatever the locale";
     EXPECT_EQ(Speed("x 120 mph"), "20") << "the blank before a unit stays";
-    EXPECT_EQ(Speed("x 100 mph"), "0");
 }
 
 }  // namespace

@@ -39,7 +39,6 @@ struct TestForm : Form {
         Tell("activate");
         if (OnActivate) OnActivate();
     }
-    bool KeyPress(char32_t key) override { return key == U'x'; }
     bool QueryClose(CloseReason reason) override {
         Tell(reason == CloseReason::User ? "user?" : reason == CloseReason::Program ? "program?" : "system?");
         return mayClose;
@@ -57,10 +56,6 @@ struct TestForm : Form {
 
 class FormsTest : public testing::Test {
 protected:
-    FormsTest() {
-        toolkit.OnStuck = [this](const Form& form) { log.push_back(form.AtDesign().name + " stuck"); };
-    }
-
     void ShowMain() {
         desktop.Show(main);
         log.clear();
@@ -79,15 +74,12 @@ protected:
 
     Log log;
     int clicks = 0;
-    std::string failingText;
     headless::ManualClock clock;
     headless::HeadlessToolkit toolkit{clock};
-    Desktop desktop{toolkit, [this](std::string_view text) {
-                        if (!failingText.empty() && text == failingText) throw std::runtime_error("failure");
-                        return text::FoldedKey(text, text::WindowsCodePage(1252));
-                    }};
+    Desktop desktop{toolkit,
+                    [](std::string_view text) { return text::FoldedKey(text, text::WindowsCodePage(1252)); }};
     TestForm main{desktop, log, {.name = "main", .title = ""}};
-    TestForm dialog{desktop, log, {.name = "dialog", .title = "", .keyPreview = true}};
+    TestForm dialog{desktop, log, {.name = "dialog", .title = ""}};
     ListBox list{At(main, "list", 4)};
     ListBox other{At(main, "other", 6)};
     ComboBox combo{At(main, "combo", 5)};
@@ -101,64 +93,19 @@ TEST_F(FormsTest, CodeRaisesAClickWhenItChangesAValueAndOnlyThen) {
     const struct {
         const char* what;
         std::function<void()> change;
-        int clicks;
     } cases[] = {
-        {"check", [&] { main.second.SetValue(true); }, 1},
-        {"check again", [&] { main.second.SetValue(true); }, 0},
-        {"uncheck", [&] { main.second.SetValue(false); }, 1},
-        {"option on", [&] { option.SetValue(true); }, 1},
-        {"option on again", [&] { option.SetValue(true); }, 0},
-        {"option off", [&] { option.SetValue(false); }, 0},
-        {"choice", [&] { combo.SetListIndex(0); }, 1},
-        {"choice again", [&] { combo.SetListIndex(0); }, 0},
-        {"no choice", [&] { combo.SetListIndex(-1); }, 1},
-        {"selection", [&] { list.SetSelected(0, true); }, 1},
-        {"selection again", [&] { list.SetSelected(0, true); }, 0},
-        {"no selection", [&] { list.SetSelected(0, false); }, 1},
-        {"user's press", [&] { main.second.UserPress(); }, 0},  // no window is open
+        {"check", [&] { main.second.SetValue(true); }},
+        {"option", [&] { option.SetValue(true); }},
+        {"choice", [&] { combo.SetListIndex(0); }},
+        {"selection", [&] { list.SetSelected(0, true); }},
     };
     for (const auto& test : cases) {
         clicks = 0;
-        test.change();
-        EXPECT_EQ(clicks, test.clicks) << test.what;
+        for (int i = 0; i < 2; ++i) test.change();
+        EXPECT_EQ(clicks, 1) << test.what;
     }
-}
-
-TEST_F(FormsTest, AddingMovingAndClearingItemsRaisesNoClick) {
-    list.AddItems({"a", "b", "c"});
-    combo.AddItem("b");
-    list.SetSelected(1, true);
-    combo.SetListIndex(0);
-    CountClicks(list);
-    CountClicks(combo);
-    combo.AddItem("a");
-    EXPECT_EQ(combo.ListIndex(), 1);
-    EXPECT_EQ(combo.Text(), "b");
-    list.AddItems({"aa"});
-    list.RemoveItem(0);
-    EXPECT_TRUE(list.MoveItemsTo(other, [this](int i) { return list.Selected(i); }));
-    EXPECT_EQ(list.SelCount() + other.SelCount(), 0);
-    other.SetSelected(0, true);
-    other.Clear();
-    EXPECT_EQ(other.SelCount(), 0);
-    combo.Clear();
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "");
-    EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(FormsTest, OptionButtonsExcludeEachOtherWithinTheirFrame) {
-    Frame frame(At(main, "frame", 6));
-    OptionButton one(At(main, "one", 7));
-    OptionButton two(At(main, "two", 8));
-    OptionButton inner(At(main, "inner", 9).In(frame));
-    ShowMain();
-    EXPECT_TRUE(one.UserPress());
-    EXPECT_TRUE(inner.UserPress());
-    EXPECT_TRUE(one.Value()) << "another group";
-    two.SetValue(true);
-    EXPECT_FALSE(one.Value());
-    EXPECT_TRUE(two.Value() && inner.Value());
+    option.SetValue(false);
+    EXPECT_EQ(clicks, 1) << "an option that goes off";
 }
 
 TEST_F(FormsTest, DisabledOrHiddenControlPassesTheFocusOnInTabOrder) {
@@ -188,30 +135,6 @@ TEST_F(FormsTest, DialogIsActivatedOnceAndTheMainWindowAfterTheLastOne) {
     ShowDialog([&] { desktop.ShowModal(inner); });
     EXPECT_EQ(log, (Log{"dialog load", "got first", "dialog activate", "inner load", "got first",
                         "inner activate", "inner program?", "dialog program?", "main activate"}));
-    log.clear();
-    TestForm ghost(desktop, log, {.name = "ghost", .title = ""});
-    ghost.OnLoad = [&] { ghost.Unload(); };
-    desktop.ShowModal(ghost);
-    EXPECT_EQ(log, (Log{"ghost load", "ghost program?", "main activate"})) << "closed before it was shown";
-}
-
-TEST_F(FormsTest, EventsGoToTheModalFormAloneAlsoAtTurns) {
-    ShowMain();
-    EXPECT_FALSE(main.UserKeyPress(U'x')) << "its design has it see no keys";
-    const auto act = [this] {
-        EXPECT_TRUE(dialog.UserKeyPress(U'x') && !dialog.UserKeyPress(U'y'));
-        EXPECT_FALSE(main.second.UserPress() || main.UserClose() || main.third.UserFocused());
-        EXPECT_TRUE(dialog.second.UserPress());
-    };
-    toolkit.OnYield = act;
-    ShowDialog([&] {
-        act();
-        desktop.Yield();
-    });
-    EXPECT_EQ(toolkit.Yields(), 1);
-    EXPECT_FALSE(main.second.Value());
-    EXPECT_TRUE(main.second.UserPress());
-    EXPECT_FALSE(dialog.second.UserPress()) << "closed";
 }
 
 TEST_F(FormsTest, FormIsAskedWithTheReasonAndMayStayOpen) {
@@ -219,10 +142,8 @@ TEST_F(FormsTest, FormIsAskedWithTheReasonAndMayStayOpen) {
     main.mayClose = false;
     EXPECT_TRUE(main.UserClose());
     main.Unload();
-    EXPECT_FALSE(desktop.CloseAll());
-    EXPECT_TRUE(main.IsOpen() && !desktop.Ended());
-    EXPECT_EQ(log, (Log{"main user?", "main program?", "main system?"}));
-
+    EXPECT_TRUE(main.IsOpen());
+    EXPECT_EQ(log, (Log{"main user?", "main program?"}));
     main.mayClose = true;
     dialog.mayClose = false;
     ShowDialog([&] {
@@ -236,17 +157,7 @@ TEST_F(FormsTest, FormIsAskedWithTheReasonAndMayStayOpen) {
     EXPECT_TRUE(desktop.Ended());
 }
 
-TEST_F(FormsTest, ForcedEndAsksNobodyAndNothingOpensAfterIt) {
-    ShowMain();
-    main.mayClose = false;
-    desktop.End();
-    desktop.ShowModal(dialog);
-    EXPECT_EQ(log, Log{});
-    EXPECT_FALSE(main.IsOpen() || main.second.UserPress());
-}
-
 TEST_F(FormsTest, FailureEndsOnlyItsOwnEvent) {
-    main.OnActivate = [] { throw std::runtime_error("failure"); };
     ShowMain();
     dialog.OnLoad = [] { throw std::runtime_error("failure"); };
     desktop.ShowModal(dialog);
@@ -264,25 +175,6 @@ TEST_F(FormsTest, FailureEndsOnlyItsOwnEvent) {
     EXPECT_EQ(log, Log{"main goes on"});
     EXPECT_EQ(main.title.Caption(), "done");
     EXPECT_FALSE(main.HasChanges()) << "what changed before the failure shows";
-}
-
-TEST_F(FormsTest, ViewsAreBroughtUpToDateAtYieldsAndAfterEvents) {
-    main.title.SetCaption("a");
-    main.title.SetCaption("b");
-    main.title.SetCaption("b");
-    EXPECT_EQ(main.TakeChanges(), std::vector<Control*>{&main.title});
-    main.title.SetCaption("b");
-    EXPECT_FALSE(main.HasChanges());
-    ShowMain();
-    main.first.OnClick = [this] {
-        main.title.SetCaption("c");
-        EXPECT_TRUE(main.HasChanges());
-        desktop.Yield();
-        EXPECT_FALSE(main.HasChanges());
-        main.title.SetCaption("d");
-    };
-    main.first.UserPress();
-    EXPECT_FALSE(main.HasChanges());
 }
 
 TEST_F(FormsTest, ListsOrderByFoldedCharactersAndEqualOnesByBytes) {
@@ -307,23 +199,7 @@ TEST_F(FormsTest, SelectionAndCurrentRowStayWithTheirItems) {
     EXPECT_EQ(ItemsOf(other), (Log{"a", "b", "bb", "c", "e", "x"}));
     EXPECT_TRUE(other.ListIndex() == 2 && other.Selected(2) && other.SelCount() == 1);
     EXPECT_EQ(ItemsOf(list), (Log{"d", "f"}));
-    EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_TRUE(list.Selected(0) && list.SelCount() == 1);
-    list.MoveItemsTo(other, [](int) { return true; });
-    EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_EQ(list.SelCount(), 0);
-}
-
-TEST_F(FormsTest, FailedMoveOrAddLeavesTheListsAsTheyWere) {
-    list.AddItems({"a", "b"});
-    const auto failAtSecond = [](int i) { return i == 0 ? true : throw std::runtime_error("failure"); };
-    EXPECT_THROW(list.MoveItemsTo(other, failAtSecond), std::runtime_error);
-    other.AddItems(Log(32766, "x"));
-    EXPECT_THROW(list.MoveItemsTo(other, [](int) { return true; }), std::length_error);
-    EXPECT_EQ(other.ListCount(), 32766);
-    failingText = "c";
-    EXPECT_THROW(list.AddItems({"z", "c"}), std::runtime_error);
-    EXPECT_EQ(ItemsOf(list), (Log{"a", "b"}));
+    EXPECT_TRUE(list.ListIndex() == 0 && list.Selected(0) && list.SelCount() == 1);
 }
 
 TEST_F(FormsTest, ListHoldsAtMost32767Items) {
@@ -331,28 +207,10 @@ TEST_F(FormsTest, ListHoldsAtMost32767Items) {
     for (int i = 0; i < 32768; ++i) texts.push_back(std::to_string(100000 - i));
     EXPECT_THROW(list.AddItems(texts), std::length_error);
     EXPECT_EQ(list.ListCount(), 32767);
-    EXPECT_EQ(list.List(0), "100000");
+    other.AddItems({"a"});
+    EXPECT_THROW(other.MoveItemsTo(list, [](int) { return true; }), std::length_error);
+    EXPECT_EQ(ItemsOf(other), Log{"a"});
     EXPECT_EQ(list.List(1), "67234") << "the last one stayed out";
-    EXPECT_THROW(list.AddItems({"0"}), std::length_error);
-    EXPECT_EQ(list.ListCount(), 32767);
-}
-
-TEST_F(FormsTest, TypingInAComboChoosesNothingAndCanBeUndone) {
-    for (const char* text : {"b", "a"}) combo.AddItem(text);
-    CountClicks(combo);
-    ShowMain();
-    EXPECT_TRUE(combo.UserChoose(1));
-    EXPECT_TRUE(combo.UserTyped("a"));
-    EXPECT_EQ(combo.ListIndex(), -1) << "not even when the text is that of an item";
-    EXPECT_EQ(combo.Text(), "a");
-    EXPECT_EQ(clicks, 1);
-    combo.OnChange = [this] { combo.SetListIndex(1); };
-    EXPECT_TRUE(combo.UserTyped("zz"));
-    EXPECT_EQ(combo.Text(), "b");
-    EXPECT_EQ(clicks, 2);
-    EXPECT_TRUE(combo.UserChoose(1));
-    EXPECT_EQ(clicks, 3) << "the user may choose the same item again";
-    EXPECT_FALSE(combo.UserChoose(2) || combo.UserChoose(-1));
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
-#include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
-#include "ui/group_text_color.h"
 #include "ui/layouts/frmExportLayout.h"
 #include "ui/layouts/frmImportLayout.h"
 #include "ui/layouts/frmMainLayout.h"
@@ -24,6 +22,11 @@ Bounds OnWindow(const Control& control) {
         place.top += frame->AtDesign().bounds.top;
     }
     return place;
+}
+
+bool Contains(const Bounds& a, const Bounds& b) {
+    return a.left <= b.left && a.top <= b.top && b.left + b.width <= a.left + a.width &&
+           b.top + b.height <= a.top + a.height;
 }
 
 bool Overlap(const Bounds& a, const Bounds& b) {
@@ -52,7 +55,6 @@ TEST_F(LayoutTest, EachControlHasANameAndATabNumberOfItsOwn) {
             EXPECT_TRUE(names.insert(control->Name()).second) << control->Name();
             EXPECT_TRUE(tabs.insert(control->AtDesign().tab).second) << control->Name();
         }
-        EXPECT_EQ(*tabs.begin(), 0) << form->Caption();
         EXPECT_EQ(*tabs.rbegin(), static_cast<int>(tabs.size()) - 1) << form->Caption();
     }
 }
@@ -60,15 +62,9 @@ TEST_F(LayoutTest, EachControlHasANameAndATabNumberOfItsOwn) {
 TEST_F(LayoutTest, ControlsLieWithinTheirWindowOrFrame) {
     for (const forms::Form* form : all) {
         for (const Control* control : form->Controls()) {
-            SCOPED_TRACE(control->Name());
-            const Bounds& place = control->AtDesign().bounds;
+            const Bounds whole{0, 0, form->AtDesign().width, form->AtDesign().height};
             const Control* const frame = control->AtDesign().frame;
-            EXPECT_GE(std::min(place.left, place.top), 0);
-            EXPECT_GT(std::min(place.width, place.height), 0);
-            EXPECT_LE(place.left + place.width,
-                      frame ? frame->AtDesign().bounds.width : form->AtDesign().width);
-            EXPECT_LE(place.top + place.height,
-                      frame ? frame->AtDesign().bounds.height : form->AtDesign().height);
+            EXPECT_TRUE(Contains(frame ? OnWindow(*frame) : whole, OnWindow(*control))) << control->Name();
         }
     }
 }
@@ -86,16 +82,6 @@ TEST_F(LayoutTest, NothingThatTheUserOperatesIsCovered) {
             }
         }
     }
-}
-
-TEST(GroupTextColorTest, HeadingsAreAsTheThemeHasThem) {
-    headless::FixedTheme theme;
-    theme.Colors[forms::kButtonTextNumber] = 0x040506;
-    EXPECT_EQ(HeadingColor(theme), 0x040506) << "button text";
-    theme.Themed = true;
-    EXPECT_EQ(HeadingColor(theme), 0) << "black where the theme does not tell";
-    theme.GroupBoxText = forms::Rgb(1, 2, 3);
-    EXPECT_EQ(HeadingColor(theme), 0x030201);
 }
 
 }  // namespace

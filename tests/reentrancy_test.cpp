@@ -2,8 +2,7 @@
 // presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
 // start over, and nothing may be lost.
 
-#include "journeys.h"
-#include "tools/file_helpers.h"
+#include "tests/support/journeys.h"
 
 #include <stdexcept>
 
@@ -26,17 +25,17 @@ void UseControl(forms::Control& control) {
     }
 }
 
-/// What an act at a bad moment does to the journey that is running.
+/// What an interruption does to the journey that is running.
 enum class Effect { None, StopsImport, Breaks, EndsProgram };
 
-/// Something that happens at a bad moment, with the windows that are open then.
-struct Act {
+/// Something that happens at a yield, with the windows that are open then.
+struct Interruption {
     std::string name;
     std::function<void(JourneyProgram&)> run;
     Effect effect = Effect::None;
 };
 
-void AddControls(std::vector<Act>& acts, const forms::Form& form,
+void AddControls(std::vector<Interruption>& interruptions, const forms::Form& form,
                  const std::function<forms::Form*(JourneyProgram&)>& find) {
     for (std::size_t i = 0; i < form.Controls().size(); ++i) {
         const std::string name = form.AtDesign().name + " " + form.Controls()[i]->Name();
@@ -44,7 +43,8 @@ void AddControls(std::vector<Act>& acts, const forms::Form& form,
             forms::Form* const found = find(program);
             if (found != nullptr && i < found->Controls().size()) UseControl(*found->Controls()[i]);
         };
-        acts.push_back({name, run, name == "frmImport ButtonCancel" ? Effect::StopsImport : Effect::None});
+        interruptions.push_back(
+            {name, run, name == "frmImport ButtonCancel" ? Effect::StopsImport : Effect::None});
     }
 }
 
@@ -59,14 +59,6 @@ bool IsBusy(JourneyProgram& program) {
     return import == nullptr || !import->ButtonStart.Enabled();
 }
 
-void StartAgain(JourneyProgram& program) {
-    program.programInfo.HasPreviousInstance = true;
-    Program second(program.core.Services(), program.toolkit);
-    second.Start();
-    EXPECT_EQ(second.Core().MainForm, nullptr);
-    program.programInfo.HasPreviousInstance = false;
-}
-
 void DragFirst(JourneyProgram& program) {
     for (int number = 0; number <= kLastType; ++number) {
         if (program.List(number).ListCount() == 0) continue;
@@ -75,8 +67,8 @@ void DragFirst(JourneyProgram& program) {
     }
 }
 
-std::vector<Act> ActsDuring(const Journey& journey) {
-    std::vector<Act> acts{
+std::vector<Interruption> InterruptionsOf(const Journey& journey) {
+    std::vector<Interruption> interruptions{
         {"dialog close", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserClose(); },
          Effect::StopsImport},
         {"dialog Escape", [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserEscape(); }},
@@ -84,7 +76,6 @@ std::vector<Act> ActsDuring(const Journey& journey) {
          [](JourneyProgram& program) { Dialog(program) && Dialog(program)->UserKeyPress(13); }},
         {"main close", [](JourneyProgram& program) { program.Window().UserClose(); }},
         {"main Escape", [](JourneyProgram& program) { program.Window().UserEscape(); }},
-        {"second start", StartAgain},
         {"drag", DragFirst},
         {"language", [](JourneyProgram& program) { program.Window().LanguageList.UserChoose(1); }},
         {"failure", [](JourneyProgram&) { throw std::runtime_error("yield"); }, Effect::Breaks},
@@ -92,50 +83,52 @@ std::vector<Act> ActsDuring(const Journey& journey) {
     };
     JourneyProgram program;
     program.Start();
-    AddControls(acts, program.Window(), [](JourneyProgram& running) { return &running.Window(); });
+    AddControls(interruptions, program.Window(), [](JourneyProgram& running) { return &running.Window(); });
     program.toolkit.OnYield = [&, isAdded = false]() mutable {
         if (Dialog(program) == nullptr || isAdded) return;
-        AddControls(acts, *Dialog(program), Dialog);
+        AddControls(interruptions, *Dialog(program), Dialog);
         isAdded = true;
     };
     journey.play(program);
-    return acts;
+    return interruptions;
 }
 
 class Reentrancy : public testing::TestWithParam<Journey> {
 protected:
-    /// Plays the journey with the act at one yield; 1 is the first. False when there are no so many yields.
-    bool ActAtYield(const Act& act, int yield) {
+    /// Plays the journey with the interruption at one yield; 1 is the first. False when there are no so many
+    /// yields.
+    bool InterruptAtYield(const Interruption& interruption, int yield) {
         JourneyProgram program;
         program.Start();
         program.memory.ForgetCalls();
-        bool hasActed = false;
+        bool hasHappened = false;
         bool wasBusy = false;
         program.toolkit.OnYield = [&, left = yield]() mutable {
             if (--left != 0) return;
-            hasActed = true;
+            hasHappened = true;
             wasBusy = IsBusy(program);
-            act.run(program);
-            EXPECT_TRUE(IsBusy(program) || !wasBusy || act.effect == Effect::EndsProgram)
+            interruption.run(program);
+            EXPECT_TRUE(IsBusy(program) || !wasBusy || interruption.effect == Effect::EndsProgram)
                 << "the dialog has closed";
         };
         GetParam().play(program);
         program.toolkit.OnYield = nullptr;
-        if (!hasActed) return false;
-        wasBusy ? ExpectUndisturbed(program, act) : ExpectNothingLost(program);
+        if (!hasHappened) return false;
+        wasBusy ? ExpectUndisturbed(program, interruption) : ExpectNothingLost(program);
         ExpectWorksAgain(program);
         return true;
     }
 
     /// Only a stop, a failure and the end of the system come through.
-    void ExpectUndisturbed(JourneyProgram& program, const Act& act) {
-        ExpectSoundProgram(program, GetParam());
-        EXPECT_EQ(program.desktop.Ended(), act.effect == Effect::EndsProgram);
-        if (act.effect == Effect::EndsProgram) return;
-        ExpectSoundMessages(program);
-        GetParam().expectSound(program, whole);
+    void ExpectUndisturbed(JourneyProgram& program, const Interruption& interruption) {
+        ExpectConsistentProgram(program, GetParam());
+        EXPECT_EQ(program.desktop.Ended(), interruption.effect == Effect::EndsProgram);
+        if (interruption.effect == Effect::EndsProgram) return;
+        ExpectConsistentMessages(program);
+        GetParam().expectConsistent(program, whole);
         const bool isImport = GetParam().name.starts_with("Import");
-        if (act.effect == Effect::Breaks || (act.effect == Effect::StopsImport && isImport)) return;
+        if (interruption.effect == Effect::Breaks || (interruption.effect == Effect::StopsImport && isImport))
+            return;
         EXPECT_EQ(program.memory.Calls(), undisturbedCalls) << "something else was run";
         EXPECT_EQ(Outcome(program), whole);
     }
@@ -145,9 +138,9 @@ protected:
         Journey anything = GetParam();
         const bool isExport = anything.name.starts_with("Export");
         if (isExport) anything.targets = {"/p/txt/", "/p/demo/", "/p/Export Results.txt"};
-        ExpectSoundProgram(program, anything);
+        ExpectConsistentProgram(program, anything);
         const std::string old = program.Text("/p/txt/old.txt");
-        EXPECT_TRUE(old.starts_with(JourneyProgram::kOldTarget)) << old;
+        EXPECT_TRUE(old.starts_with(JourneyProgram::OldTarget())) << old;
     }
 
     void ExpectWorksAgain(JourneyProgram& program) {
@@ -180,13 +173,13 @@ protected:
     }();
 };
 
-TEST_P(Reentrancy, AnythingAtEveryTurn) {
-    const std::vector<Act> acts = ActsDuring(GetParam());
-    for (const Act& act : acts) {
+TEST_P(Reentrancy, AnythingAtEveryYield) {
+    const std::vector<Interruption> interruptions = InterruptionsOf(GetParam());
+    for (const Interruption& interruption : interruptions) {
         int yield = 1;
-        for (bool hasActed = true; hasActed && !HasFailure(); ++yield) {
-            SCOPED_TRACE(act.name + " at yield " + std::to_string(yield));
-            hasActed = ActAtYield(act, yield);
+        for (bool hasHappened = true; hasHappened && !HasFailure(); ++yield) {
+            SCOPED_TRACE(interruption.name + " at yield " + std::to_string(yield));
+            hasHappened = InterruptAtYield(interruption, yield);
         }
         EXPECT_GT(yield, 2) << "there are yields";
     }

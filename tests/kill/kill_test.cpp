@@ -1,22 +1,21 @@
-// What is left when the program is killed. Each journey runs in a process of its own, again and again, and is
+// What is left when the program is killed. Some work runs in a process of its own, again and again, and is
 // killed at one of its calls to the system: nothing on the disk changes between two of them.
 //
-// HALVENMOOR_KILLS says how often each journey is killed, 10 times unless it is set.
+// HALVENMOOR_KILLS says how often, 10 times unless it is set.
 
 #include "platform/posix/instance_lock.h"
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/settings.h"
-#include "tests/disk_program.h"
-#include "tools/file_helpers.h"
+#include "tests/support/disk_program.h"
 
 #include <QCoreApplication>
 #include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <limits>
+#include <numeric>
 #include <random>
 #include <sys/ptrace.h>
 #include <sys/wait.h>
@@ -80,10 +79,10 @@ protected:
         const int stops = StopsUntilKilled(work, std::numeric_limits<int>::max());
         const char* const wanted = std::getenv("HALVENMOOR_KILLS");
         const std::size_t kills = wanted == nullptr ? 10 : std::stoul(wanted);
-        std::vector<int> all(static_cast<std::size_t>(stops));
-        std::iota(all.begin(), all.end(), 1);
-        std::vector<int> chosen;
-        std::sample(all.begin(), all.end(), std::back_inserter(chosen), kills, std::mt19937(1));
+        std::vector<int> chosen(static_cast<std::size_t>(stops));
+        std::iota(chosen.begin(), chosen.end(), 1);
+        std::shuffle(chosen.begin(), chosen.end(), std::mt19937(1));
+        chosen.resize(std::min(kills, chosen.size()));
         for (const int stop : chosen) {
             SCOPED_TRACE("killed at stop " + std::to_string(stop));
             prepare();
@@ -97,76 +96,20 @@ protected:
     TemporaryFolder folder;
 };
 
-constexpr std::size_t kManyCameras = 4000;
-
-class JourneyKillTest : public KillTest {
-protected:
-    void Prepare() {
-        InstallFiles(folder);
-        folder.Put("asc/fixed_60.asc", Repeated("2.5, 52.5, \"b\"\r\n", kManyCameras));
-        folder.Put("import/ov2/two.ov2", Repeated(kPoint, kManyCameras));
-        folder.Put("import/txt/two.txt", Repeated("1.5,52.5,2,50\n", kManyCameras));
-        installed = AllFiles(folder);
-    }
-    /// Plays a journey, and looks that at each sudden end every file was as before or as far as it is written
-    /// by an undisturbed one. Files that may be gone by then are those below `emptied`.
-    void Sweep(const std::function<void(DiskProgram&)>& play, const std::string& emptied = "-") {
-        Prepare();
-        const auto playWhole = [&] {
-            DiskProgram program(folder);
-            play(program);
-        };
-        playWhole();
-        const Disk done = Files();
-        EXPECT_NE(done, installed);
-        KillTest::Sweep([this] { Prepare(); }, playWhole,
-                        [&] {
-                            ExpectBegun(done, emptied);
-                            ExpectSoundWindow(DiskProgram(folder).Window());
-                            if (emptied == "-") Prepare();
-                            playWhole();
-                            EXPECT_TRUE(Files() == done);
-                        });
-    }
-
-    Disk Files() {
-        Disk all = AllFiles(folder);
-        all.erase("Export Results.txt");
-        return all;
-    }
-    void ExpectBegun(const Disk& done, const std::string& emptied) {
-        const Disk left = Files();
-        for (const auto& [name, bytes] : left) {
-            const bool isAsBefore = installed.count(name) > 0 && installed.at(name) == bytes;
-            const bool isBegun = done.count(name) > 0 && done.at(name).starts_with(bytes);
-            EXPECT_TRUE(isAsBefore || isBegun) << name;
-        }
-        for (const auto& [name, bytes] : installed) {
-            EXPECT_TRUE(left.count(name) > 0 || name.starts_with(emptied)) << name << " is lost";
-        }
-    }
-
-    Disk installed;
-};
-
-TEST_F(JourneyKillTest, Export) {
-    Sweep([](DiskProgram& program) { program.Export(); });
-    Sweep([this](DiskProgram& program) { program.Export(3, folder / "txt/old.txt"); });
-}
-
-TEST_F(JourneyKillTest, Import) {
-    for (const int source : {ImportProgram::kOv2, ImportProgram::kTxt})
-        Sweep([source](DiskProgram& program) { program.Import(source); }, "asc/");
-}
-
-TEST_F(JourneyKillTest, Rename) {
-    KillTest::Sweep([this] { Prepare(); }, [this] { DiskProgram(folder).Rename("fixed_50", "named"); },
-                    [this] {
-                        const Disk left = AllFiles(folder);
-                        Disk renamed = installed;
-                        renamed["asc/named.asc"] = renamed.extract("asc/fixed_50.asc").mapped();
-                        EXPECT_TRUE(left == installed || left == renamed);
-                    });
+/// What a kill may leave of a target: as much as had been written. That holds for camera files, too, which
+/// are written in the same way.
+TEST_F(KillTest, TheTargetIsAsFarAsItWasWritten) {
+    InstallFiles(folder);
+    folder.Put("asc/fixed_60.asc", Repeated("2.5, 52.5, \"b\"\r\n", 4000));
+    const std::string old = folder.Text("txt/old.txt");
+    const auto append = [this] { DiskProgram(folder).Export(3, folder / "txt/old.txt"); };
+    append();
+    const std::string whole = folder.Text("txt/old.txt");
+    Sweep([&] { folder.Put("txt/old.txt", old); }, append,
+          [&] {
+              const std::string left = folder.Text("txt/old.txt");
+              EXPECT_TRUE(left.starts_with(old) && whole.starts_with(left));
+          });
 }
 
 TEST_F(KillTest, OptionsAreTheOldOnesOrTheNewOnes) {
@@ -186,9 +129,7 @@ TEST_F(KillTest, OptionsAreTheOldOnesOrTheNewOnes) {
         [&] { EXPECT_EQ(End(Start([&] { save("0", "Deutsch"); })), 0); }, [&] { save("1", "English"); },
         [&] {
             EXPECT_TRUE(areStored("0", "Deutsch") || areStored("1", "Deutsch") || areStored("1", "English"));
-            const auto start = std::chrono::steady_clock::now();
             EXPECT_EQ(End(Start([&] { save("2", "French"); })), 0);
-            EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
             EXPECT_TRUE(areStored("2", "French"));
             EXPECT_EQ(folder.Names(), Strings{"halvenmoor.ini"});
         });

@@ -1,13 +1,11 @@
 // What screen readers are told of the windows, and how the keyboard does all that a mouse can.
 
 #include "all_windows.h"
+#include "tools/user_actions.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
-#include <QLabel>
-#include <algorithm>
 #include <map>
-#include <set>
 
 namespace halvenmoor::qt {
 namespace {
@@ -59,9 +57,7 @@ void ExpectAllNamed(forms::Form& form) {
 TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     for (const char* language : {"English", "Deutsch"}) {
         SCOPED_TRACE(language);
-        for (int i = 0; i < Form().LanguageList.ListCount(); ++i) {
-            if (Form().LanguageList.List(i) == language) Form().LanguageList.UserChoose(i);
-        }
+        EXPECT_TRUE(UserChoosesLanguage(Form(), language));
         LookAtAllWindows(ExpectAllNamed);
     }
     EXPECT_EQ(NameOf(Form().TypeList[4]), "Blitzer Typ \"4\" (Abschnittskontrolle)");
@@ -95,37 +91,6 @@ void ExpectFocusSeenInOrder(forms::Form& form) {
 
 TEST_F(AllWindows, ShowWhereTheFocusIs) {
     LookAtAllWindows(ExpectFocusSeenInOrder);
-}
-
-/// A caption shows, for without it the control looks different. So do glyphs, which differ, and pictures,
-/// which have more colours than a ground and a border.
-void ExpectPainted(forms::Form& form) {
-    const auto look = [&form](const forms::Control& control) {
-        form.Owner().Yield();
-        return WidgetOf(control).grab().toImage();
-    };
-    std::map<forms::Glyph, QImage> glyphs;
-    for (forms::Control* const control : form.Controls()) {
-        const QImage image = look(*control);
-        const std::string caption = control->Caption();
-        if (control->AtDesign().glyph != forms::Glyph::None) {
-            glyphs[control->AtDesign().glyph] = image;
-        } else if (!caption.empty() && control->Kind() != forms::ControlKind::ComboBox) {
-            control->SetCaption("");
-            EXPECT_NE(look(*control), image) << control->Name();
-            control->SetCaption(caption);
-        } else if (!control->AtDesign().picture.empty()) {
-            std::set<QRgb> colors;
-            for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, image.height() / 2));
-            EXPECT_GT(colors.size(), 3u) << control->Name();
-        }
-    }
-    const auto areAlike = [](const auto& a, const auto& b) { return a.second == b.second; };
-    EXPECT_EQ(std::adjacent_find(glyphs.begin(), glyphs.end(), areAlike), glyphs.end());
-}
-
-TEST_F(AllWindows, PaintAllThatTheyHave) {
-    LookAtAllWindows(ExpectPainted);
 }
 
 /// The main window with two camera files, of which no name tells the type.
@@ -172,20 +137,6 @@ TEST_F(Keyboard, DoesTheWholeJob) {
     EXPECT_EQ(memory.Text("/p/demo/txt_demo/SpeedCamText.txt"),
               "X,Y,TYPE,SPEED,DirType,Direction\r\n1.5,2.5,2,50,0,0\r\n3.5,4.5,5,70,0,0\r\n");
     EXPECT_NE(Form().ActiveControl(), nullptr) << "the focus is back in the main window";
-}
-
-TEST_F(Window, KeepsItsLayoutInAnyWriting) {
-    form.label.SetCaption("\u05E9\u05DC\u05D5\u05DD");
-    form.left.AddItem("\u05E9\u05DC\u05D5\u05DD");
-    form.left.AddItem("shalom");
-    desktop.Yield();
-    EXPECT_TRUE(Find<QLabel>("label").alignment().testFlag(Qt::AlignRight));
-    const auto alignment = [&](int row) {
-        const QAbstractItemModel& rows = *Find<QListView>("left").model();
-        return rows.index(row, 0).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    };
-    EXPECT_TRUE(alignment(0).testFlag(Qt::AlignLeft));
-    EXPECT_TRUE(alignment(1).testFlag(Qt::AlignRight));
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include "export/frmResults.h"
 #include "import/frmImport.h"
 #include "program_fixture.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 #include "ui/frmRename.h"
 #include "ui/language/cNamesClass.h"
 

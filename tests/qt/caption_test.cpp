@@ -40,27 +40,11 @@ TEST_F(Window, CaptionIsNarrowedBeforeItIsCut) {
         EXPECT_EQ(widget.font().stretch(), 85);
         EXPECT_TRUE(ShownText(*control).endsWith(u"i\u2026"));
         EXPECT_EQ(ToolTipOf(widget).toStdString(), caption);
-
-        control->SetToolTip("own");
-        desktop.Yield();
-        EXPECT_EQ(ToolTipOf(widget), "own");
-        control->SetToolTip("");
         control->SetCaption("i");
         desktop.Yield();
         EXPECT_EQ(widget.font().stretch(), 100);
         EXPECT_EQ(widget.toolTip(), "");
     }
-}
-
-TEST(FitCaptionTest, UsesAllLinesOfItsRoom) {
-    const QFont font = ToFont({});
-    const QString caption = "four words in two lines and then some more";
-    const FittedCaption twoLines = FitCaption(caption, font, {100, 26}, Qt::TextWordWrap);
-    EXPECT_TRUE(twoLines.text.startsWith("four words in two lines"));
-    EXPECT_TRUE(twoLines.text.endsWith(u"\u2026"));
-    const FittedCaption tooLow = FitCaption(caption, font, {100, 2}, Qt::TextWordWrap);
-    EXPECT_TRUE(tooLow.text.startsWith("four words")) << "the height of a line is always there";
-    EXPECT_EQ(FitCaption(caption, font, {1, 26}, Qt::TextSingleLine).text, u"\u2026");
 }
 
 /// What lies around the captions of each kind of control, estimated with care.

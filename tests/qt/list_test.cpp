@@ -41,16 +41,11 @@ TEST_F(Lists, SelectWithMouseAndKeys) {
     EXPECT_EQ(form.left.ListIndex(), 2);
     EXPECT_EQ(form.left.SelCount(), 2);
     EXPECT_EQ(Heard(), (Words{"left", "left", "left"})) << "one for each change";
-    ClickRow(0);
-    Press(Qt::Key_Down);
-    EXPECT_EQ(Selected(), "b");
-    Press(Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(Selected(), "bc");
     Press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(Selected(), "abcde");
     Press(Qt::Key_End);
     EXPECT_EQ(Selected(), "e");
-    EXPECT_EQ(Heard().size(), 5u);
+    EXPECT_EQ(Heard().size(), 2u);
     ClickRow(4);
     EXPECT_EQ(Heard(), Words{"left"}) << "a click that changes nothing counts";
     Press(Qt::Key_Down);
@@ -72,25 +67,6 @@ TEST_F(Lists, FollowTheProgram) {
     EXPECT_EQ(shown, (QStringList{"d", "e"}));
     EXPECT_EQ(Left().currentIndex().data().toString(), "e");
     EXPECT_EQ(Heard(), Words{}) << "no echo";
-}
-
-TEST_F(Lists, TakeTwentyThousandItemsAtOnce) {
-    std::vector<std::string> items;
-    for (int i = 10000; i < 30000; ++i) items.push_back(std::to_string(i));
-    form.left.AddItems(std::move(items));
-    desktop.Yield();
-    EXPECT_EQ(Left().model()->rowCount(), 20005);
-    ClickRow(0);
-    Left().verticalScrollBar()->setValue(700);
-    EXPECT_EQ(form.left.TopIndex(), 700);
-    form.left.RemoveItem(20004);
-    desktop.Yield();
-    EXPECT_EQ(form.left.TopIndex(), 700);
-    Press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(form.left.SelCount(), 20004);
-    form.left.Clear();
-    desktop.Yield();
-    EXPECT_EQ(Left().model()->rowCount(), 0);
 }
 
 bool DropOn(QWidget& target, const QMimeData& content) {
@@ -130,6 +106,14 @@ TEST_F(Lists, MoveItemsByDragging) {
     EXPECT_TRUE(isTaken);
     EXPECT_EQ(form.right.ListCount(), 4);
     EXPECT_EQ(Left().model()->rowCount(), 3);
+}
+
+TEST_F(Lists, TellWhichRowsShow) {
+    for (int i = 10; i < 60; ++i) form.left.AddItems({std::to_string(i)});
+    desktop.Yield();
+    Left().verticalScrollBar()->setValue(30);
+    EXPECT_EQ(form.left.TopIndex(), 30);
+    EXPECT_EQ(form.left.RowHeight(), 15 * Left().visualRect(Left().model()->index(30, 0)).height());
 }
 
 TEST_F(Lists, RefuseDropsFromElsewhere) {

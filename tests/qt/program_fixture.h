@@ -1,9 +1,8 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
+#include "platform/headless/fakes.h"
 #include "platform/headless/memory_files.h"
-#include "platform/headless/memory_settings.h"
-#include "platform/headless/services.h"
 #include "platform/posix/clock.h"
 #include "src/program.h"
 #include "window_fixture.h"
@@ -21,13 +20,13 @@ inline QWidget* ShownWindow(const char* name) {
 /// Does something in a window once it shows, which it must.
 class WhenShown {
 public:
-    WhenShown(const char* name, std::function<void(QWidget& window)> act) {
-        QObject::connect(&timer_, &QTimer::timeout, [this, name, act = std::move(act)] {
+    WhenShown(const char* name, std::function<void(QWidget& window)> action) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, name, action = std::move(action)] {
             QWidget* const window = ShownWindow(name);
             if (window == nullptr) return;
             timer_.stop();
             hasMet_ = true;
-            act(*window);
+            action(*window);
         });
         timer_.start(20);
     }
@@ -39,12 +38,13 @@ private:
 };
 
 /// The program in its real windows. The test starts it.
-class RealWindows : public testing::Test {
+class RealWindows : public testing::Test, protected headless::Fakes {
 protected:
     RealWindows(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles, std::string folder)
-        : programInfo(std::move(folder)),
-          program({fileSystem, hostFiles, programInfo, clock, settings, messages, fileDialogs, theme, locale},
-                  toolkit) {}
+        : Fakes(std::move(folder)),
+          program(
+              {fileSystem, hostFiles, programInfo, realClock, settings, messages, fileDialogs, theme, locale},
+              windows) {}
     ~RealWindows() override { program.MainForm().UserClose(); }
 
     frmMain& Form() { return program.MainForm(); }
@@ -61,14 +61,8 @@ protected:
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, CentreOfRow(view, row));
     }
 
-    headless::FixedProgramInfo programInfo;
-    posix::SystemClock clock;
-    headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
-    QtToolkit toolkit{locale};
+    posix::SystemClock realClock;
+    QtToolkit windows{locale};
     Program program;
 };
 

@@ -15,17 +15,15 @@ import time
 
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 SKIPPED = 77
-PATIENCE = 60  # seconds
+TIMEOUT = 60  # seconds
 
 # What has to be in the window, as (role, name).
 EXPECTED = [
     ("frame", "Halvenmoor 3.2"),
     ("list", "Speed Camera Files (Unclassified)"),
     ("list", 'Speed Camera Type "1" (Fixed Speed Camera)'),
-    ("list", 'Speed Camera Type "5" (Mobile Speed Camera)'),
     ("push button", "Classify Files"),
     ("push button", 'Speed Camera Files (Unclassified) → Speed Camera Type "3" (Red Light Camera)'),
-    ("push button", 'Speed Camera Type "1" (Fixed Speed Camera) → Speed Camera Files (Unclassified)'),
     ("check box", "Demonstration Mode"),
     ("radio button", "Replace File"),
     ("panel", "Export Cameras"),
@@ -58,7 +56,7 @@ def elements(element):
 
 def window_of(reader, process):
     """The program's window, once it is there."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + TIMEOUT
     while time.monotonic() < end and process.poll() is None:
         desktop = reader.get_desktop(0)
         for i in range(desktop.get_child_count()):

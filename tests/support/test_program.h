@@ -7,6 +7,8 @@
 #include "platform/headless/list_actions.h"
 #include "platform/headless/memory_files.h"
 #include "src/program.h"
+#include "tools/file_helpers.h"
+#include "tools/user_actions.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -15,6 +17,21 @@
 #include <vector>
 
 namespace halvenmoor {
+
+/// What each target begins with.
+inline const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
+/// What an imported camera file begins with, by SourceStructure.
+inline const std::string kComment = "; Generic Ascii file created by Halvenmoor.\r\n\r\n";
+inline const std::string kComment2 =
+    "; Generic Ascii file created by Halvenmoor. (Extended with DirType and Direction).\r\n\r\n";
+inline const std::string kComment3 =
+    "; Generic Ascii file created by Halvenmoor. (Extended with Direction and DirType).\r\n\r\n";
+
+inline std::string Repeated(std::string_view text, std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
 
 /// Typed text, as it stands in a file of the program.
 inline std::string Crlf(std::string_view text) {
@@ -35,8 +52,6 @@ inline std::string Crlf(std::string_view text) {
 ///
 /// The store of options is empty, so the program starts in demonstration mode unless the test says otherwise.
 struct TestProgram : headless::Fakes {
-    using Names = std::vector<std::string>;
-
     /// The folders as installed and a Settings.ini without any pattern; no camera files and no languages.
     TestProgram() {
         for (const char* folder :
@@ -93,36 +108,31 @@ struct TestProgram : headless::Fakes {
     modExport& Exports() { return program.Exports(); }
     /// TypeList(1) to TypeList(5); 0 is MainList.
     forms::ListBox& List(int number) { return number == 0 ? Window().MainList : Window().TypeList[number]; }
-    Names Items(int number) { return headless::ItemsOf(List(number)); }
+    Strings Items(int number) { return headless::ItemsOf(List(number)); }
 
     template <class Button>
     void Click(Button& button) {
         EXPECT_TRUE(button.UserPress()) << button.Name();
     }
-    void Select(int number, const Names& names) {
+    void Select(int number, const Strings& names) {
         EXPECT_TRUE(headless::Select(List(number), names)) << "list " << number;
     }
-    void Select(forms::ComboBox& combo, const std::string& text) {
-        int index = 0;
-        while (index < combo.ListCount() && combo.List(index) != text) ++index;
-        EXPECT_TRUE(combo.UserChoose(index)) << text;
-    }
     /// Drags entries of one list to another.
-    void Drag(int from, int to, const Names& names) {
+    void Drag(int from, int to, const Strings& names) {
         Select(from, names);
         EXPECT_TRUE(headless::Drag(List(from), List(to))) << from << " to " << to;
     }
     /// Gives unclassified entries a type.
-    void Move(int type, const Names& names) { Drag(0, type, names); }
+    void Move(int type, const Strings& names) { Drag(0, type, names); }
 
-    /// Clicks a button. If a dialog shows up, hands it to act and closes it by Escape should it still be
+    /// Clicks a button. If a dialog shows up, hands it to action and closes it by Escape should it still be
     /// open. True when it showed up.
     template <class Dialog>
-    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& act) {
+    bool Open(forms::CommandButton& button, const std::function<void(Dialog&)>& action) {
         bool shown = false;
         toolkit.Script([&](forms::Form& form) {
             shown = true;
-            if (act) act(static_cast<Dialog&>(form));
+            if (action) action(static_cast<Dialog&>(form));
             form.UserEscape();
         });
         Click(button);
@@ -146,6 +156,54 @@ struct TestProgram : headless::Fakes {
     Program program{With(files, files), toolkit};
     modMain& core = program.Core();
     forms::Desktop& desktop = program.Desktop();
+};
+
+/// A point record of an OV2 file: 1.5, 52.5, "n".
+inline const std::string kPoint("\2\xf\0\0\0\xf0\x49\2\0\xd0\x1b\x50\0n\0", 15);
+
+/// The whole program in memory, running in normal mode, with imports from the folders of sources.
+struct ImportProgram : TestProgram {
+    static constexpr int kOv2 = 1;
+    static constexpr int kTxt = 2;
+
+    explicit ImportProgram(std::string_view iniFile = "[Settings]\nSourceStructure=1\n") {
+        SetOption("DemoMode", "0");
+        SetSettings(iniFile);
+        Start();
+    }
+
+    void AddOv2(const std::string& name, std::string_view bytes) {
+        memory.Put("/p/import/ov2/" + name + ".ov2", bytes);
+    }
+    void AddTxt(const std::string& name, std::string_view bytes) {
+        memory.Put("/p/import/txt/" + name + ".txt", bytes);
+    }
+    std::string Camera(const std::string& entry) { return Text("/p/asc/" + entry + ".asc"); }
+    /// The names of the files in the camera folder.
+    Strings CameraFolder() { return memory.CreateFileSystemObject()->GetFolder("/p/asc")->Files(); }
+
+    /// Opens the import dialog, as above.
+    void Open(const std::function<void(frmImport&)>& action) {
+        EXPECT_TRUE(TestProgram::Open(Window().ButtonImportFiles, action));
+    }
+    /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
+    std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {
+        bool looked = false;
+        const std::string picture = UserImports(*this, Window(), source, [&](frmImport& dialog) {
+            looked = true;
+            ExpectDone(dialog);
+            if (look) look(dialog);
+        });
+        EXPECT_TRUE(looked) << "the dialog did not open or closed by itself";
+        return picture;
+    }
+
+    static void ExpectDone(const frmImport& dialog) {
+        EXPECT_TRUE(dialog.IsOpen() && !dialog.Busy());
+        EXPECT_FALSE(dialog.ButtonStart.Enabled() || dialog.ButtonCancel.Enabled());
+        EXPECT_TRUE(dialog.ButtonFinish.HasFocus());
+        EXPECT_EQ(dialog.CancelButton(), &dialog.ButtonFinish);
+    }
 };
 
 }  // namespace halvenmoor

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/path_finder.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -61,6 +65,14 @@ public:
 
 private:
     std::string path_;
+};
+
+/// The real disk, with a folder on it.
+struct FilesOnDisk {
+    TemporaryFolder folder;
+    posix::PathFinder finder{text::WindowsCodePage(1252)};
+    posix::DiskFileSystem fileSystem{finder};
+    posix::DiskHostFiles hostFiles{finder};
 };
 
 }  // namespace halvenmoor

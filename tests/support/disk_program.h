@@ -1,27 +1,13 @@
 #pragma once
 
-#include "import_program.h"
-#include "journeys.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/path_finder.h"
-#include "temporary_folder.h"
+#include "tests/support/journeys.h"
+#include "tests/support/temporary_folder.h"
 
 #include <filesystem>
-#include <numeric>
 #include <string>
 #include <unistd.h>
 
 namespace halvenmoor {
-
-const std::string kHeader = "X,Y,TYPE,SPEED,DirType,Direction\r\n";
-const std::string kComment = "; Generic Ascii file created by Halvenmoor.\r\n\r\n";
-
-inline std::string Repeated(const std::string& text, std::size_t count) {
-    std::string all;
-    for (std::size_t i = 0; i < count; ++i) all += text;
-    return all;
-}
 
 /// A small program folder as at first, and nothing else.
 inline void InstallFiles(const TemporaryFolder& folder) {
@@ -70,10 +56,6 @@ struct DiskProgram : headless::Fakes {
     std::string Import(int source) { return UserImports(*this, Window(), source, ImportProgram::ExpectDone); }
     void Rename(const std::string& entry, const std::string& newName) {
         UserRenames(*this, Window(), entry, newName);
-    }
-    int Exported() {
-        const auto& counters = program.Exports().CamerasExported;
-        return std::accumulate(counters.begin(), counters.end(), 0);
     }
 
     posix::PathFinder finder{locale.CodePage()};
