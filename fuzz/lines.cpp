@@ -16,8 +16,9 @@ namespace {
 
 Strings ReadInOnePiece(std::string_view bytes) {
     posix::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
-    Require(file.Write(bytes) == 0 && lseek(file.Get(), 0, SEEK_SET) == 0, "there is memory for the text");
-    posix::DiskTextReader reader(std::move(file));
+    Require(file.Write(bytes).error == 0 && lseek(file.Get(), 0, SEEK_SET) == 0,
+            "there is memory for the text");
+    posix::DiskTextReader reader(std::move(file), bytes.size());
     return ReadLines(reader);
 }
 
@@ -29,9 +30,9 @@ Strings ReadByteByByte(std::string_view bytes) {
     Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
     const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
     posix::FileDescriptor out(ends[1]);
-    posix::DiskTextReader reader{posix::FileDescriptor(ends[0])};
+    posix::DiskTextReader reader(posix::FileDescriptor(ends[0]), bytes.size());
     Require(capacity >= 1 << 20, "the pipe holds it");
-    for (const char byte : bytes) Require(out.Write({&byte, 1}) == 0, "a byte fits into the pipe");
+    for (const char byte : bytes) Require(out.Write({&byte, 1}).error == 0, "a byte fits into the pipe");
     out.Close();
     return ReadLines(reader);
 }

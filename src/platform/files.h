@@ -29,8 +29,8 @@ public:
     virtual void Close() = 0;
 };
 
-/// A text file being written. Without Close, what was written still reaches the file, but a failure then
-/// goes unseen.
+/// A text file being written. It holds whole lines at any time, also after a failure. Without Close, what was
+/// written still reaches the file, but a failure then goes unseen.
 class TextWriter {
 public:
     virtual ~TextWriter() = default;
@@ -38,6 +38,9 @@ public:
     /// Writes the parts of a line one behind the other, then CR LF.
     virtual void WriteLine(std::initializer_list<std::string_view> parts) = 0;
     void WriteLine(std::string_view text) { WriteLine({text}); }
+    /// Brings the lines to the medium, so that a power cut does not take them, and the entry of a new file
+    /// too. May take seconds.
+    virtual void Sync() = 0;
     virtual void Close() = 0;
 };
 
@@ -53,6 +56,8 @@ public:
     virtual void Delete(std::string_view name) = 0;
     /// A new or emptied file.
     virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view name) = 0;
+    /// Brings all its files to the medium, as TextWriter::Sync does for one. May take seconds.
+    virtual void Sync() const = 0;
 };
 
 /// The file-system object. Each routine that needs one makes its own.

@@ -32,6 +32,7 @@ public:
     void WriteLine(std::initializer_list<std::string_view> parts) override {
         counter_.Counted(*writer_).WriteLine(parts);
     }
+    void Sync() override { counter_.Counted(*writer_).Sync(); }
     void Close() override { counter_.Counted(*writer_).Close(); }
 
 private:
@@ -62,6 +63,7 @@ public:
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
         return std::make_unique<FailingWriter>(counter_, counter_.Counted(*folder_).CreateTextFile(name));
     }
+    void Sync() const override { counter_.Counted(*folder_).Sync(); }
 
 private:
     CallCounter& counter_;

@@ -81,6 +81,8 @@ public:
         bytes_->append("\r\n");
     }
 
+    void Sync() override {}
+
     void Close() override { bytes_ = nullptr; }
 
 private:
@@ -125,6 +127,8 @@ public:
         files_.Record("create", Join(path_, name));
         return files_.Create(PathOf(name));
     }
+
+    void Sync() const override {}
 
 private:
     std::string PathOf(std::string_view name) const {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <string>
 #include <unistd.h>
 #include <utility>
@@ -37,6 +38,8 @@ public:
         return std::make_unique<DiskTextWriter>(OpenForWriting(folder_, OwnName(name)));
     }
 
+    void Sync() const override { folder_.SyncFileSystem(); }
+
 private:
     /// The name, which must not lead out of the folder.
     static std::string OwnName(std::string_view name) {
@@ -60,19 +63,25 @@ public:
     }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
-        return std::make_unique<DiskTextWriter>(
-            OpenForWriting(finder_.FindForWriting(path), WriteMode::Replace));
+        return Writer(finder_.FindForWriting(path), WriteMode::Replace);
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
-        return std::make_unique<DiskTextReader>(OpenForReading(finder_.Find(path)));
+        FileDescriptor file = OpenForReading(finder_.Find(path));
+        const std::uint64_t size = file.Size();
+        return std::make_unique<DiskTextReader>(std::move(file), size);
     }
 
     std::unique_ptr<platform::TextWriter> OpenForAppending(std::string_view path) override {
-        return std::make_unique<DiskTextWriter>(OpenForWriting(finder_.Find(path), WriteMode::Append));
+        return Writer(finder_.Find(path), WriteMode::Append);
     }
 
 private:
+    static std::unique_ptr<platform::TextWriter> Writer(std::string path, WriteMode mode) {
+        FileDescriptor file = OpenForWriting(path, mode);
+        return std::make_unique<DiskTextWriter>(std::move(file), std::move(path));
+    }
+
     PathFinder& finder_;
 };
 

@@ -12,22 +12,27 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-InputBuffer::InputBuffer(FileDescriptor file)
+InputBuffer::InputBuffer(FileDescriptor file, std::uint64_t size)
     : file_(std::move(file)),
       capacity_(kBufferSize),
-      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {
+      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)),
+      unreadSize_(size),
+      mustBeEmpty_(size == 0) {
 }
 
 bool InputBuffer::Fill() {
-    if (isAtEnd_) return false;
-    MakeRoom();
-    const std::size_t count = file_.Read({buffer_.get() + end_, capacity_ - end_});
+    if (unreadSize_ == 0 && !mustBeEmpty_) return false;
+    MakeSpace();
+    const std::size_t wanted = mustBeEmpty_ ? 1 : std::min<std::uint64_t>(capacity_ - end_, unreadSize_);
+    const std::size_t count = file_.Read({buffer_.get() + end_, wanted});
+    if ((count == 0) != mustBeEmpty_) throw SystemFailure(EIO);
+    mustBeEmpty_ = false;
+    unreadSize_ -= count;
     end_ += count;
-    isAtEnd_ = count == 0;
-    return !isAtEnd_;
+    return count != 0;
 }
 
-void InputBuffer::MakeRoom() {
+void InputBuffer::MakeSpace() {
     const std::string_view unread = Unread();
     if (unread.size() < capacity_) {
         std::copy(unread.begin(), unread.end(), buffer_.get());
@@ -44,7 +49,7 @@ void InputBuffer::MakeRoom() {
 void InputBuffer::Close() {
     file_.Close();
     begin_ = end_;
-    isAtEnd_ = false;
+    unreadSize_ = 1;
 }
 
 bool DiskTextReader::AtEndOfStream() {
@@ -87,20 +92,43 @@ std::size_t DiskByteReader::Read(std::span<char> buffer) {
         input_.Take(count);
         done += count;
     }
-    const bool hasEnded = done < buffer.size();
-    remaining_ = hasEnded ? 0 : remaining_ - std::min<std::uint64_t>(done, remaining_);
     return done;
 }
 
-DiskTextWriter::DiskTextWriter(FileDescriptor file)
-    : file_(std::move(file)), buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {
+DiskTextWriter::DiskTextWriter(FileDescriptor file, std::string path)
+    : file_(std::move(file)),
+      path_(std::move(path)),
+      wholeSize_(file_.Size()),
+      buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)) {
 }
 
 void DiskTextWriter::WriteLine(std::initializer_list<std::string_view> parts) {
+    constexpr std::string_view kLineEnd = "\r\n";
     ThrowIfFailed();
     if (!file_.IsOpen()) throw SystemFailure(EBADF);
-    for (const std::string_view part : parts) Append(part);
-    Append("\r\n");
+    std::size_t lineSize = kLineEnd.size();
+    for (const std::string_view part : parts) lineSize += part.size();
+    if (lineSize > capacity_ - size_) Reserve(lineSize);
+    char* end = buffer_.get() + size_;
+    for (const std::string_view part : parts) end += part.copy(end, part.size());
+    kLineEnd.copy(end, kLineEnd.size());
+    size_ += lineSize;
+}
+
+/// Empties the buffer, and makes it larger if the line is longer.
+void DiskTextWriter::Reserve(std::size_t lineSize) {
+    Flush();
+    ThrowIfFailed();
+    if (lineSize <= capacity_) return;
+    buffer_ = std::make_unique_for_overwrite<char[]>(lineSize);
+    capacity_ = lineSize;
+}
+
+void DiskTextWriter::Sync() {
+    Flush();
+    ThrowIfFailed();
+    file_.Sync();
+    SyncEntry(path_);
 }
 
 void DiskTextWriter::Close() {
@@ -110,20 +138,14 @@ void DiskTextWriter::Close() {
     ThrowIfFailed();
 }
 
-void DiskTextWriter::AppendPiecewise(std::string_view bytes) {
-    while (bytes.size() > Free()) {
-        const std::size_t free = Free();
-        Append(bytes.substr(0, free));
-        bytes.remove_prefix(free);
-        Flush();
-        ThrowIfFailed();
-    }
-    Append(bytes);
-}
-
 void DiskTextWriter::Flush() noexcept {
-    if (error_ == 0) error_ = file_.Write({buffer_.get(), size_});
-    size_ = 0;
+    if (error_ != 0 || size_ == 0) return;
+    const std::string_view lines(buffer_.get(), std::exchange(size_, 0));
+    const auto [count, error] = file_.Write(lines);
+    error_ = error;
+    // Half a line would become one line with the first that somebody appends.
+    wholeSize_ += lines.substr(0, count).rfind('\n') + 1;
+    if (error != 0) file_.CutTo(wholeSize_);
 }
 
 }  // namespace halvenmoor::posix

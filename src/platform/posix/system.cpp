@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <iterator>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -50,13 +51,30 @@ FileDescriptor Open(int base, const std::string& path, int flags, int errorWhenM
     return file;
 }
 
-FileDescriptor OpenForWriting(int base, const std::string& path, WriteMode mode) {
-    FileDescriptor file = mode == WriteMode::Replace ? Open(base, path, O_WRONLY | O_CREAT | O_TRUNC, ENOTDIR)
-                                                     : Open(base, path, O_WRONLY | O_APPEND);
-    // Only the opening must not wait. From here on a write that would have to is no failure.
-    const int flags = ::fcntl(file.Get(), F_GETFL);
-    if (flags < 0 || ::fcntl(file.Get(), F_SETFL, flags & ~O_NONBLOCK) < 0) throw SystemFailure(errno);
+FileDescriptor OpenRegular(int base, const std::string& path, int flags, int errorWhenMissing) {
+    FileDescriptor file = Open(base, path, flags, errorWhenMissing);
+    struct stat info {};
+    if (::fstat(file.Get(), &info) != 0) throw SystemFailure(errno);
+    if (S_ISDIR(info.st_mode)) throw SystemFailure(EISDIR);
+    if (!S_ISREG(info.st_mode)) throw SystemFailure(ENODEV);
     return file;
+}
+
+FileDescriptor OpenForWriting(int base, const std::string& path, WriteMode mode) {
+    const bool isReplaced = mode == WriteMode::Replace;
+    FileDescriptor file = isReplaced ? OpenRegular(base, path, O_WRONLY | O_CREAT, ENOTDIR)
+                                     : OpenRegular(base, path, O_WRONLY | O_APPEND, ENOENT);
+    const bool isTaken = ::flock(file.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (isTaken) throw SystemFailure(EACCES);
+    if (isReplaced && Uninterrupted([&] { return ::ftruncate(file.Get(), 0); }) != 0)
+        throw SystemFailure(errno);
+    return file;
+}
+
+/// A file system that has no such call is no failure.
+void ThrowIfNotSynced(int result) {
+    const bool isSupported = errno != EINVAL && errno != ENOTSUP && errno != ENOSYS;
+    if (result != 0 && isSupported) throw SystemFailure(errno);
 }
 
 }  // namespace
@@ -101,22 +119,33 @@ std::size_t FileDescriptor::Read(std::span<char> buffer) const {
     return static_cast<std::size_t>(count);
 }
 
-int FileDescriptor::Write(std::string_view bytes) const noexcept {
-    while (!bytes.empty()) {
-        const auto count = Uninterrupted([&] { return ::write(descriptor_, bytes.data(), bytes.size()); });
-        if (count < 0) return errno;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
+FileDescriptor::Written FileDescriptor::Write(std::string_view bytes) const noexcept {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const std::string_view rest = bytes.substr(done);
+        const auto count = Uninterrupted([&] { return ::write(descriptor_, rest.data(), rest.size()); });
+        if (count <= 0) return {done, count < 0 ? errno : EIO};
+        done += static_cast<std::size_t>(count);
     }
-    return 0;
+    return {done, 0};
+}
+
+void FileDescriptor::CutTo(std::uint64_t size) const noexcept {
+    struct stat info {};
+    if (::fstat(descriptor_, &info) != 0 || info.st_size <= static_cast<off_t>(size)) return;
+    static_cast<void>(Uninterrupted([&] { return ::ftruncate(descriptor_, static_cast<off_t>(size)); }));
+}
+
+void FileDescriptor::Sync() const {
+    ThrowIfNotSynced(Uninterrupted([&] { return ::fsync(descriptor_); }));
+}
+
+void FileDescriptor::SyncFileSystem() const {
+    ThrowIfNotSynced(Uninterrupted([&] { return ::syncfs(descriptor_); }));
 }
 
 FileDescriptor OpenForReading(const std::string& path) {
-    FileDescriptor file = Open(AT_FDCWD, path, O_RDONLY);
-    struct stat info {};
-    if (::fstat(file.Get(), &info) != 0) throw SystemFailure(errno);
-    if (S_ISDIR(info.st_mode)) throw SystemFailure(EISDIR);
-    if (!S_ISREG(info.st_mode)) throw SystemFailure(ENODEV);
-    return file;
+    return OpenRegular(AT_FDCWD, path, O_RDONLY, ENOENT);
 }
 
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode) {
@@ -125,6 +154,11 @@ FileDescriptor OpenForWriting(const std::string& path, WriteMode mode) {
 
 FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name) {
     return OpenForWriting(folder.Get(), name, WriteMode::Replace);
+}
+
+void SyncEntry(const std::string& path) {
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    if (::access(SystemPath(folder), R_OK) == 0) OpenFolder(folder).Sync();
 }
 
 FileDescriptor OpenFolder(const std::string& path) {

@@ -50,22 +50,40 @@ public:
     std::uint64_t Size() const;
     /// Returns how many bytes came, 0 at the end of the file. Throws Failure.
     std::size_t Read(std::span<char> buffer) const;
-    /// Writes all the bytes. Returns the error number, 0 for success.
-    int Write(std::string_view bytes) const noexcept;
+    struct Written {
+        std::size_t count;
+        int error;
+    };
+    /// Writes all the bytes. Returns how many were written, and the error number if they are not all.
+    Written Write(std::string_view bytes) const noexcept;
+    /// Cuts the file off behind so many bytes; a shorter one stays. Failures are ignored.
+    void CutTo(std::uint64_t size) const noexcept;
+    /// Returns when the file is on the medium, or at once where the file system knows no such call. Throws
+    /// Failure.
+    void Sync() const;
+    /// The same for all files of the file system that this file or folder is on.
+    void SyncFileSystem() const;
 
 private:
     int descriptor_;
 };
 
-/// Opens a regular file. Never waits: anything else is refused. Throws Failure.
+// Only regular files are opened, links to them too. To open anything else fails at once, without waiting.
+
+/// Throws Failure.
 FileDescriptor OpenForReading(const std::string& path);
 
 enum class WriteMode { Replace, Append };
 
-/// Replace makes or empties the file, Append needs one. Never waits for a reader. Throws Failure.
+/// Replace makes or empties the file, Append needs one. The file is locked before it is changed, where its
+/// file system has locks; one that is locked already is refused. Throws Failure.
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
 /// The same in an open folder, in the mode Replace.
 FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name);
+
+/// Brings the entry of a file in its folder to the medium. A folder that may not be listed is passed over.
+/// Throws Failure.
+void SyncEntry(const std::string& path);
 
 /// Opens a folder, also through a link. Throws Failure.
 FileDescriptor OpenFolder(const std::string& path);
