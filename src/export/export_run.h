@@ -25,6 +25,8 @@ public:
 
     /// Exports the records of one file.
     void Run(const ExportFile& file);
+    /// Brings the target to the medium; may take seconds. May run beside the thread of the windows.
+    void Sync() { target_->Sync(); }
     void Finish() { target_->Close(); }
 
 private:

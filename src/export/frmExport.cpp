@@ -89,6 +89,7 @@ bool frmExport::RunExport(std::string_view targetFile) {
             run.Run(source);
         }
         file = targetFile;
+        core_.Desktop().Wait([&run] { run.Sync(); });
         run.Finish();
         return true;
     } catch (const std::exception&) {
@@ -129,6 +130,7 @@ void frmExport::WriteResultsFile() const {
         const ResultsReport report(exports_);
         const auto file = services.fileSystem.CreateFileSystemObject()->CreateTextFile(core_.ResultsFile());
         report.Write([&](const std::string& line) { file->WriteLine(services.locale.ToFileText(line)); });
+        core_.Desktop().Wait([&file] { file->Sync(); });
         file->Close();
     } catch (const std::exception&) {
         TraceFailure("write the results file");

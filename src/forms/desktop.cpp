@@ -68,6 +68,11 @@ void Desktop::YieldIfDue() {
     if (YieldIsDue()) Yield();
 }
 
+void Desktop::Wait(const std::function<void()>& work) {
+    Refresh();
+    toolkit_.Wait(work);
+}
+
 bool Desktop::Accepts(const Form& form) const {
     return !open_.empty() && open_.back() == &form;
 }

@@ -34,6 +34,9 @@ public:
     /// The same, but only when a yield is due: for loops that offer one at each of a million steps.
     void YieldIfDue();
     bool YieldIsDue() const { return toolkit_.YieldIsDue(); }
+    /// Does work that may wait long for a device, such as a disk, while the windows stay painted. The work
+    /// touches no form. Throws what it throws.
+    void Wait(const std::function<void()>& work);
 
     /// Runs an event of a form, then brings the views up to date. A failure that the event does not catch
     /// ends it silently. False, and nothing runs, when the form is not the topmost one.

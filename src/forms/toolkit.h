@@ -45,6 +45,9 @@ public:
     virtual void HandleEvents(double waitSeconds) = 0;
     /// Whether so much time has passed since HandleEvents that the user would notice another call.
     virtual bool YieldIsDue() const { return true; }
+    /// Returns when the work is done, and handles events meanwhile if it can: for work that waits for a
+    /// device and touches no form. Throws what the work throws.
+    virtual void Wait(const std::function<void()>& work) { work(); }
 };
 
 }  // namespace halvenmoor::forms

@@ -127,11 +127,18 @@ bool frmImport::ConvertSources() {
                           core_.ClassificationSettings->SourceStructure()};
     try {
         const bool isSound = sourceOption_ == kOv2 ? ConvertOv2(task) : ConvertTxt(task);
+        SyncTarget();
         return isSound && !StopRequested();
     } catch (const std::exception&) {
         TraceFailure("convert the sources", task.sourceFolder);
         return false;
     }
+}
+
+/// Brings the camera files to the medium, before success is told.
+void frmImport::SyncTarget() const {
+    const auto folder = core_.Services().fileSystem.CreateFileSystemObject()->GetFolder(TargetFolder());
+    Owner().Wait([&folder] { folder->Sync(); });
 }
 
 bool frmImport::ConvertOv2(const ImportTask& task) {

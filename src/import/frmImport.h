@@ -39,6 +39,7 @@ private:
     void StartImport();
     void RunImport();
     bool ConvertSources();
+    void SyncTarget() const;
     bool ConvertOv2(const ImportTask& task);
     bool ConvertTxt(const ImportTask& task);
     bool DeleteAllFiles(const std::string& folder) const;

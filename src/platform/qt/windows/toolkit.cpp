@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QScopeGuard>
 #include <QSessionManager>
 #include <QTimer>
+#include <future>
 
 namespace halvenmoor::qt {
 
@@ -55,6 +57,17 @@ void QtToolkit::HandleEvents(double waitSeconds) {
 
 bool QtToolkit::YieldIsDue() const {
     return !sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval);
+}
+
+void QtToolkit::Wait(const std::function<void()>& work) {
+    QEventLoop loop;
+    std::future<void> done = std::async(std::launch::async, [&] {
+        const auto quit =
+            qScopeGuard([&] { QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection); });
+        work();
+    });
+    loop.exec();
+    done.get();
 }
 
 void QtToolkit::Pump(double waitSeconds) {

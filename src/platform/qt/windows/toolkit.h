@@ -23,6 +23,7 @@ public:
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
     bool YieldIsDue() const override;
+    void Wait(const std::function<void()>& work) override;
 
     /// The main loop; returns when the desktop has ended.
     void Run(forms::Desktop& desktop);
