@@ -128,7 +128,7 @@ void DiskTextWriter::Sync() {
     Flush();
     ThrowIfFailed();
     file_.Sync();
-    SyncEntry(path_);
+    if (!path_.empty()) SyncEntry(path_);
 }
 
 void DiskTextWriter::Close() {
