@@ -7,6 +7,7 @@
 #include "ui/group_text_color.h"
 #include "ui/language/cNamesClass.h"
 
+#include <algorithm>
 #include <array>
 #include <exception>
 
@@ -157,10 +158,25 @@ bool frmImport::ConvertTxt(const ImportTask& task) {
     return import.BadLines() == 0;
 }
 
+/// Whether the camera folder is really one that must not be emptied: as a link it may lead anywhere.
+bool frmImport::IsNeeded(platform::FileSystemObject& files, const std::string& path) const {
+    const char separator = core_.Services().programInfo.Separator();
+    std::vector<std::string> needed{Folder({"import", "ov2"}), Folder({"import", "txt"}), Folder({"txt"}),
+                                    Folder({"demo"}), core_.LanguageFolder()};
+    for (std::string folder = core_.Services().programInfo.ProgramFolder(); !folder.empty();) {
+        needed.push_back(folder + separator);
+        const std::size_t end = folder.rfind(separator);
+        folder.resize(end == std::string::npos ? 0 : end);
+    }
+    needed.push_back(std::string(1, separator));
+    return std::any_of(needed.begin(), needed.end(),
+                       [&](const std::string& folder) { return files.IsSameFolder(path, folder); });
+}
+
 bool frmImport::DeleteAllFiles(const std::string& path) const {
     try {
         const auto files = core_.Services().fileSystem.CreateFileSystemObject();
-        if (!files->FolderExists(path)) return false;
+        if (!files->FolderExists(path) || IsNeeded(*files, path)) return false;
         const auto folder = files->GetFolder(path);
         for (const std::string& name : folder->Files()) {
             try {
@@ -183,7 +199,7 @@ std::int32_t frmImport::CountFiles(const std::string& path, std::string_view ext
         if (!files->FolderExists(path)) return 0;
         std::int32_t count = 0;
         for (const std::string& name : files->GetFolder(path)->Files()) {
-            if (text::EndsWithIgnoringAsciiCase(name, extension)) ++count;
+            if (!IsHidden(name) && text::EndsWithIgnoringAsciiCase(name, extension)) ++count;
         }
         return count;
     } catch (const std::exception&) {

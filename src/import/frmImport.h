@@ -42,6 +42,7 @@ private:
     void SyncTarget() const;
     bool ConvertOv2(const ImportTask& task);
     bool ConvertTxt(const ImportTask& task);
+    bool IsNeeded(platform::FileSystemObject& files, const std::string& path) const;
     bool DeleteAllFiles(const std::string& folder) const;
     std::int32_t CountFiles(const std::string& folder, std::string_view extension) const;
     void UpdateDisplay(Display display);

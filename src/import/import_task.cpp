@@ -19,10 +19,16 @@ std::string_view LayoutRemark(int sourceStructure) {
 
 }  // namespace
 
+bool IsHidden(std::string_view name) {
+    return name.starts_with('.');
+}
+
 std::vector<std::string> SourceFiles(const ImportTask& task) {
     const auto files = task.services.fileSystem.CreateFileSystemObject();
     if (!files->FolderExists(task.sourceFolder) || !files->FolderExists(task.targetFolder)) return {};
-    return files->GetFolder(task.sourceFolder)->Files();
+    std::vector<std::string> names = files->GetFolder(task.sourceFolder)->Files();
+    std::erase_if(names, IsHidden);
+    return names;
 }
 
 void WriteCameraFileHeader(platform::TextWriter& file, int sourceStructure) {

@@ -34,8 +34,11 @@ struct ImportTask {
     int sourceStructure;
 };
 
-/// The names of all files of the source folder, in their order; none when source or target folder is missing.
-/// Throws Failure when a folder cannot be read.
+/// Whether the name is that of a hidden file. Those are neither imported nor counted.
+bool IsHidden(std::string_view name);
+
+/// The names of all files of the source folder but the hidden ones, in their order; none when source or
+/// target folder is missing. Throws Failure when a folder cannot be read.
 std::vector<std::string> SourceFiles(const ImportTask& task);
 
 /// Begins a new camera file with its two header lines. The layout shows in the comment, for people only.

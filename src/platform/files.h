@@ -67,6 +67,8 @@ public:
 
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool FolderExists(std::string_view path) = 0;
+    /// Whether both paths lead to one folder; links are followed.
+    virtual bool IsSameFolder(std::string_view a, std::string_view b) = 0;
     virtual std::unique_ptr<Folder> GetFolder(std::string_view path) = 0;
     /// A new or emptied file.
     virtual std::unique_ptr<TextWriter> CreateTextFile(std::string_view path) = 0;

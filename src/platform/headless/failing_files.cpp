@@ -77,6 +77,7 @@ public:
 
     bool FileExists(std::string_view path) override { return Object().FileExists(path); }
     bool FolderExists(std::string_view path) override { return Object().FolderExists(path); }
+    bool IsSameFolder(std::string_view a, std::string_view b) override { return Object().IsSameFolder(a, b); }
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<FailingFolder>(counter_, Object().GetFolder(path));

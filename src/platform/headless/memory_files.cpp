@@ -148,6 +148,10 @@ public:
 
     bool FolderExists(std::string_view path) override { return files_.IsFolder(files_.Find(path)); }
 
+    bool IsSameFolder(std::string_view a, std::string_view b) override {
+        return FolderExists(a) && files_.Find(a) == files_.Find(b);
+    }
+
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<FilesOfFolder>(files_, files_.RequireFolder(path));
     }

@@ -58,6 +58,10 @@ public:
 
     bool FolderExists(std::string_view path) override { return KindOf(finder_.Find(path)) == Kind::Folder; }
 
+    bool IsSameFolder(std::string_view a, std::string_view b) override {
+        return posix::IsSameFolder(finder_.Find(a), finder_.Find(b));
+    }
+
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
         return std::make_unique<DiskFolder>(OpenFolder(finder_.Find(path)));
     }

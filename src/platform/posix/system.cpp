@@ -101,6 +101,13 @@ Kind KindOf(const std::string& path) {
     return ::stat(SystemPath(path), &info) == 0 ? KindOf(info.st_mode) : Kind::Nothing;
 }
 
+bool IsSameFolder(const std::string& a, const std::string& b) {
+    struct stat infoA {};
+    struct stat infoB {};
+    if (::stat(SystemPath(a), &infoA) != 0 || ::stat(SystemPath(b), &infoB) != 0) return false;
+    return S_ISDIR(infoA.st_mode) && infoA.st_dev == infoB.st_dev && infoA.st_ino == infoB.st_ino;
+}
+
 int FileDescriptor::Close() noexcept {
     if (!IsOpen()) return 0;
     // An interrupted close has closed the file all the same.

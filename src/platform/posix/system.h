@@ -31,6 +31,9 @@ Kind KindOf(mode_t mode);
 /// What the path leads to, through links.
 Kind KindOf(const std::string& path);
 
+/// Whether both paths lead to one folder; links are followed.
+bool IsSameFolder(const std::string& a, const std::string& b);
+
 /// An open file or folder.
 class FileDescriptor {
 public:
