@@ -1,6 +1,7 @@
-"""Measures CPU time (user and system) of exports, imports and the lists, and prints one table.
+"""Measures CPU time (user and system) of exports, imports and the lists, and prints one table. What a medium costs is
+measured by the clock.
 
-The program is driven by the command-line tool `journey`. All rows come from one run with interleaved rounds, since
+The program is driven through its command-line tool `journey`. All rows come from one run with interleaved rounds, since
 only ratios of the same minute mean anything. Every output is compared byte by byte with that of the baselines: a
 difference ends the run with status 1. A missed target does not, it is shown.
 """
@@ -10,13 +11,15 @@ import os
 import statistics
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 from bench_import import ImportBench
 from generate import program_set
-from measuring import HERE, ROOT, WORK, fail, fresh, measure, play
+from measuring import HERE, MEMORY, ROOT, WORK, fail, fresh, measure, play, wall
 
 EXPORT = "demo off\nsave-results off\nclassify\nexport replace\nresults\n"
+SAVE_AS = "demo off\nsave-results off\nclassify\nexport save-as {}\n"
 LISTS = "demo off\n" + "classify\nreload\n" * 5
 
 
@@ -73,6 +76,21 @@ class ExportBench:
     def journey_steps(self, name, set_name, steps):
         self.note(name, play(self.journey, self.sets[set_name] / "program", steps)[0])
 
+    def medium(self):
+        """What it costs to bring a target to the disk; in memory there is nothing to bring."""
+        folder, on_disk = self.sets["main"] / "program", fresh(WORK / "on-disk.txt")
+        with tempfile.TemporaryDirectory(dir=MEMORY) as memory:
+            in_memory = Path(memory) / "target.txt"
+            without = wall([self.journey, str(folder)], SAVE_AS.format(in_memory))
+            with_medium = wall([self.journey, str(folder)], SAVE_AS.format(on_disk))
+            if subprocess.run(["cmp", in_memory, on_disk]).returncode != 0:
+                fail("the targets on disk and in memory differ")
+            self.note("medium dd", wall(["dd", f"if={in_memory}", f"of={fresh(WORK / 'dd.txt')}", "bs=64K",
+                                         "conv=fsync", "status=none"]))
+        self.note("medium with", with_medium)
+        self.note("medium without", without)
+        self.note("medium cost", with_medium - without)
+
     def batches(self):
         """Moves in batches are measured by an executable of their own, which prints lines NAME N CPU_SECONDS."""
         if not self.lists_bench.exists():
@@ -102,6 +120,7 @@ class ExportBench:
         self.journey_steps("lists small", "lists", LISTS)
         self.journey_steps("lists big", "files", LISTS)
         self.batches()
+        self.medium()
         if number < 3:
             self.python("main")
             self.program("quarter", watch_memory=True)
@@ -124,6 +143,8 @@ class ExportBench:
         yield fourfold, "program fourfold", f"{records:,} records", "program main", 4.4, False
         yield f"peak memory of {fourfold}", "memory fourfold", quarter, "memory quarter", 2.0, True
         yield f"5 x classify, reload: {many}", "lists big", few, "lists small", 5.0, False
+        yield "by the clock: target on disk", "medium with", "in memory", "medium without", None, False
+        yield "by the clock: the disk's share", "medium cost", "dd conv=fsync", "medium dd", 1.3, False
         sizes = {}
         for name, count in (key for key in self.figures if isinstance(key, tuple)):
             sizes.setdefault(name, []).append(count)

@@ -11,6 +11,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parent
 WORK = ROOT / "build/bench"
+MEMORY = "/dev/shm"
 
 
 def fail(message):
@@ -35,6 +36,14 @@ def measure(command, steps="", output=None, watch_memory=False):
     own = resource.getrusage(resource.RUSAGE_SELF).ru_maxrss
     peak = usage.ru_maxrss if watch_memory and usage.ru_maxrss > own else polled
     return usage.ru_utime + usage.ru_stime, peak / 1024, text
+
+
+def wall(command, steps=""):
+    """Seconds on the clock, begun when the disk has nothing left to write."""
+    os.sync()
+    start = time.monotonic()
+    measure(command, steps)
+    return time.monotonic() - start
 
 
 def watch_peak(pid):
