@@ -3,26 +3,13 @@
 #include "base/failure.h"
 #include "base/text/compare.h"
 #include "base/text/decode.h"
+#include "base/text/ini.h"
 
 #include <exception>
 
 namespace halvenmoor {
 
 namespace {
-
-std::string_view WithoutWhiteSpace(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-/// The section that a header line names; what follows the bracket is a remark.
-std::optional<std::string_view> HeaderName(std::string_view line) {
-    if (line.empty() || line.front() != '[') return std::nullopt;
-    const std::size_t closing = line.find(']');
-    if (closing == std::string_view::npos) return std::nullopt;
-    return WithoutWhiteSpace(line.substr(1, closing - 1));
-}
 
 std::string ShownValue(std::string_view bytes, const text::CodePage& codePage) {
     std::u32string characters = text::Decode(bytes, codePage);
@@ -32,7 +19,7 @@ std::string ShownValue(std::string_view bytes, const text::CodePage& codePage) {
 
 bool SkipToSection(platform::TextReader& file, std::string_view section) {
     while (!file.AtEndOfStream()) {
-        const auto name = HeaderName(WithoutWhiteSpace(file.ReadLine()));
+        const auto name = text::IniSection(text::WithoutWhiteSpace(file.ReadLine()));
         if (name && text::EqualIgnoringAsciiCase(*name, section)) return true;
     }
     return false;
@@ -41,12 +28,12 @@ bool SkipToSection(platform::TextReader& file, std::string_view section) {
 std::optional<std::string> FindValue(platform::TextReader& file, std::string_view key,
                                      const text::CodePage& codePage) {
     while (!file.AtEndOfStream()) {
-        const std::string_view line = WithoutWhiteSpace(file.ReadLine());
-        if (HeaderName(line)) return std::nullopt;
+        const std::string_view line = text::WithoutWhiteSpace(file.ReadLine());
+        if (text::IniSection(line)) return std::nullopt;
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos) continue;
-        if (!text::EqualIgnoringAsciiCase(WithoutWhiteSpace(line.substr(0, equals)), key)) continue;
-        return ShownValue(WithoutWhiteSpace(line.substr(equals + 1)), codePage);
+        if (!text::EqualIgnoringAsciiCase(text::WithoutWhiteSpace(line.substr(0, equals)), key)) continue;
+        return ShownValue(text::WithoutWhiteSpace(line.substr(equals + 1)), codePage);
     }
     return std::nullopt;
 }
