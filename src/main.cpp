@@ -5,6 +5,7 @@
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
 #include "platform/posix/program_folder.h"
+#include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/services/program_info.h"
 #include "program.h"
@@ -18,12 +19,13 @@ int main(int, char** arguments) {
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
+    posix::SettingsFile settings;
     posix::SystemInstanceLock instanceLock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     qt::QtProgramInfo programInfo(instanceLock, posix::ProgramFolder());
-    Program program({fileSystem, hostFiles, programInfo, clock, qt.settings, qt.messages, qt.fileDialogs,
-                     qt.theme, locale},
-                    qt.toolkit);
+    Program program(
+        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
+        qt.toolkit);
     program.Start();
     qt.toolkit.Run(program.Desktop());
     return 0;

@@ -1,6 +1,7 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
 #include "platform/posix/locale.h"
+#include "platform/posix/settings_file.h"
 #include "platform/posix/streams.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
@@ -132,6 +133,38 @@ TEST_F(DiskTest, ScansAFolderAgainOnlyWhenItChanges) {
     EXPECT_TRUE(object->FileExists(folder / "asc/z.asc")) << "in a folder that had not changed for long";
     std::filesystem::rename(folder / "asc/Z.ASC", folder / "asc/Z.Asc");
     EXPECT_EQ(finder.Find(folder / "asc/z.asc"), folder / "asc/Z.Asc");
+}
+
+TEST_F(DiskTest, OptionsAreStoredBesideTheLinesOfOthers) {
+    folder.Put("real", "; a\r\n[App]\r\nS\\a=old\r\nS\\z=\"1, \\xe9f\"\r\n\n[Other]\nS\\b=2");
+    folder.Put("halvenmoor.ini.AbCdEf", "");
+    Link("real", "halvenmoor.ini");
+    const Strings values = {"", "a b", "\xC3\x9C, \"x\\ ", "@1", "\0011\n"};
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::string name = {"abcde"[i]};
+        posix::SettingsFile(folder.Path()).SaveSetting("App", "S", name, values[i]);
+        EXPECT_EQ(posix::SettingsFile(folder.Path()).GetSetting("App", "S", name, "-"), values[i]);
+    }
+    EXPECT_EQ(folder.Text("real"),
+              "; a\r\n[App]\r\nS\\a=\r\nS\\z=\"1, \\xe9f\"\r\nS\\b=a b\n"
+              "S\\c=\"\xC3\x9C, \\\"x\\\\ \"\nS\\d=@@1\nS\\e=\\x01\\x31\\n\n\n[Other]\nS\\b=2");
+    EXPECT_EQ(posix::SettingsFile(folder.Path()).GetSetting("App", "S", "z", ""), "1, \xE0\xBA\x9F");
+    EXPECT_EQ(folder.Names().size(), 3u);
+    posix::SettingsFile(folder / "new").SaveSetting("App", "S", "a", "kept");
+    EXPECT_EQ(folder.Text("new/halvenmoor.ini"), "[App]\nS\\a=kept\n");
+}
+
+TEST_F(DiskTest, OptionsHoldForThisRunWhereTheyAreInNoFile) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    for (const char* const target : {"pipe", "nowhere"}) {
+        Link(target, "halvenmoor.ini");
+        posix::SettingsFile settings(folder.Path());
+        settings.SaveSetting("App", "S", "a", "kept");
+        EXPECT_EQ(settings.GetSetting("App", "S", "a", ""), "kept");
+        EXPECT_EQ(folder.Names(), (Strings{"halvenmoor.ini", "pipe"})) << target;
+        EXPECT_EQ(std::filesystem::read_symlink(folder / "halvenmoor.ini"), target);
+        std::filesystem::remove(folder / "halvenmoor.ini");
+    }
 }
 
 TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {

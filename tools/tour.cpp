@@ -11,6 +11,7 @@
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
+#include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/services/program_info.h"
 #include "program.h"
@@ -204,7 +205,7 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     qt::QtPlatform qt(programName, locale, hostFiles);
     posix::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
     qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
-    qt::QtSettings settings(QString::fromStdString(fs::absolute(output / "options").string()));
+    posix::SettingsFile settings(fs::absolute(output / "options").string());
     Program program(
         {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
         qt.toolkit);

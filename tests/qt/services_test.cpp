@@ -5,12 +5,10 @@
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/message_box.h"
 #include "platform/qt/services/program_info.h"
-#include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "tests/support/temporary_folder.h"
 #include "window_fixture.h"
 
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLocalSocket>
@@ -22,10 +20,6 @@
 
 namespace halvenmoor::qt {
 namespace {
-
-QString Path(const TemporaryFolder& folder, const std::string& name = "") {
-    return QString::fromStdString(folder / name);
-}
 
 /// Answers the next modal dialog of this kind; the dialog must close on it.
 template <class Dialog, class Answer>
@@ -106,42 +100,6 @@ TEST_F(Dialogs, OpenWhatExists) {
     EXPECT_EQ(dialogs.AskOpenPath(request), std::nullopt);
 }
 
-TEST(Settings, LastAndNeverFail) {
-    const TemporaryFolder folder;
-    const auto read = [](QtSettings& settings, const char* name) {
-        return settings.GetSetting("App", "Section", name, "default");
-    };
-    {
-        QtSettings settings(Path(folder, "new"));
-        EXPECT_EQ(read(settings, "Name"), "default");
-        settings.SaveSetting("App", "Section", "Name", "\xc3\x9c, \"x\" @1");
-        EXPECT_NE(folder.Text("new/halvenmoor.ini").find("Name="), std::string::npos) << "stored at once";
-        settings.SaveSetting("App", "Other", "Name", "");
-    }
-    QtSettings settings(Path(folder, "new"));
-    EXPECT_EQ(read(settings, "Name"), "\xc3\x9c, \"x\" @1");
-    EXPECT_EQ(settings.GetSetting("App", "Other", "Name", "default"), "");
-
-    folder.Put("file", "");
-    QtSettings unwritable(Path(folder, "file"));
-    unwritable.SaveSetting("App", "Section", "Name", "kept");
-    EXPECT_EQ(read(unwritable, "Name"), "kept");
-}
-
-TEST(Settings, RemoveWhatAKilledWriterLeftBehind) {
-    const TemporaryFolder folder;
-    for (const char* const name : {"halvenmoor.ini.AbCdEf", "halvenmoor.ini.lock", "halvenmoor.ini.Backup",
-                                   "halvenmoor.ini.before", "other.ini.AbCdEf"}) {
-        folder.Put(name, "");
-    }
-    QElapsedTimer time;
-    time.start();
-    QtSettings(Path(folder)).SaveSetting("App", "Section", "Name", "kept");
-    EXPECT_LT(time.elapsed(), 10'000) << "waited for a lock that nobody holds";
-    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"halvenmoor.ini", "halvenmoor.ini.Backup",
-                                                        "halvenmoor.ini.before", "other.ini.AbCdEf"}));
-}
-
 struct Instance {
     explicit Instance(const TemporaryFolder& folder) : lock(folder.Path()) {}
 
@@ -165,7 +123,7 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
          {QByteArray("stop\n"), QByteArray("raise"), QByteArray("raise\nraise x\n"),
           QByteArray("\0\nraise \n", 9), endless, endless + '\n'}) {
         QLocalSocket foreign;
-        foreign.connectToServer(Path(folder, "halvenmoor.socket"));
+        foreign.connectToServer(QString::fromStdString(folder / "halvenmoor.socket"));
         ASSERT_TRUE(foreign.waitForConnected());
         foreign.write(message);
         foreign.waitForBytesWritten();

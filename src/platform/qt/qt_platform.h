@@ -3,7 +3,6 @@
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/message_box.h"
-#include "platform/qt/services/settings.h"
 #include "platform/qt/services/theme.h"
 #include "platform/qt/windows/toolkit.h"
 
@@ -28,7 +27,6 @@ struct QtPlatform {
     SafeApplication application;
     QTranslator translator;
     QtToolkit toolkit;
-    QtSettings settings;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;
     QtTheme theme;

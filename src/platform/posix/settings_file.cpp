@@ -1,0 +1,108 @@
+#include "platform/posix/settings_file.h"
+
+#include "base/text/ini.h"
+#include "platform/posix/system.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace halvenmoor::posix {
+namespace {
+
+/// The text of the file, empty for one that does not exist. Nothing for what is no file of options.
+std::optional<std::string> ReadText(const std::string& path) {
+    constexpr std::size_t kMostBytes = 1024 * 1024;
+    try {
+        const FileDescriptor file = OpenForReading(path);
+        const std::uint64_t size = file.Size();
+        if (size > kMostBytes) return std::nullopt;
+        std::string text(static_cast<std::size_t>(size), '\0');
+        std::size_t done = 0;
+        while (const std::size_t count = file.Read(std::span(text).subspan(done))) done += count;
+        text.resize(done);
+        return text;
+    } catch (const Failure& failure) {
+        return failure.Number() == failure::FileNotFound ? std::optional(std::string()) : std::nullopt;
+    }
+}
+
+/// The path of the file itself, behind all links. Nothing for a link to nowhere.
+std::optional<std::string> RealPath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    if (!error) return real.string();
+    return EntryExists(path) ? std::nullopt : std::optional(path);
+}
+
+bool Sync(const FileDescriptor& file) {
+    return ::fsync(file.Get()) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+/// Puts a new file of this text into the place of the old one. If that fails, the old one stays as it was.
+void Replace(const std::string& path, std::string_view text) {
+    struct stat old {};
+    const bool exists = ::stat(path.c_str(), &old) == 0;
+    if (exists && ::access(path.c_str(), W_OK) != 0) return;
+    constexpr mode_t kReadableAndWritable = 0666;  // less what the user's mask takes away
+    const mode_t mode = exists ? old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO) : kReadableAndWritable;
+
+    const std::string newPath = path.substr(0, path.rfind('/') + 1) + ".halvenmoor.ini.new~";
+    ::unlink(newPath.c_str());  // of a run that was killed
+    FileDescriptor file(::open(newPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+    if (!file.IsOpen()) return;
+    const bool isStored = (!exists || ::fchmod(file.Get(), mode) == 0) && file.Write(text) == 0 &&
+                          Sync(file) && file.Close() == 0 && std::rename(newPath.c_str(), path.c_str()) == 0;
+    if (!isStored) ::unlink(newPath.c_str());
+}
+
+std::string Variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+std::string KeyOf(std::string_view section, std::string_view name) {
+    return std::string(section) + '\\' + std::string(name);
+}
+
+}  // namespace
+
+SettingsFile::SettingsFile(const std::string& folder)
+    : path_(folder + "/halvenmoor.ini"), text_(ReadText(path_).value_or("")) {
+}
+
+std::string SettingsFile::GetSetting(std::string_view application, std::string_view section,
+                                     std::string_view name, std::string_view defaultValue) {
+    const Key key(application, KeyOf(section, name));
+    const auto change = changes_.find(key);
+    if (change != changes_.end()) return change->second;
+    return text::IniValue(text_, key.first, key.second).value_or(std::string(defaultValue));
+}
+
+void SettingsFile::SaveSetting(std::string_view application, std::string_view section, std::string_view name,
+                               std::string_view value) {
+    changes_.insert_or_assign(Key(application, KeyOf(section, name)), std::string(value));
+    std::optional<std::string> text = ReadText(path_);
+    const std::optional<std::string> realPath = RealPath(path_);
+    if (!text || !realPath) return;
+    for (const auto& [key, changed] : changes_) text::SetIniValue(*text, key.first, key.second, changed);
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), ignored);
+    Replace(*realPath, *text);
+}
+
+std::string SettingsFile::UserFolder() {
+    const std::string folder = Variable("XDG_CONFIG_HOME");
+    const bool isAbsolute = folder.starts_with('/');
+    return (isAbsolute ? folder : Variable("HOME") + "/.config") + "/halvenmoor";
+}
+
+}  // namespace halvenmoor::posix
