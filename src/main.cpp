@@ -4,6 +4,7 @@
 #include "platform/posix/instance_lock.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
+#include "platform/posix/process.h"
 #include "platform/posix/program_folder.h"
 #include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
@@ -14,6 +15,7 @@ using namespace halvenmoor;
 
 // The program takes no command line.
 int main(int, char** arguments) {
+    posix::PrepareProcess();
     const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
     posix::PathFinder finder(locale.CodePage());
     posix::DiskFileSystem fileSystem(finder);

@@ -1,14 +1,18 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
 #include "platform/posix/locale.h"
+#include "platform/posix/process.h"
 #include "platform/posix/settings_file.h"
 #include "platform/posix/streams.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
 #include <chrono>
+#include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace halvenmoor {
 namespace {
@@ -165,6 +169,16 @@ TEST_F(DiskTest, OptionsHoldForThisRunWhereTheyAreInNoFile) {
         EXPECT_EQ(std::filesystem::read_symlink(folder / "halvenmoor.ini"), target);
         std::filesystem::remove(folder / "halvenmoor.ini");
     }
+}
+
+TEST(ProcessTest, HasStandardStreamsAndFailuresInPlaceOfSignals) {
+    const auto lowestNumber = [] {
+        for (const int standard : {STDIN_FILENO, STDERR_FILENO}) ::close(standard);
+        posix::PrepareProcess();
+        for (const int signal : {SIGPIPE, SIGXFSZ}) std::raise(signal);
+        return ::open("/", O_RDONLY);
+    };
+    EXPECT_EXIT(::_exit(lowestNumber() > STDERR_FILENO ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {

@@ -11,6 +11,7 @@
 #include "platform/posix/host_files.h"
 #include "platform/posix/locale.h"
 #include "platform/posix/path_finder.h"
+#include "platform/posix/process.h"
 #include "program.h"
 #include "tools/user_actions.h"
 
@@ -159,6 +160,7 @@ private:
 }  // namespace
 
 int main(int argc, char** argv) {
+    posix::PrepareProcess();
     if (argc != 2) {
         std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
         return 2;
