@@ -229,7 +229,8 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
 int main(int count, char** arguments) {
     if (count == 2 && arguments[1] == std::string_view("--display")) {
         qt::PreferX11();
-        const QGuiApplication application(count, arguments);  // ends the process where none answers
+        qInstallMessageHandler(qt::EndWithoutDisplay);
+        const QGuiApplication application(count, arguments);
         return QGuiApplication::platformName() == "offscreen" ? 1 : 0;
     }
     if (count != 3) {

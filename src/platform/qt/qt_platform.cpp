@@ -7,6 +7,7 @@ namespace halvenmoor::qt {
 
 QtPlatform::Arguments::Arguments(char* programName) : values{programName, nullptr} {
     PreferX11();
+    qInstallMessageHandler(EndWithoutDisplay);
 }
 
 QtPlatform::QtPlatform(char* programName, const platform::Locale& locale, platform::HostFiles& files)
@@ -14,6 +15,7 @@ QtPlatform::QtPlatform(char* programName, const platform::Locale& locale, platfo
       application(arguments.count, arguments.values.data()),
       toolkit(locale),
       fileDialogs(files) {
+    qInstallMessageHandler(nullptr);
     // Qt's own words, as in the file dialogs, in the language of the user's desktop.
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (translator.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {

@@ -3,6 +3,9 @@
 #include "base/failure.h"
 #include "platform/version.h"
 
+#include <cstdlib>
+#include <iostream>
+
 namespace halvenmoor::qt {
 
 namespace {
@@ -30,6 +33,16 @@ void PreferX11() {
     const bool hasBoth =
         !qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     if (hasBoth && !qEnvironmentVariableIsSet(kPlatformVariable)) qputenv(kPlatformVariable, "xcb;wayland");
+}
+
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtFatalMsg) {
+        std::cerr
+            << "halvenmoor: no display answers, or Qt has no plugin for it (QT_DEBUG_PLUGINS=1 tells more)\n";
+        std::_Exit(EXIT_FAILURE);
+    }
+    // Messages of this type come only where the environment asks for them.
+    if (type == QtDebugMsg) std::cerr << qFormatLogMessage(type, context, message).toStdString() << '\n';
 }
 
 }  // namespace halvenmoor::qt
