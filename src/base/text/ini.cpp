@@ -17,8 +17,8 @@ constexpr std::string_view kEscapeLetters = "abfnrtv\"\\";
 
 /// Appends the character whose number a text begins with. Returns how many digits the number has.
 std::size_t AppendHexCharacter(std::string& out, std::string_view text) {
-    constexpr std::size_t kMostDigits = 4;
-    const std::string_view digits = text.substr(0, kMostDigits);
+    constexpr std::size_t kMaxDigits = 4;
+    const std::string_view digits = text.substr(0, kMaxDigits);
     unsigned number = 0;
     const char* const end = std::from_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
     if (end != digits.data()) AppendUtf8(out, number);

@@ -20,11 +20,11 @@ namespace {
 
 /// The text of the file, empty for one that does not exist. Nothing for what is no file of options.
 std::optional<std::string> ReadText(const std::string& path) {
-    constexpr std::size_t kMostBytes = 1024 * 1024;
+    constexpr std::size_t kMaxBytes = 1024 * 1024;
     try {
         const FileDescriptor file = OpenForReading(path);
         const std::uint64_t size = file.Size();
-        if (size > kMostBytes) return std::nullopt;
+        if (size > kMaxBytes) return std::nullopt;
         std::string text(static_cast<std::size_t>(size), '\0');
         std::size_t done = 0;
         while (const std::size_t count = file.Read(std::span(text).subspan(done))) done += count;
@@ -59,7 +59,7 @@ void Replace(const std::string& path, std::string_view text) {
     ::unlink(newPath.c_str());  // of a run that was killed
     FileDescriptor file(::open(newPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (!file.IsOpen()) return;
-    const bool isStored = (!exists || ::fchmod(file.Get(), mode) == 0) && file.Write(text) == 0 &&
+    const bool isStored = (!exists || ::fchmod(file.Get(), mode) == 0) && file.Write(text).error == 0 &&
                           Sync(file) && file.Close() == 0 && std::rename(newPath.c_str(), path.c_str()) == 0;
     if (!isStored) ::unlink(newPath.c_str());
 }
