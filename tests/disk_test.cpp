@@ -63,16 +63,26 @@ TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {
     EXPECT_TRUE(read == bytes + '\0');
 }
 
-TEST_F(DiskTest, AFullDiskFailsAtTheWriteOrAtClose) {
-    const auto closed = object->CreateTextFile("/dev/full");
-    closed->WriteLine("few bytes");
-    EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
-    EXPECT_EQ(FailureNumber([&] { closed->Close(); }), failure::DiskFull);
+TEST_F(DiskTest, FilesAreReadToTheirSizeAtOpening) {
+    folder.Put("grows", "one\n");
+    folder.Put("shrinks", "two\n");
+    const auto grows = object->OpenTextFile(folder / "grows");
+    const auto shrinks = object->OpenTextFile(folder / "shrinks");
+    folder.Put("grows", "one\nmore\n");
+    folder.Put("shrinks", "t");
+    EXPECT_EQ(ReadLines(*grows), Strings{"one"});
+    EXPECT_EQ(FailureNumber([&] { ReadLines(*shrinks); }), failure::FileAccess);
+    const auto sizeless = object->OpenTextFile("/proc/self/status");
+    EXPECT_EQ(FailureNumber([&] { ReadLines(*sizeless); }), failure::FileAccess);
+}
 
-    const auto written = object->OpenForAppending("/dev/full");
-    const std::string line(posix::kBufferSize, 'x');
-    EXPECT_EQ(FailureNumber([&] { written->WriteLine(line); }), failure::DiskFull);
-    EXPECT_EQ(FailureNumber([&] { written->Close(); }), failure::DiskFull);
+TEST_F(DiskTest, AFileThatIsWrittenIsLocked) {
+    folder.Put("target", "old\n");
+    const auto writer = object->OpenForAppending(folder / "target");
+    EXPECT_EQ(FailureNumber([&] { object->CreateTextFile(folder / "target"); }), failure::PermissionDenied);
+    EXPECT_EQ(folder.Text("target"), "old\n");
+    writer->Close();
+    object->CreateTextFile(folder / "target");
 }
 
 TEST_F(DiskTest, FoldersPipesAndDevicesAreNoFilesToRead) {

@@ -68,6 +68,7 @@ TEST(Ov2ImportTest, FailedFilesLeaveNoTraceAndAreCounted) {
     program.AddOv2("good", Point("n"));
     const std::string head = kSkipper + Point("lost");
     program.AddOv2("bad", head + '\4' + Point("never read"));
+    program.AddOv2(".hidden", Point("n"));
     program.AddOv2("bad too", head + Record(2, 13, Int32(0) + Int32(0)));
     EXPECT_EQ(program.Import(kOv2,
                              [](frmImport& dialog) {

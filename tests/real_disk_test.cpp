@@ -66,9 +66,10 @@ const std::string kExported = "1.5,52.5,1,50,0,0\r\n2.5,52.5,1,60,0,0\r\n";
 
 constexpr std::size_t kManyCameras = 6000;
 
-/// What a failed write leaves of a target, and of a camera file of a TXT import: as much as had space.
+/// What a failed write leaves of a target, and of a camera file of a TXT import: the lines that had space.
 std::string LeftOf(const std::string& whole, std::size_t limit) {
-    return whole.substr(0, limit);
+    const std::string fitting = whole.substr(0, limit);
+    return fitting.substr(0, fitting.rfind('\n') + 1);
 }
 
 TEST_F(RealDiskTest, ADiskThatIsFullAnywhereKeepsWhatFits) {
@@ -93,6 +94,17 @@ TEST_F(RealDiskTest, ADiskThatIsFullAnywhereKeepsWhatFits) {
 }
 
 // Special files
+
+TEST_F(RealDiskTest, AnImportEmptiesNoOtherFolderOfTheProgram) {
+    for (const char* other : {"import/ov2", "import/txt", "txt", "lang", "demo", ".", ".."}) {
+        InstallFiles(folder);
+        fs::remove_all(folder / "asc");
+        fs::create_directory_symlink(other, folder / "asc");
+        const Disk all = AllFiles(folder);
+        EXPECT_EQ(DiskProgram(folder).Import(kOv2), "PictureNoDelete") << other;
+        EXPECT_EQ(AllFiles(folder), all) << other;
+    }
+}
 
 struct SpecialFile {
     const char* name;

@@ -96,8 +96,8 @@ protected:
     TemporaryFolder folder;
 };
 
-/// What a kill may leave of a target: as much as had been written. That holds for camera files, too, which
-/// are written in the same way.
+/// What a kill may leave of a target: the lines that had been written. That holds for camera files, too,
+/// which are written in the same way.
 TEST_F(KillTest, TheTargetIsAsFarAsItWasWritten) {
     InstallFiles(folder);
     folder.Put("asc/fixed_60.asc", Repeated("2.5, 52.5, \"b\"\r\n", 4000));
@@ -108,7 +108,7 @@ TEST_F(KillTest, TheTargetIsAsFarAsItWasWritten) {
     Sweep([&] { folder.Put("txt/old.txt", old); }, append,
           [&] {
               const std::string left = folder.Text("txt/old.txt");
-              EXPECT_TRUE(left.starts_with(old) && whole.starts_with(left));
+              EXPECT_TRUE(left.starts_with(old) && whole.starts_with(left) && left.ends_with('\n'));
           });
 }
 
