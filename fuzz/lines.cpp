@@ -23,24 +23,25 @@ Strings ReadInOnePiece(std::string_view bytes) {
 }
 
 /// A pipe in packet mode hands over one packet a read. It holds so many of them.
-constexpr std::size_t kMostPackets = 256;
+constexpr std::size_t kMaxPackets = 256;
 
 Strings ReadByteByByte(std::string_view bytes) {
     int ends[2];
     Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
     const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
     posix::FileDescriptor out(ends[1]);
-    posix::DiskTextReader reader(posix::FileDescriptor(ends[0]), bytes.size());
+    posix::FileDescriptor in(ends[0]);
     Require(capacity >= 1 << 20, "the pipe holds it");
     for (const char byte : bytes) Require(out.Write({&byte, 1}).error == 0, "a byte fits into the pipe");
     out.Close();
+    posix::DiskTextReader reader(std::move(in), bytes.size());
     return ReadLines(reader);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view bytes = fuzz::Text(data, size).substr(0, kMostPackets);
+    const std::string_view bytes = fuzz::Text(data, size).substr(0, kMaxPackets);
     const Strings lines = fuzz::Lines(bytes);
     Require(ReadInOnePiece(bytes) == lines, "lines read in one piece are the lines");
     Require(ReadByteByByte(bytes) == lines, "lines read byte by byte are the lines");

@@ -16,20 +16,20 @@ InputBuffer::InputBuffer(FileDescriptor file, std::uint64_t size)
     : file_(std::move(file)),
       capacity_(kBufferSize),
       buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)),
-      unreadSize_(size),
-      mustBeEmpty_(size == 0) {
+      unreadSize_(size) {
+    // The size of a file that the system makes up at each read is 0.
+    if (size == 0 && file_.Read({buffer_.get(), 1}) != 0) throw SystemFailure(EIO);
 }
 
 bool InputBuffer::Fill() {
-    if (unreadSize_ == 0 && !mustBeEmpty_) return false;
+    if (unreadSize_ == 0) return false;
     MakeSpace();
-    const std::size_t wanted = mustBeEmpty_ ? 1 : std::min<std::uint64_t>(capacity_ - end_, unreadSize_);
+    const std::size_t wanted = std::min<std::uint64_t>(capacity_ - end_, unreadSize_);
     const std::size_t count = file_.Read({buffer_.get() + end_, wanted});
-    if ((count == 0) != mustBeEmpty_) throw SystemFailure(EIO);
-    mustBeEmpty_ = false;
+    if (count == 0) throw SystemFailure(EIO);
     unreadSize_ -= count;
     end_ += count;
-    return count != 0;
+    return true;
 }
 
 void InputBuffer::MakeSpace() {

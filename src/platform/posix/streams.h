@@ -21,7 +21,7 @@ inline constexpr std::size_t kBufferSize = 64 * 1024;
 /// opened: what is added later is ignored.
 class InputBuffer {
 public:
-    /// The size of the file in bytes.
+    /// The size of the file in bytes. Throws Failure if that is 0, but the file is not empty.
     InputBuffer(FileDescriptor file, std::uint64_t size);
 
     /// The bytes that are left of the file, read or not.
@@ -32,7 +32,7 @@ public:
     /// Takes so many of the unread bytes.
     void Take(std::size_t count) { begin_ += count; }
     /// Reads on behind the unread bytes, with space for at least one more. False at the end of the file.
-    /// Throws Failure, also if the file has fewer bytes than its size, or any although its size is 0.
+    /// Throws Failure, also if the file has fewer bytes than its size.
     bool Fill();
     /// Drops what is unread. Later reading fails.
     void Close();
@@ -46,7 +46,6 @@ private:
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
     std::uint64_t unreadSize_;
-    bool mustBeEmpty_;
 };
 
 class DiskTextReader : public platform::TextReader {
