@@ -13,42 +13,12 @@ Control::Control(forms::ControlKind kind, Design design)
     Owner().Add(*this);
 }
 
-void Control::SetCaption(std::string caption) {
-    if (caption == caption_) return;
-    caption_ = std::move(caption);
-    Changed();
-}
-
 void Control::SetEnabled(bool enabled) {
-    if (enabled == enabled_) return;
-    enabled_ = enabled;
-    Changed();
-    if (!enabled && HasFocus()) Owner().PassFocusOn();
+    if (Change(enabled_, enabled) && !enabled && HasFocus()) Owner().PassFocusOn();
 }
 
 void Control::SetVisible(bool visible) {
-    if (visible == visible_) return;
-    visible_ = visible;
-    Changed();
-    if (!visible && HasFocus()) Owner().PassFocusOn();
-}
-
-void Control::SetForeColor(Color color) {
-    if (foreColor_ == color) return;
-    foreColor_ = color;
-    Changed();
-}
-
-void Control::SetAccessibleName(std::string name) {
-    if (name == accessibleName_) return;
-    accessibleName_ = std::move(name);
-    Changed();
-}
-
-void Control::SetToolTip(std::string toolTip) {
-    if (toolTip == toolTip_) return;
-    toolTip_ = std::move(toolTip);
-    Changed();
+    if (Change(visible_, visible) && !visible && HasFocus()) Owner().PassFocusOn();
 }
 
 bool Control::CanTakeFocus() const {

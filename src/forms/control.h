@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace halvenmoor::forms {
 
@@ -40,7 +41,7 @@ public:
 
     /// UTF-8; shown as plain text.
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string caption) { Change(caption_, std::move(caption)); }
     bool Enabled() const { return enabled_; }
     /// Disabling the control that has the focus passes the focus on.
     void SetEnabled(bool enabled);
@@ -48,14 +49,14 @@ public:
     void SetVisible(bool visible);
     /// The text colour, a plain one; none: the toolkit's own.
     std::optional<Color> ForeColor() const { return foreColor_; }
-    void SetForeColor(Color color);
+    void SetForeColor(Color color) { Change(foreColor_, color); }
     /// What a screen reader calls the control: its caption, unless the program has given it other words.
     const std::string& AccessibleName() const { return accessibleName_.empty() ? caption_ : accessibleName_; }
-    void SetAccessibleName(std::string name);
+    void SetAccessibleName(std::string name) { Change(accessibleName_, std::move(name)); }
     /// What the control says of itself beside its caption, to the mouse and to screen readers. UTF-8; shown
     /// as plain text.
     const std::string& ToolTip() const { return toolTip_; }
-    void SetToolTip(std::string toolTip);
+    void SetToolTip(std::string toolTip) { Change(toolTip_, std::move(toolTip)); }
 
     bool CanTakeFocus() const;
     bool HasFocus() const;
@@ -71,6 +72,14 @@ public:
 protected:
     /// Marks the control: its view is brought up to date at the end of the running event.
     void Changed();
+    /// Gives a property its value. False, and nothing is marked, when it has that value already.
+    template <class Property, class Value>
+    bool Change(Property& property, Value value) {
+        if (property == value) return false;
+        property = std::move(value);
+        Changed();
+        return true;
+    }
 
 private:
     const ControlKind kind_;

@@ -15,10 +15,7 @@ CheckBox::CheckBox(Design design) : Control(ControlKind::CheckBox, std::move(des
 }
 
 void CheckBox::SetValue(bool value) {
-    if (value == value_) return;
-    value_ = value;
-    Changed();
-    Desktop::Raise(OnClick);
+    if (Change(value_, value)) Desktop::Raise(OnClick);
 }
 
 bool CheckBox::UserPress() {
@@ -33,14 +30,12 @@ OptionButton::OptionButton(Design design)
 }
 
 void OptionButton::SetValue(bool value) {
-    if (value == value_) return;
     if (!value) {
-        value_ = false;
-        Changed();
-        return;
+        Change(value_, false);
+    } else if (!value_) {
+        TurnOn();
+        Desktop::Raise(OnClick);
     }
-    TurnOn();
-    Desktop::Raise(OnClick);
 }
 
 bool OptionButton::UserPress() {
@@ -63,12 +58,6 @@ void OptionButton::TurnOn() {
 
 PictureBox::PictureBox(Design design)
     : Control(ControlKind::PictureBox, std::move(design)), bordered_(AtDesign().bordered) {
-}
-
-void PictureBox::SetBordered(bool bordered) {
-    if (bordered == bordered_) return;
-    bordered_ = bordered;
-    Changed();
 }
 
 Canvas* PictureBox::GetCanvas() {

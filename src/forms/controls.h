@@ -65,7 +65,7 @@ public:
 
     const Font& GetFont() const { return font_; }
     bool Bordered() const { return bordered_; }
-    void SetBordered(bool bordered);
+    void SetBordered(bool bordered) { Change(bordered_, bordered); }
     /// The persistent image; none while the window is not open.
     Canvas* GetCanvas();
 
