@@ -50,13 +50,8 @@ private:
     void ClearSelection(forms::ListBox& list);
     void ReloadAll();
     bool AnyTypeListHasItems() const;
-
-    void UpdateClassifyButton();
-    void UpdateReloadButton();
+    void OfferStep(forms::CommandButton& button, bool isPossible);
     void UpdateRenameButton();
-    void UpdateImportButton();
-    void UpdateExportButton();
-    void UpdateResultsButton();
 
     modMain& core_;
     bool formLoaded_ = false;

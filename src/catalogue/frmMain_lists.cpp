@@ -116,44 +116,26 @@ bool frmMain::AnyTypeListHasItems() const {
 
 void frmMain::UpdateButtons(bool resetResults) {
     if (resetResults) ResultsValid = false;
-    UpdateClassifyButton();
-    UpdateReloadButton();
+    const bool anyClassified = AnyTypeListHasItems();
+    // The buttons come in the order of the steps, so the focus ends on that of the most advanced one.
+    OfferStep(ButtonClassifyFiles, MainList.ListCount() > 0);
+    ButtonReloadFiles.SetEnabled(anyClassified);
     UpdateRenameButton();
-    UpdateImportButton();
-    UpdateExportButton();
-    UpdateResultsButton();
+    ButtonImportFiles.SetEnabled(core_.ReadSetting("DemoMode", "1") != "1");
+    const bool nothingBefore = !ButtonClassifyFiles.Enabled() && !ButtonReloadFiles.Enabled();
+    if (formLoaded_ && nothingBefore) ButtonImportFiles.SetFocus();
+    OfferStep(ButtonExportCameras, anyClassified);
+    OfferStep(ButtonShowResults, ResultsValid);
 }
 
-// Each rule may move the focus to its button. They run in the order of the steps, so the focus ends on the
-// button of the most advanced one.
-
-void frmMain::UpdateClassifyButton() {
-    ButtonClassifyFiles.SetEnabled(MainList.ListCount() > 0);
-    if (ButtonClassifyFiles.Enabled() && formLoaded_) ButtonClassifyFiles.SetFocus();
-}
-
-void frmMain::UpdateReloadButton() {
-    ButtonReloadFiles.SetEnabled(AnyTypeListHasItems());
+/// Enables the button of a step and gives it the focus, or disables it.
+void frmMain::OfferStep(forms::CommandButton& button, bool isPossible) {
+    button.SetEnabled(isPossible);
+    if (formLoaded_) button.SetFocus();  // does nothing while the button is disabled
 }
 
 void frmMain::UpdateRenameButton() {
     ButtonRenameFile.SetEnabled(MainList.SelCount() == 1);
-}
-
-void frmMain::UpdateImportButton() {
-    ButtonImportFiles.SetEnabled(core_.ReadSetting("DemoMode", "1") != "1");
-    const bool nothingBefore = !ButtonClassifyFiles.Enabled() && !ButtonReloadFiles.Enabled();
-    if (ButtonImportFiles.Enabled() && formLoaded_ && nothingBefore) ButtonImportFiles.SetFocus();
-}
-
-void frmMain::UpdateExportButton() {
-    ButtonExportCameras.SetEnabled(AnyTypeListHasItems());
-    if (ButtonExportCameras.Enabled() && formLoaded_) ButtonExportCameras.SetFocus();
-}
-
-void frmMain::UpdateResultsButton() {
-    ButtonShowResults.SetEnabled(ResultsValid);
-    if (ButtonShowResults.Enabled() && formLoaded_) ButtonShowResults.SetFocus();
 }
 
 }  // namespace halvenmoor
