@@ -3,10 +3,10 @@
 #include <cmath>
 #include <concepts>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace halvenmoor::text {
 
@@ -27,19 +27,13 @@ std::string GeneralNumber(double number, std::string_view decimalSeparator);
 
 /// The value as a 16-bit number; throws Failure(Overflow) if it does not fit.
 inline std::int16_t CheckedInt16(long long value) {
-    if (value < std::numeric_limits<std::int16_t>::min() ||
-        value > std::numeric_limits<std::int16_t>::max()) {
-        ThrowOverflow();
-    }
+    if (!std::in_range<std::int16_t>(value)) ThrowOverflow();
     return static_cast<std::int16_t>(value);
 }
 
 /// The value as a 32-bit number; throws Failure(Overflow) if it does not fit.
 inline std::int32_t CheckedInt32(long long value) {
-    if (value < std::numeric_limits<std::int32_t>::min() ||
-        value > std::numeric_limits<std::int32_t>::max()) {
-        ThrowOverflow();
-    }
+    if (!std::in_range<std::int32_t>(value)) ThrowOverflow();
     return static_cast<std::int32_t>(value);
 }
 
@@ -52,7 +46,7 @@ inline long long RoundHalfEven(double number) {
 template <std::signed_integral Whole>
 requires(sizeof(Whole) < sizeof(long long)) Whole CheckedAdd(Whole a, std::type_identity_t<Whole> b) {
     const long long sum = static_cast<long long>(a) + b;
-    if (sum < std::numeric_limits<Whole>::min() || sum > std::numeric_limits<Whole>::max()) ThrowOverflow();
+    if (!std::in_range<Whole>(sum)) ThrowOverflow();
     return static_cast<Whole>(sum);
 }
 

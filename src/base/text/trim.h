@@ -21,17 +21,10 @@ inline std::string_view Trim(std::string_view text) noexcept {
 inline std::string_view StripComment(std::string_view line) noexcept {
     if (line.empty()) return line;
     switch (line.front()) {
-        case '\\':
-        case '/':
-        case ':':
-        case '"':
-        case '<':
-        case '>':
-        case '|':
-        case ';':
-        case '!':
-        case '#':
+        // clang-format off
+        case '\\': case '/': case ':': case '"': case '<': case '>': case '|': case ';': case '!': case '#':
             return {};
+        // clang-format on
         default:
             return line;
     }
