@@ -15,10 +15,6 @@ Form::~Form() {
     desktop_.Forget(*this);
 }
 
-void Form::SetCaption(std::string caption) {
-    caption_ = std::move(caption);
-}
-
 Point Form::Position() const {
     return view_ && !moved_ ? view_->Position() : position_;
 }
@@ -61,18 +57,6 @@ bool Form::UserKeyPress(char32_t key) {
 void Form::Painted() {
     Desktop::Raise([this] { Paint(); });
     if (view_ && HasChanges()) view_->Update();
-}
-
-std::vector<Control*> Form::TakeChanges() {
-    return std::exchange(changed_, {});
-}
-
-bool Form::KeyPress(char32_t) {
-    return false;
-}
-
-bool Form::QueryClose(CloseReason) {
-    return true;
 }
 
 void Form::Mark(Control& control) {

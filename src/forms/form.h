@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace halvenmoor::forms {
@@ -38,7 +39,7 @@ public:
 
     const FormDesign& AtDesign() const { return design_; }
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string caption) { caption_ = std::move(caption); }
     /// Whether the mouse pointer over the window shows that a job is running.
     bool Busy() const { return busy_; }
     void SetBusy(bool busy) { busy_ = busy; }
@@ -75,7 +76,7 @@ public:
     void Painted();
 
     /// The controls changed since the last call, each once.
-    std::vector<Control*> TakeChanges();
+    std::vector<Control*> TakeChanges() { return std::exchange(changed_, {}); }
     bool HasChanges() const { return !changed_.empty(); }
 
 protected:
@@ -86,9 +87,9 @@ protected:
     virtual void Activate() {}
     virtual void Paint() {}
     /// A true result consumes the key. Only with FormDesign::keyPreview.
-    virtual bool KeyPress(char32_t key);
+    virtual bool KeyPress(char32_t) { return false; }
     /// A false result keeps the window open.
-    virtual bool QueryClose(CloseReason reason);
+    virtual bool QueryClose(CloseReason) { return true; }
 
 private:
     friend class Control;

@@ -23,10 +23,9 @@ public:
     void DrawLine(forms::PixelPoint from, forms::PixelPoint to, forms::Color color) override;
     void SetClip(const forms::PixelRect& area) override { clip_ = area; }
     void ClearClip() override { clip_ = ClientRect(); }
-    void Refresh() override { ++refreshes_; }
+    void Refresh() override {}
 
     forms::Color At(int x, int y) const { return pixels_.at(static_cast<std::size_t>(y * width_ + x)); }
-    int Refreshes() const { return refreshes_; }
     /// The text that was drawn last.
     const std::string& LastText() const { return lastText_; }
 
@@ -35,7 +34,6 @@ private:
     int height_;
     forms::PixelRect clip_;
     std::vector<forms::Color> pixels_;
-    int refreshes_ = 0;
     std::string lastText_;
 };
 

@@ -13,10 +13,6 @@ constexpr double kShortestYield = 1e-6;
 
 }  // namespace
 
-void HeadlessView::Show() {
-    form_.Painted();
-}
-
 void HeadlessView::Update() {
     if (const auto move = form_.TakeMove()) position_ = *move;
     form_.TakeChanges();
@@ -24,10 +20,6 @@ void HeadlessView::Update() {
 
 forms::Canvas& HeadlessView::CanvasOf(forms::PictureBox& box) {
     return canvases_.try_emplace(&box, box.AtDesign().bounds).first->second;
-}
-
-std::unique_ptr<forms::View> HeadlessToolkit::CreateView(forms::Form& form) {
-    return std::make_unique<HeadlessView>(form);
 }
 
 void HeadlessToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {

@@ -18,7 +18,7 @@ class HeadlessView : public forms::View {
 public:
     explicit HeadlessView(forms::Form& form) : form_(form) {}
 
-    void Show() override;
+    void Show() override { form_.Painted(); }
     void Hide() override {}
     void Update() override;
     forms::Point Position() const override { return position_; }
@@ -63,7 +63,9 @@ public:
     /// The topmost modal window, none while the main window has the user.
     forms::Form* OpenDialog() const { return dialogs_.empty() ? nullptr : dialogs_.back(); }
 
-    std::unique_ptr<forms::View> CreateView(forms::Form& form) override;
+    std::unique_ptr<forms::View> CreateView(forms::Form& form) override {
+        return std::make_unique<HeadlessView>(form);
+    }
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
     bool YieldIsDue() const override { return !SkipsYields; }
