@@ -79,10 +79,6 @@ void FormWindow::ChainTabs() {
     }
 }
 
-void FormWindow::Show() {
-    show();
-}
-
 void FormWindow::Hide() {
     hide();
     if (onHidden_) onHidden_();

@@ -20,7 +20,7 @@ public:
     FormWindow(forms::Form& form, const text::CodePage& page, QWidget* below);
     ~FormWindow() override;
 
-    void Show() override;
+    void Show() override { show(); }
     void Hide() override;
     void Update() override;
     forms::Point Position() const override;

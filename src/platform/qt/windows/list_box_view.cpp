@@ -19,10 +19,6 @@ void ListRows::Reload() {
     endResetModel();
 }
 
-int ListRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count_;
-}
-
 QVariant ListRows::data(const QModelIndex& index, int role) const {
     // The list may have shrunk since the last reload.
     const bool isWanted = role == Qt::DisplayRole || role == Qt::TextAlignmentRole;
@@ -69,10 +65,6 @@ void ListBoxWidget::ShowState() {
     verticalScrollBar()->setValue(top);  // the current row has scrolled into view, wanted or not
     if (list_->TakeScroll()) scrollTo(currentIndex());
     selectionChanged_ = false;
-}
-
-int ListBoxWidget::TopRow() const {
-    return std::max(indexAt({0, 0}).row(), 0);
 }
 
 void ListBoxWidget::ShowSelection() {

@@ -21,7 +21,7 @@ public:
     /// Takes over the items of the list after they have changed.
     void Reload();
 
-    int rowCount(const QModelIndex& parent = {}) const override;
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : count_; }
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
@@ -44,7 +44,7 @@ public:
     /// To be called once, before the widget shows.
     void SetList(forms::ListBox& list, const text::CodePage& page);
     void ShowState();
-    int TopRow() const;
+    int TopRow() const { return std::max(indexAt({0, 0}).row(), 0); }
 
 protected:
     bool event(QEvent* event) override;

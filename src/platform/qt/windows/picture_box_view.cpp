@@ -49,10 +49,6 @@ forms::Canvas& PictureBoxView::Canvas() {
     return canvas_;
 }
 
-void PictureBoxView::ShowState() {
-    Widget().SetBordered(Control().Bordered());
-}
-
 QIcon ProgramIcon() {
     QSvgRenderer picture(PicturePath(QStringLiteral("halvenmoor")));
     QIcon icon;

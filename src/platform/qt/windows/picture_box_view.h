@@ -36,7 +36,7 @@ public:
     forms::Canvas& Canvas();
 
 private:
-    void ShowState() override;
+    void ShowState() override { Widget().SetBordered(Control().Bordered()); }
 
     ImageCanvas canvas_;
 };
