@@ -1,16 +1,15 @@
 #include "platform/qt/windows/control_view.h"
 
 #include "platform/qt/windows/caption.h"
-#include "platform/qt/windows/check_box_view.h"
 #include "platform/qt/windows/combo_box_view.h"
 #include "platform/qt/windows/command_button_view.h"
 #include "platform/qt/windows/conversions.h"
 #include "platform/qt/windows/frame_view.h"
 #include "platform/qt/windows/label_view.h"
 #include "platform/qt/windows/list_box_view.h"
-#include "platform/qt/windows/option_button_view.h"
 #include "platform/qt/windows/picture_box_view.h"
 #include "platform/qt/windows/text_box_view.h"
+#include "platform/qt/windows/toggle_view.h"
 
 #include <QTextDocument>
 
@@ -31,24 +30,17 @@ QString ToToolTip(const QString& text) {
 std::unique_ptr<ControlView> MakeByKind(forms::Control& control, QWidget& parent,
                                         const text::CodePage& page) {
     switch (control.Kind()) {
-        case forms::ControlKind::Label:
-            return Make<LabelView>(control, parent, page);
-        case forms::ControlKind::Frame:
-            return Make<FrameView>(control, parent, page);
-        case forms::ControlKind::CommandButton:
-            return Make<CommandButtonView>(control, parent, page);
-        case forms::ControlKind::CheckBox:
-            return Make<CheckBoxView>(control, parent, page);
-        case forms::ControlKind::OptionButton:
-            return Make<OptionButtonView>(control, parent, page);
-        case forms::ControlKind::ListBox:
-            return Make<ListBoxView>(control, parent, page);
-        case forms::ControlKind::ComboBox:
-            return Make<ComboBoxView>(control, parent, page);
-        case forms::ControlKind::PictureBox:
-            return Make<PictureBoxView>(control, parent, page);
-        case forms::ControlKind::TextBox:
-            return Make<TextBoxView>(control, parent, page);
+        // clang-format off
+        case forms::ControlKind::Label:         return Make<LabelView>(control, parent, page);
+        case forms::ControlKind::Frame:         return Make<FrameView>(control, parent, page);
+        case forms::ControlKind::CommandButton: return Make<CommandButtonView>(control, parent, page);
+        case forms::ControlKind::CheckBox:      return Make<CheckBoxView>(control, parent, page);
+        case forms::ControlKind::OptionButton:  return Make<OptionButtonView>(control, parent, page);
+        case forms::ControlKind::ListBox:       return Make<ListBoxView>(control, parent, page);
+        case forms::ControlKind::ComboBox:      return Make<ComboBoxView>(control, parent, page);
+        case forms::ControlKind::PictureBox:    return Make<PictureBoxView>(control, parent, page);
+        case forms::ControlKind::TextBox:       return Make<TextBoxView>(control, parent, page);
+            // clang-format on
     }
     return nullptr;
 }

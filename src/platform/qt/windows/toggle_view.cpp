@@ -1,4 +1,4 @@
-#include "platform/qt/windows/wrapping_toggle.h"
+#include "platform/qt/windows/toggle_view.h"
 
 #include "platform/qt/windows/conversions.h"
 
@@ -41,7 +41,25 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
 }
 
-template class WrappingToggle<QCheckBox>;
-template class WrappingToggle<QRadioButton>;
+template <class ControlClass, class Base>
+ToggleView<ControlClass, Base>::ToggleView(ControlClass& control, QWidget& parent, const text::CodePage& page)
+    : ToggleView::ViewOf(control, parent, page) {
+    QObject::connect(&this->Widget(), &Base::clicked, [this] {
+        if (!this->Control().UserPress()) this->Update();
+    });
+}
+
+template <class ControlClass, class Base>
+void ToggleView<ControlClass, Base>::ShowState() {
+    auto& button = this->Widget();
+    button.setText(WithoutShortcut(this->ShownCaption(button.CaptionRect().size(), Qt::TextWordWrap)));
+    const bool isExclusive = button.autoExclusive();
+    button.setAutoExclusive(false);  // a group would not let its last button go off
+    button.setChecked(this->Control().Value());
+    button.setAutoExclusive(isExclusive);
+}
+
+template class ToggleView<forms::CheckBox, QCheckBox>;
+template class ToggleView<forms::OptionButton, QRadioButton>;
 
 }  // namespace halvenmoor::qt

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "forms/controls.h"
+#include "platform/qt/windows/control_view.h"
+
 #include <QCheckBox>
 #include <QRadioButton>
 #include <type_traits>
@@ -22,5 +25,18 @@ protected:
 private:
     static constexpr bool kIsCheckBox = std::is_same_v<Base, QCheckBox>;
 };
+
+/// Option buttons with the same parent are one group, as in the form; so Qt lets the arrow keys move in it.
+template <class ControlClass, class Base>
+class ToggleView : public ViewOf<ControlClass, WrappingToggle<Base>> {
+public:
+    ToggleView(ControlClass& control, QWidget& parent, const text::CodePage& page);
+
+private:
+    void ShowState() override;
+};
+
+using CheckBoxView = ToggleView<forms::CheckBox, QCheckBox>;
+using OptionButtonView = ToggleView<forms::OptionButton, QRadioButton>;
 
 }  // namespace halvenmoor::qt
