@@ -5,8 +5,6 @@
 // Prints the CPU seconds from the click on Start to its end; the start of the program is not in them.
 
 #include "catalogue/frmMain.h"
-#include "platform/headless/manual_clock.h"
-#include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"

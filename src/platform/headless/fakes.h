@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/headless/manual_clock.h"
-#include "platform/headless/memory_settings.h"
 #include "platform/headless/services.h"
 #include "platform/headless/toolkit.h"
 #include "platform/platform.h"

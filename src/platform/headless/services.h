@@ -3,10 +3,13 @@
 #include "platform/services.h"
 #include "platform/version.h"
 
+#include <cmath>
 #include <deque>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -28,6 +31,42 @@ public:
 
 private:
     std::string programFolder_;
+};
+
+/// A clock that moves only when it is told to.
+class ManualClock : public platform::Clock {
+public:
+    explicit ManualClock(double secondsSinceMidnight = 0) : seconds_(secondsSinceMidnight) {}
+
+    double TimeOfDay() override { return seconds_; }
+
+    /// Moves on by so many seconds, across midnight too.
+    void Advance(double seconds) { seconds_ = std::fmod(seconds_ + seconds, kSecondsPerDay); }
+
+private:
+    static constexpr double kSecondsPerDay = 86400;
+
+    double seconds_;
+};
+
+/// A settings store that lasts as long as the object; empty at first.
+class MemorySettings : public platform::SettingsStore {
+public:
+    std::string GetSetting(std::string_view application, std::string_view section, std::string_view name,
+                           std::string_view defaultValue) override {
+        const auto found = values_.find(Key(application, section, name));
+        return found == values_.end() ? std::string(defaultValue) : found->second;
+    }
+
+    void SaveSetting(std::string_view application, std::string_view section, std::string_view name,
+                     std::string_view value) override {
+        values_.insert_or_assign(Key(application, section, name), std::string(value));
+    }
+
+private:
+    using Key = std::tuple<std::string, std::string, std::string>;
+
+    std::map<Key, std::string> values_;
 };
 
 /// Keeps the messages that would have been shown.

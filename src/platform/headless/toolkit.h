@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/desktop.h"
-#include "platform/headless/manual_clock.h"
 #include "platform/headless/memory_canvas.h"
+#include "platform/headless/services.h"
 
 #include <deque>
 #include <functional>
