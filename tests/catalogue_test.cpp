@@ -1,4 +1,4 @@
-#include "catalogue/camera_list.h"
+#include "core/camera_files.h"
 #include "tests/support/test_program.h"
 
 namespace halvenmoor {

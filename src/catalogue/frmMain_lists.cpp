@@ -1,9 +1,9 @@
 // The lists of the main window: their files, moves, drags, selections, and the buttons that depend on them.
 
 #include "base/failure.h"
-#include "catalogue/camera_list.h"
 #include "catalogue/classification.h"
 #include "catalogue/frmMain.h"
+#include "core/camera_files.h"
 
 #include <exception>
 #include <utility>

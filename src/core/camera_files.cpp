@@ -1,7 +1,9 @@
 #include "core/camera_files.h"
 
+#include "base/failure.h"
+
 #include <algorithm>
-#include <string_view>
+#include <exception>
 #include <utility>
 
 namespace halvenmoor {
@@ -25,6 +27,22 @@ std::optional<std::string> CameraFiles::FileOf(const std::string& entry) const {
     const auto found = extensions_.find(entry);
     if (found == extensions_.end()) return std::nullopt;
     return path_ + entry + found->second;
+}
+
+std::vector<std::string> FindCameraFiles(platform::HostFiles& files, std::string_view folder) {
+    std::vector<std::string> entries;
+    try {
+        files.Search(folder, kExtension, [&](std::string_view name) {
+            entries.emplace_back(name.substr(0, name.size() - kExtension.size()));
+        });
+    } catch (const std::exception&) {
+        TraceFailure("list the camera files", folder);
+        // What was found so far is shown.
+    }
+    // Names that differ only in the case of the extension are one entry.
+    std::sort(entries.begin(), entries.end());
+    entries.erase(std::unique(entries.begin(), entries.end()), entries.end());
+    return entries;
 }
 
 }  // namespace halvenmoor

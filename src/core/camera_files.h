@@ -4,7 +4,9 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace halvenmoor {
 
@@ -22,5 +24,9 @@ private:
     std::string path_;
     std::unordered_map<std::string, std::string> extensions_;  // by entry
 };
+
+/// The camera files of a folder as entries, each once, sorted by their bytes. A failure ends the search
+/// silently; what was found before it counts. The folder ends with a separator.
+std::vector<std::string> FindCameraFiles(platform::HostFiles& files, std::string_view folder);
 
 }  // namespace halvenmoor
