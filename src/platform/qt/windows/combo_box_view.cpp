@@ -18,7 +18,7 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, QWidget& parent, const text::Co
     });
     // The box's own signal would also tell of a choice.
     QObject::connect(Widget().lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
-        if (!Control().UserTyped(ToUtf8(text))) Update();
+        if (!Control().UserTyped(text.toStdString())) Update();
     });
 }
 

@@ -32,10 +32,6 @@ QString WithoutShortcut(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }
 
-std::string ToUtf8(const QString& text) {
-    return text.toStdString();
-}
-
 QFont ToFont(const forms::Font& font) {
     QFont result;
     result.setFamilies({QString::fromStdString(font.name), QStringLiteral("DejaVu Sans")});

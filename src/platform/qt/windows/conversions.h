@@ -9,7 +9,6 @@
 #include <QFont>
 #include <QRect>
 #include <QString>
-#include <string>
 #include <string_view>
 
 namespace halvenmoor::qt {
@@ -28,8 +27,6 @@ QString WithoutShortcut(QString text);
 
 /// The side on which lines of such a text begin.
 Qt::Alignment SideOf(const QString& text);
-
-std::string ToUtf8(const QString& text);
 
 /// The font in the pixel size that belongs to its points.
 QFont ToFont(const forms::Font& font);

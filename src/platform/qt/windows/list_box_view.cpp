@@ -173,9 +173,4 @@ void ListBoxWidget::ShowWholeText(const QHelpEvent& event) const {
     QToolTip::showText(event.globalPos(), isCut ? "<p style='white-space:pre'>" + text + "</p>" : text);
 }
 
-ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, const text::CodePage& page)
-    : ViewOf(list, parent, page) {
-    Widget().SetList(list, page);
-}
-
 }  // namespace halvenmoor::qt

@@ -77,7 +77,10 @@ private:
 
 class ListBoxView : public ViewOf<forms::ListBox, ListBoxWidget> {
 public:
-    ListBoxView(forms::ListBox& list, QWidget& parent, const text::CodePage& page);
+    ListBoxView(forms::ListBox& list, QWidget& parent, const text::CodePage& page)
+        : ViewOf(list, parent, page) {
+        Widget().SetList(list, page);
+    }
 
     int TopRow() const { return Widget().TopRow(); }
     /// In pixels; 0 where there is no row.
