@@ -57,18 +57,6 @@ bool SplitFields(FieldList& fields, std::string_view line) {
     return true;
 }
 
-}  // namespace
-
-bool SplitCameraLine(FieldList& fields, std::string_view& line) {
-    fields.count = 0;
-    const bool isSound = SplitFields(fields, line);
-    if (fields.count == 0) fields.Append({});
-    line = {};
-    return isSound;
-}
-
-namespace {
-
 /// A coordinate of the usual form: a sign or none, one to three digits, a point, digits or none.
 struct PlainDegrees {
     unsigned whole = 0;
@@ -116,6 +104,14 @@ bool IsCoordinateText(std::string_view text) {
 }
 
 }  // namespace
+
+bool SplitCameraLine(FieldList& fields, std::string_view& line) {
+    fields.count = 0;
+    const bool isSound = SplitFields(fields, line);
+    if (fields.count == 0) fields.Append({});
+    line = {};
+    return isSound;
+}
 
 bool IsValidPosition(std::string_view x, std::string_view y) {
     const auto plainX = ReadPlainDegrees(x);
