@@ -12,17 +12,6 @@ constexpr char AsciiLowerCase(char byte) {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
 }
 
-void AppendFoldedCharacters(std::string& out, CharacterReader reader) {
-    while (!reader.AtEnd()) {
-        const char32_t character = reader.Next();
-        if (character < 0x80) {
-            out.push_back(AsciiLowerCase(static_cast<char>(character)));
-        } else {
-            AppendUtf8(out, FoldCase(character));
-        }
-    }
-}
-
 /// Whether both readers give the same folded characters up to their ends.
 bool EqualToTheEnd(CharacterReader& a, CharacterReader& b) {
     while (!a.AtEnd() && !b.AtEnd()) {
@@ -45,7 +34,8 @@ std::string FoldedKey(std::string_view bytes, const CodePage& page) {
 
 void AppendFoldedKey(std::string& out, std::string_view bytes, const CodePage& page) {
     if (!IsAscii(bytes)) {
-        return AppendFoldedCharacters(out, CharacterReader(bytes, page));
+        for (CharacterReader reader(bytes, page); !reader.AtEnd();) AppendUtf8(out, FoldCase(reader.Next()));
+        return;
     }
     const std::size_t start = out.size();
     out.append(bytes);
