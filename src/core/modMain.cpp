@@ -72,16 +72,11 @@ void modMain::ReportFileSystemObjectError(int number, const std::string& descrip
 }
 
 std::string modMain::DataFolder(std::string_view word) const {
-    std::string folder = WorkspaceRoot;
-    folder += platform_.programInfo.Separator();
-    folder += word;
-    return folder + FolderSuffix;
+    return (WorkspaceRoot + platform_.programInfo.Separator()).append(word) + FolderSuffix;
 }
 
 std::string modMain::CameraFile(std::string_view entry) const {
-    std::string path = CameraFolder();
-    path += entry;
-    return path + ".asc";
+    return CameraFolder().append(entry) + ".asc";
 }
 
 std::string modMain::ResultsFile() const {
