@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/failure.h"
+#include "base/text/numbers.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -20,6 +23,10 @@ inline bool IsArrayEmpty(const PatternList& list) {
 
 /// The patterns for a walk from the first to the last. Throws Failure(TypeMismatch) when there is no list,
 /// and Failure(Overflow) for more than kMaxPatterns.
-const std::vector<std::string>& Elements(const PatternList& list);
+inline const std::vector<std::string>& Elements(const PatternList& list) {
+    if (IsArrayEmpty(list)) throw Failure(failure::TypeMismatch, "Type mismatch");
+    if (list->size() > kMaxPatterns) text::ThrowOverflow();
+    return *list;
+}
 
 }  // namespace halvenmoor
