@@ -95,11 +95,13 @@ TEST_F(Window, KeepsTheFocusWhereTheFormHasIt) {
     EXPECT_EQ(QApplication::focusWidget(), &Find("first"));
 }
 
-TEST_F(Window, NeitherCompletesNorAddsWhatIsTypedInTheCombo) {
+TEST_F(Window, ComboNeitherCompletesNorAddsWhatIsTypedNorHeedsTheWheel) {
     form.combo.OnChange = nullptr;
     form.combo.AddItem("two");
     desktop.Yield();
     Find<QComboBox>("combo").setEditText("");
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Find("combo"), &wheel);
     QTest::keyClick(&Find("combo"), Qt::Key_T);
     EXPECT_EQ(Find<QComboBox>("combo").currentText(), "t");
     QTest::keyClick(&Find("combo"), Qt::Key_Return);
