@@ -88,8 +88,10 @@ TEST_F(RealDiskTest, ADiskThatIsFullAnywhereKeepsWhatFits) {
         EXPECT_EQ(Others(), others);
         ExpectConsistentWindow(program.Window());
     }
-    const auto import = [this] { return DiskProgram(folder).Import(kTxt); };
-    EXPECT_EQ(WithSizeLimit(50, import), "PictureFinished") << "without a word";
+    const auto look = [](frmImport& form) { EXPECT_EQ(form.PictureFinished.ToolTip(), "\u2717 1 File(s)"); };
+    DiskProgram program(folder);
+    const auto import = [&] { return UserImports(program, program.Window(), kTxt, look); };
+    EXPECT_EQ(WithSizeLimit(50, import), "PictureFinished");
     EXPECT_EQ(CameraFiles(), (Disk{{kImportedTxt.begin()->first, LeftOf(kImportedTxt.begin()->second, 50)}}));
 }
 
@@ -136,7 +138,10 @@ TEST_F(RealDiskTest, SpecialFilesInItsFoldersHoldNothingUp) {
         EXPECT_EQ(folder.Text("txt/SpeedCamText.txt"), kHeader + kExported);
         EXPECT_EQ(program.Import(kOv2), special.importsOv2 ? "PictureFinished" : "PictureIncomplete");
         EXPECT_EQ(CameraFiles(), kImportedOv2);
-        EXPECT_EQ(program.Import(kTxt), "PictureFinished");
+        const auto look = [&](auto& form) {
+            EXPECT_NE(form.PictureFinished.ToolTip() == "\u2717 1 File(s)", special.importsOv2);
+        };
+        EXPECT_EQ(UserImports(program, program.Window(), kTxt, look), "PictureFinished");
         EXPECT_EQ(CameraFiles(), kImportedTxt);
         EXPECT_EQ(Others(), others);
         ExpectConsistentWindow(program.Window());

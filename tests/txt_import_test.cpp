@@ -29,8 +29,7 @@ TEST(TxtImportTest, TellsRecordsFromOtherLines) {
     EXPECT_EQ(program.Import(kTxt,
                              [](frmImport& dialog) {
                                  EXPECT_EQ(dialog.LabelAddedRecords.Caption(), "5 Camera(s)");
-                                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "7 Camera(s)");
-                                 EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "4 File(s)");
+                                 EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "\u2717 7 Camera(s)");
                              }),
               "PictureIncomplete");
     EXPECT_EQ(program.Items(0), (Strings{"Fixed_Camera_050", "Mobile_Camera_000", "RedLight_Camera_000",

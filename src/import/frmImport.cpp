@@ -35,6 +35,11 @@ std::string CountOf(std::int32_t count, const std::string& word) {
     return std::to_string(count) + " " + word + "(s)";
 }
 
+/// What an import left out. The cross keeps the number from reading like success.
+std::string LeftOut(std::int32_t count, const std::string& word) {
+    return count == 0 ? "" : "\u2717 " + CountOf(count, word);
+}
+
 }  // namespace
 
 frmImport::frmImport(frmMain& mainForm)
@@ -144,7 +149,7 @@ void frmImport::SyncTarget() const {
 
 bool frmImport::ConvertOv2(const ImportTask& task) {
     const std::int16_t failedFiles = ConvertOv2Files(task);
-    if (failedFiles > 0) PictureIncomplete.SetToolTip(CountOf(failedFiles, filesWord_));
+    PictureIncomplete.SetToolTip(LeftOut(failedFiles, filesWord_));
     return failedFiles == 0;
 }
 
@@ -154,7 +159,10 @@ bool frmImport::ConvertTxt(const ImportTask& task) {
     if (!StopRequested()) UpdateDisplay(Display::Ready);
     if (!StopRequested()) import.CollectAllSpeeds();
     if (!StopRequested()) import.WriteAllTypes();
-    if (import.BadLines() > 0) PictureIncomplete.SetToolTip(CountOf(import.BadLines(), camerasWord_));
+    const std::string files = LeftOut(import.FailedFiles(), filesWord_);
+    const std::string cameras = LeftOut(import.BadLines(), camerasWord_);
+    PictureFinished.SetToolTip(files);  // failed files alone do not make the import incomplete
+    PictureIncomplete.SetToolTip(cameras + (cameras.empty() || files.empty() ? "" : ", ") + files);
     return import.BadLines() == 0;
 }
 

@@ -120,6 +120,7 @@ void TxtImport::ReadTxtFile(const std::string& path) {
         file->Close();
     } catch (const std::exception&) {
         TraceFailure("read a TXT source", path);
+        ++failedFiles_;
         // The records taken so far stay; the rest of the file is lost.
     }
 }
@@ -172,6 +173,7 @@ void TxtImport::WriteAllTypes() {
             WriteTypeFiles(type);
         } catch (const std::exception&) {
             TraceFailure("write the camera files of a type", kTypeWords[static_cast<std::size_t>(type)]);
+            ++failedFiles_;
             // The speeds of this type that are not written yet are lost.
         }
     }

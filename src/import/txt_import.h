@@ -26,6 +26,8 @@ public:
 
     /// Lines that look like records but have no type.
     std::int32_t BadLines() const { return badLines_; }
+    /// Sources that were not read to their end, and camera files, at most one a type, that were not written.
+    std::int32_t FailedFiles() const { return failedFiles_; }
 
 private:
     void ReadTxtFile(const std::string& path);
@@ -41,6 +43,7 @@ private:
     std::int32_t addedRecords_ = 0;
     std::int32_t shownRecords_ = 0;
     std::int32_t badLines_ = 0;
+    std::int32_t failedFiles_ = 0;
 };
 
 }  // namespace halvenmoor
