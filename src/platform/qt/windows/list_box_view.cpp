@@ -41,6 +41,7 @@ ListBoxWidget::ListBoxWidget(QWidget* parent) : QListView(parent) {
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideMiddle);  // the speed stands at the end of a name
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setDragEnabled(true);
     setAcceptDrops(true);
