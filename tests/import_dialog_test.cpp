@@ -76,7 +76,8 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
                 program.ExpectDone(dialog);
                 EXPECT_EQ(ShownPicture(dialog), "PictureFinished");
                 EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "2 File(s)");
-                EXPECT_EQ(dialog.LabelAddedRecords.Caption(), source == kTxt ? "3 Camera(s)" : "");
+                EXPECT_EQ(dialog.LabelAddedRecords.AccessibleName(),
+                          source == kTxt ? "3 Camera(s)" : "Camera(s)");
                 EXPECT_TRUE(program.Items(1).empty()) << "emptied at once";
                 program.Click(dialog.OptionSource[3 - source]);
                 EXPECT_TRUE(dialog.OptionSource[source].Value()) << "a run cannot be changed any more";

@@ -10,17 +10,6 @@ namespace {
 
 constexpr forms::Point kOffsetInMainForm{150, 665};
 
-/// Shows a counter of each type and their sum.
-void ShowCounter(forms::ControlArray<forms::Label, 0, 5>& labels, const TypeTable<std::int32_t>& counter) {
-    std::int32_t total = 0;
-    for (int type = kFirstType; type <= kLastType; ++type) {
-        const std::int32_t count = counter[static_cast<std::size_t>(type)];
-        labels[type].SetCaption(std::to_string(count));
-        total = text::CheckedAdd(total, count);
-    }
-    labels[0].SetCaption(std::to_string(total));
-}
-
 }  // namespace
 
 frmResults::frmResults(const modExport& exports)
@@ -35,9 +24,9 @@ void frmResults::Load() {
     MoveTo(core_.MainForm->Position() + kOffsetInMainForm);
     LoadShowResultsOption();
     SetResultsCaptions();
-    ShowCounter(LabelFilesResult, exports_.FilesProcessed);
-    ShowCounter(LabelExportedResult, exports_.CamerasExported);
-    ShowCounter(LabelSkippedResult, exports_.CamerasSkipped);
+    ShowCounter(LabelFilesResult, exports_.FilesProcessed, LabelTitleProcessed);
+    ShowCounter(LabelExportedResult, exports_.CamerasExported, LabelTitleExported);
+    ShowCounter(LabelSkippedResult, exports_.CamerasSkipped, LabelTitleSkipped);
 }
 
 void frmResults::LoadShowResultsOption() {
@@ -60,6 +49,25 @@ void frmResults::SetResultsCaptions() {
     LabelTotals.SetCaption(names.LabelTotalFilesAndCameras());
     ButtonCloseResults.SetCaption(names.ButtonCloseResults());
     CheckShowResults.SetCaption(names.CheckShowResults());
+}
+
+/// Shows a counter of each type and their sum.
+void frmResults::ShowCounter(forms::ControlArray<forms::Label, 0, 5>& labels,
+                             const TypeTable<std::int32_t>& counter, const forms::Label& heading) {
+    std::int32_t total = 0;
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        const std::int32_t count = counter[static_cast<std::size_t>(type)];
+        ShowNumber(labels[type], count, FrameType[type], heading);
+        total = text::CheckedAdd(total, count);
+    }
+    ShowNumber(labels[0], total, FrameAllTypes, heading);
+}
+
+/// A screen reader says the number with its row and column.
+void frmResults::ShowNumber(forms::Label& label, std::int32_t number, const forms::Frame& row,
+                            const forms::Label& heading) {
+    label.SetCaption(std::to_string(number));
+    label.SetAccessibleName(row.Caption() + ", " + heading.Caption() + ": " + label.Caption());
 }
 
 void frmResults::Paint() {

@@ -17,6 +17,10 @@ protected:
 private:
     void LoadShowResultsOption();
     void SetResultsCaptions();
+    void ShowCounter(forms::ControlArray<forms::Label, 0, 5>& labels, const TypeTable<std::int32_t>& counter,
+                     const forms::Label& heading);
+    void ShowNumber(forms::Label& label, std::int32_t number, const forms::Frame& row,
+                    const forms::Label& heading);
 
     const modExport& exports_;
     const modMain& core_;

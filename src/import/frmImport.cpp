@@ -78,6 +78,8 @@ void frmImport::ApplyImportTexts() {
     PictureIncomplete.SetAccessibleName(Caption() + " \u2717");
     filesWord_ = names.LabelNumberOfFiles();
     camerasWord_ = names.LabelNumberOfCameras();
+    // A label without any name would be called by that of its frame.
+    LabelAddedRecords.SetAccessibleName(camerasWord_ + "(s)");
 }
 
 void frmImport::Paint() {
@@ -255,6 +257,7 @@ void frmImport::FileDone() {
 
 void frmImport::RecordsAdded(std::int32_t count) {
     LabelAddedRecords.SetCaption(CountOf(count, camerasWord_));
+    LabelAddedRecords.SetAccessibleName(LabelAddedRecords.Caption());
 }
 
 std::string frmImport::Folder(std::initializer_list<std::string_view> words) const {

@@ -49,8 +49,7 @@ void ExpectAllNamed(forms::Form& form) {
         const bool isNamedByChoice = control->Kind() == forms::ControlKind::ComboBox;
         const QString name = isNamedByChoice ? LabelOf(*control) : told->text(QAccessible::Name);
         EXPECT_EQ(name.toStdString(), control->AccessibleName());
-        const bool isEmptyLabel = control->Kind() == forms::ControlKind::Label && control->Caption().empty();
-        EXPECT_TRUE(isEmptyLabel || !control->AccessibleName().empty()) << control->Name();
+        EXPECT_FALSE(control->AccessibleName().empty()) << control->Name();
     }
 }
 
