@@ -99,6 +99,7 @@ TEST_F(Window, ComboNeitherCompletesNorAddsWhatIsTypedNorHeedsTheWheel) {
     form.combo.OnChange = nullptr;
     form.combo.AddItem("two");
     desktop.Yield();
+    EXPECT_EQ(Find<QComboBox>("combo").maxVisibleItems(), 1) << "all";
     Find<QComboBox>("combo").setEditText("");
     QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&Find("combo"), &wheel);

@@ -28,6 +28,7 @@ void ComboBoxView::ShowState() {
         for (int i = 0; i < Control().ListCount(); ++i) items << ToRow(Control().List(i), CodePage());
         Widget().clear();
         Widget().addItems(items);
+        Widget().setMaxVisibleItems(Control().ListCount());  // Qt cuts the list to the screen
         shownItems_ = Control().ItemsVersion();
     }
     const QString name = ToText(Control().AccessibleName(), CodePage());
