@@ -25,7 +25,7 @@ const dirent* Directory::Next() {
 
 Kind Directory::KindOf(const dirent& entry) const {
     const bool isKnown = entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN;
-    if (isKnown) return posix::KindOf(DTTOIF(entry.d_type));
+    if (isKnown) return posix::KindOf(static_cast<mode_t>(DTTOIF(entry.d_type)));
     struct stat info {};
     const bool isThere = ::fstatat(::dirfd(stream_.get()), entry.d_name, &info, 0) == 0;
     return isThere ? posix::KindOf(info.st_mode) : Kind::Nothing;
