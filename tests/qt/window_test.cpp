@@ -155,7 +155,6 @@ TEST_F(Window, GivesAModalFormAllEvents) {
         QTest::keyClick(&shown, Qt::Key_Escape);
     };
     desktop.ShowModal(dialog);
-    EXPECT_FALSE(dialog.IsOpen());
     EXPECT_EQ(Heard(), Words{"activate"});
 }
 
