@@ -52,7 +52,7 @@ std::string Escaped(std::string_view value) {
         isHex = (isControl && known == std::string_view::npos) ||
                 (isHex && kHexDigits.find(c) != std::string_view::npos);
         if (isHex) {
-            const auto number = static_cast<std::size_t>(c);
+            const auto number = static_cast<unsigned char>(c);
             stored += {'\\', 'x', kHexDigits[number / 16], kHexDigits[number % 16]};
         } else if (known != std::string_view::npos) {
             stored += {'\\', kEscapeLetters[known]};
