@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace halvenmoor::qt {
 
@@ -13,28 +14,21 @@ forms::PixelRect ImageCanvas::ClientRect() const {
 }
 
 void ImageCanvas::FillRect(const forms::PixelRect& area, forms::Color color) {
-    Paint([&](QPainter& painter) { painter.fillRect(ToRect(area), ToQColor(color)); });
+    Record(ToRect(area), color);
 }
 
 void ImageCanvas::DrawText(std::string_view text, const forms::PixelRect& area, const forms::Font& font,
                            forms::Color color) {
-    Paint([&](QPainter& painter) {
-        painter.setFont(ToFont(font));
-        painter.setPen(ToQColor(color));
-        painter.drawText(ToRect(area), Qt::AlignCenter | Qt::TextSingleLine, ToText(text, page_));
-    });
+    Record(ToRect(area), color, Text{std::string(text), font});
 }
 
 void ImageCanvas::DrawLine(forms::PixelPoint from, forms::PixelPoint to, forms::Color color) {
-    const int dx = to.x - from.x;
-    const int dy = to.y - from.y;
-    const int steps = std::max(std::abs(dx), std::abs(dy));
-    const QBrush brush(ToQColor(color));
-    Paint([&](QPainter& painter) {
-        for (int i = 0; i < steps; ++i) {
-            painter.fillRect(from.x + dx * i / steps, from.y + dy * i / steps, 1, 1, brush);
-        }
-    });
+    const int width = std::abs(to.x - from.x);
+    const int height = std::abs(to.y - from.y);
+    if (width == 0 && height == 0) return;
+    // A line to the left or up begins beside its end, which is left out.
+    const QPoint corner(std::min(from.x, to.x + 1), std::min(from.y, to.y + 1));
+    Record({corner, QSize(std::max(width, 1), std::max(height, 1))}, color);
 }
 
 void ImageCanvas::SetClip(const forms::PixelRect& area) {
@@ -42,6 +36,11 @@ void ImageCanvas::SetClip(const forms::PixelRect& area) {
 }
 
 void ImageCanvas::Refresh() {
+    const bool isShown = !FitImage() && drawing_ == shown_;
+    shown_.swap(drawing_);
+    drawing_.clear();
+    if (isShown) return;
+    PaintImage();
     // Painting within painting is not possible; the widget paints right after.
     if (widget_.window()->testAttribute(Qt::WA_WState_InPaintEvent)) {
         widget_.update();
@@ -50,23 +49,37 @@ void ImageCanvas::Refresh() {
     }
 }
 
-template <class Drawing>
-void ImageCanvas::Paint(const Drawing& drawing) {
-    FitImage();
-    if (image_.isNull() || (clip_ && clip_->isEmpty())) return;
-    QPainter painter(&image_);
-    if (clip_) painter.setClipRect(*clip_);
-    drawing(painter);
+void ImageCanvas::Record(const QRect& area, forms::Color color, std::optional<Text> text) {
+    if (clip_ && clip_->isEmpty()) return;
+    drawing_.push_back({area, color, std::move(text), clip_});
 }
 
-void ImageCanvas::FitImage() {
+bool ImageCanvas::FitImage() {
     const double scale = widget_.devicePixelRatioF();
     const QSize size = (QSizeF(ToRect(ClientRect()).size()) * scale).toSize();
-    if (image_.size() == size) return;
+    if (image_.size() == size && image_.devicePixelRatio() == scale) return false;
     image_ = QImage(size, QImage::Format_RGB32);
     image_.setDevicePixelRatio(scale);
     image_.fill(widget_.palette().color(QPalette::Window));
     widget_.setAttribute(Qt::WA_OpaquePaintEvent);
+    return true;
+}
+
+void ImageCanvas::PaintImage() {
+    if (image_.isNull()) return;
+    const QRect all = ToRect(ClientRect());
+    QPainter painter(&image_);
+    for (const Command& command : shown_) {
+        painter.setClipRect(command.clip.value_or(all));
+        if (!command.text) {
+            painter.fillRect(command.area, ToQColor(command.color));
+            continue;
+        }
+        painter.setFont(ToFont(command.text->font));
+        painter.setPen(ToQColor(command.color));
+        painter.drawText(command.area, Qt::AlignCenter | Qt::TextSingleLine,
+                         ToText(command.text->text, page_));
+    }
 }
 
 }  // namespace halvenmoor::qt
