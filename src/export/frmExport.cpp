@@ -82,7 +82,7 @@ bool frmExport::RunExport(std::string_view targetFile) {
         const std::int16_t count =
             text::CheckedInt16(static_cast<long long>(exports_.ExportFileTable.size()));
         for (std::int16_t i = 0; i < count; ++i) {
-            core_.Desktop().Yield();
+            core_.Desktop().YieldIfDue();
             ShowFileProgress(static_cast<std::int16_t>(i + 1), count);
             const ExportFile& source = exports_.ExportFileTable[static_cast<std::size_t>(i)];
             file = source.path;
