@@ -82,7 +82,8 @@ protected:
 
 TEST_F(Bounded, LengthsThatAFileDoesNotHaveTakeNothing) {
     for (const char type : {'\0', '\2', '\3'}) {
-        folder.Put("import/ov2/a.ov2", std::string(1, type) + "\xFF\xFF\xFF\x7F" + "xxxxyyyyname");
+        folder.Put("import/ov2/a.ov2", std::string(1, type).append("\xFF\xFF\xFF\x7F"
+                                                                   "xxxxyyyyname"));
         ExpectImportTakesAtMost(0, kOv2);
     }
 }
