@@ -4,9 +4,9 @@
 #include "base/text/compare.h"
 #include "export/camera_line.h"
 #include "export/export_run.h"
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
-#include "fuzz/world.h"
 #include "src/program.h"
 
 using namespace halvenmoor;
@@ -17,8 +17,8 @@ namespace {
 const std::vector<std::pair<int, std::string>> kNamePatterns{
     {1, "fix"}, {2, "Stra\xC3\x9F"}, {3, "\xC4MPEL"}, {4, "x"}, {5, "mobil"}};
 
-struct ExportWorld : fuzz::World {
-    ExportWorld() {
+struct MemoryExport : fuzz::MemoryPlatform {
+    MemoryExport() {
         memory.AddFolder("/p/demo/asc_demo");
         program.Start();
     }
@@ -81,22 +81,22 @@ Exported SlowExport(std::string_view file, int typeOfList, int structure) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static ExportWorld world;
+    static MemoryExport platform;
     if (size == 0) return 0;
     const int structure = 1 + data[0] % 3;
     const std::string_view file = fuzz::Text(data, size).substr(1);
-    world.UseStructure(structure);
-    world.memory.Put("/p/a.asc", file);
+    platform.UseStructure(structure);
+    platform.memory.Put("/p/a.asc", file);
 
-    modExport& exports = world.program.Exports();
+    modExport& exports = platform.program.Exports();
     exports.FilesProcessed = exports.CamerasExported = exports.CamerasSkipped = {};
     ExportRun run(exports, "/p/target.txt");
     run.Run({"/p/a.asc", 4, "50"});
     run.Finish();
-    world.memory.ForgetCalls();
+    platform.memory.ForgetCalls();
 
     const Exported slow = SlowExport(file, 4, structure);
-    Require(world.memory.Text("/p/target.txt") == slow.target, "the target is the one of the slow export");
+    Require(platform.memory.Text("/p/target.txt") == slow.target, "the target is the one of the slow export");
     Require(exports.CamerasExported == slow.cameras, "what is exported is counted");
     Require(exports.CamerasSkipped == slow.skipped, "what is skipped is counted");
     return 0;

@@ -1,8 +1,8 @@
 // A language file, and the marks of its texts.
 
 #include "base/text/decode.h"
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
-#include "fuzz/world.h"
 #include "ui/language/cNamesClass.h"
 #include "ui/language/profile.h"
 
@@ -11,10 +11,11 @@ using fuzz::Require;
 
 namespace {
 
-std::optional<std::string> Read(fuzz::World& world, std::string_view text) {
-    world.memory.Put("/x.ini", text);
-    world.memory.ForgetCalls();
-    return ReadProfileValue(world.memory, "/x.ini", "Halvenmoor", "ButtonStart", text::WindowsCodePage(1252));
+std::optional<std::string> Read(fuzz::MemoryPlatform& platform, std::string_view text) {
+    platform.memory.Put("/x.ini", text);
+    platform.memory.ForgetCalls();
+    return ReadProfileValue(platform.memory, "/x.ini", "Halvenmoor", "ButtonStart",
+                            text::WindowsCodePage(1252));
 }
 
 void RequireShowable(const std::string& shown) {
@@ -25,12 +26,12 @@ void RequireShowable(const std::string& shown) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::World world;
+    static fuzz::MemoryPlatform platform;
     const std::string text(fuzz::Text(data, size));
     // A value of this key first, so that most inputs get as far as the marks.
     for (const std::string& file : {text, "[Halvenmoor]\nButtonStart=" + text}) {
-        const auto value = Read(world, file);
-        Require(value == Read(world, file + "\r\n"), "the end of the last line makes no difference");
+        const auto value = Read(platform, file);
+        Require(value == Read(platform, file + "\r\n"), "the end of the last line makes no difference");
         if (!value) continue;
         Require(text::IsValidUtf8(*value), "a value is UTF-8");
         Require(text::CharacterCount(*value) <= kMaxProfileValue, "a value is cut");

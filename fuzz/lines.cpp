@@ -1,7 +1,7 @@
 // The lines of a text file: read in one piece, and byte by byte.
 
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
-#include "fuzz/world.h"
 #include "platform/posix/streams.h"
 #include "tools/file_helpers.h"
 

@@ -1,9 +1,9 @@
 // The import of an OV2 file, compared with a plain walk over its records, and read back as a camera file.
 
 #include "base/text/numbers.h"
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
-#include "fuzz/world.h"
 #include "import/ov2_import.h"
 #include "import/ov2_record.h"
 
@@ -127,23 +127,23 @@ std::string Shifted(std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::ImportWorld world(2);
+    static fuzz::MemoryImport platform(2);
     const std::string_view bytes = fuzz::Text(data, size);
     DecodesByteByByte(bytes);
-    world.memory.Put("/source/a.ov2", bytes);
-    world.memory.Put("/source/b.ov2", Shifted(bytes));
-    const int failed = ConvertOv2Files(world.task);
-    world.memory.ForgetCalls();
+    platform.memory.Put("/source/a.ov2", bytes);
+    platform.memory.Put("/source/b.ov2", Shifted(bytes));
+    const int failed = ConvertOv2Files(platform.task);
+    platform.memory.ForgetCalls();
 
     const auto points = Walk(bytes);
     Require(failed == (points ? 0 : 2), "a file fails when one of its records is none");
     for (const char* path : {"/target/a.asc", "/target/b.asc"}) {
-        Require(world.memory.Has(path) == points.has_value(), "a file that fails leaves no camera file");
+        Require(platform.memory.Has(path) == points.has_value(), "a file that fails leaves no camera file");
         if (!points) continue;
-        const std::string cameraFile = world.memory.Text(path);
+        const std::string cameraFile = platform.memory.Text(path);
         Require(cameraFile == CameraFile(*points), "the camera file is the one of the plain walk");
         ReadsBack(cameraFile, *points);
-        world.memory.Remove(path);
+        platform.memory.Remove(path);
     }
     return 0;
 }

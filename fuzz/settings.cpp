@@ -1,18 +1,18 @@
 // Settings.ini. What is read, written down again, one line a section, reads as the same.
 
 #include "core/cSettingsClass.h"
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
-#include "fuzz/world.h"
 
 using namespace halvenmoor;
 using fuzz::Require;
 
 namespace {
 
-cSettingsClass Read(fuzz::World& world, std::string_view text) {
-    world.memory.Put("/Settings.ini", text);
-    cSettingsClass settings(world.memory, "/Settings.ini");
-    world.memory.ForgetCalls();
+cSettingsClass Read(fuzz::MemoryPlatform& platform, std::string_view text) {
+    platform.memory.Put("/Settings.ini", text);
+    cSettingsClass settings(platform.memory, "/Settings.ini");
+    platform.memory.ForgetCalls();
     return settings;
 }
 
@@ -47,12 +47,12 @@ void RequireSame(const cSettingsClass& a, const cSettingsClass& b) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::World world;
+    static fuzz::MemoryPlatform platform;
     const std::string text(fuzz::Text(data, size));
-    const cSettingsClass settings = Read(world, text);
+    const cSettingsClass settings = Read(platform, text);
     Require(settings.SourceStructure() >= 1 && settings.SourceStructure() <= 3, "a file gives a structure");
     Require(!settings.TypeFileNamePatterns()[0] && !settings.TypeSearchPatterns()[0], "type 0 has no list");
-    RequireSame(settings, Read(world, Written(settings)));
-    RequireSame(settings, Read(world, text + "\r\n; a remark\n"));
+    RequireSame(settings, Read(platform, Written(settings)));
+    RequireSame(settings, Read(platform, text + "\r\n; a remark\n"));
     return 0;
 }

@@ -1,9 +1,9 @@
 // The import of a TXT source. The first byte chooses the order of the extra fields.
 
 #include "base/text/compare.h"
+#include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
 #include "fuzz/slow_camera_line.h"
-#include "fuzz/world.h"
 #include "import/txt_import.h"
 
 #include <algorithm>
@@ -68,10 +68,10 @@ Expected SlowImport(std::string_view source, int structure) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
     const int structure = 1 + data[0] % 3;
-    fuzz::ImportWorld world(structure);
+    fuzz::MemoryImport platform(structure);
     const std::string_view source = fuzz::Text(data, size).substr(1);
-    world.memory.Put("/source/a.txt", source);
-    TxtImport import(world.task);
+    platform.memory.Put("/source/a.txt", source);
+    TxtImport import(platform.task);
     import.ReadTxtFiles();
     import.CollectAllSpeeds();
     import.WriteAllTypes();
@@ -79,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Expected expected = SlowImport(source, structure);
     Records written;
     int exported = 0;
-    for (const auto& [path, bytes] : world.memory.Everything()) {
+    for (const auto& [path, bytes] : platform.memory.Everything()) {
         if (!path.starts_with("/target/")) continue;
         const std::vector<std::string> lines = fuzz::Lines(bytes);
         Require(lines.size() > 2 && lines[1].empty(), "a camera file has two lines and then records");

@@ -3,7 +3,7 @@
 //
 // HALVENMOOR_LARGE says how many megabytes they have, 256 unless it is set, and 2047 at most.
 
-#include "fuzz/world.h"
+#include "fuzz/memory_platform.h"
 #include "import/txt_import.h"
 #include "tests/support/disk_program.h"
 
@@ -114,9 +114,9 @@ TEST_F(Bounded, RecordsOfTxtSourcesAreKeptUntilTheyAreWritten) {
 
     std::string manySpeeds;
     for (int speed = 0; speed < 100'000; ++speed) manySpeeds += ",,1," + std::to_string(speed) + "\n";
-    fuzz::ImportWorld world(1);
-    world.memory.Put("/source/a.txt", manySpeeds);
-    ExpectTakesAtMost(20 * manySpeeds.size(), [&] { TxtImport(world.task).ReadTxtFiles(); });
+    fuzz::MemoryImport platform(1);
+    platform.memory.Put("/source/a.txt", manySpeeds);
+    ExpectTakesAtMost(20 * manySpeeds.size(), [&] { TxtImport(platform.task).ReadTxtFiles(); });
 }
 
 TEST_F(Bounded, SettingsTakeNoStringForEachComma) {

@@ -117,14 +117,14 @@ TEST_F(Window, DrawsOnTheCanvasAtOnce) {
     form.picture.SetBordered(false);
     EXPECT_EQ(form.picture.GetCanvas()->ClientRect().right, 100);
 
-    constexpr forms::Color blue = forms::Rgb(0, 0, 255);
+    constexpr forms::Color kBlue = forms::Rgb(0, 0, 255);
     canvas.FillRect({0, 0, 100, 50}, forms::Rgb(255, 0, 0));
     canvas.SetClip({10, 10, 20, 20});
-    canvas.FillRect({0, 0, 100, 50}, blue);
+    canvas.FillRect({0, 0, 100, 50}, kBlue);
     canvas.ClearClip();
-    canvas.DrawLine({40, 5}, {30, 5}, blue);
-    canvas.DrawLine({60, 5}, {60, 9}, blue);
-    canvas.DrawText("MMMM", {60, 20, 100, 40}, {}, blue);
+    canvas.DrawLine({40, 5}, {30, 5}, kBlue);
+    canvas.DrawLine({60, 5}, {60, 9}, kBlue);
+    canvas.DrawText("MMMM", {60, 20, 100, 40}, {}, kBlue);
     canvas.Refresh();
 
     const QImage image = Find("picture").grab().toImage();

@@ -12,14 +12,14 @@
 namespace halvenmoor::fuzz {
 
 /// The platform in memory.
-struct World : headless::Fakes {
+struct MemoryPlatform : headless::Fakes {
     headless::MemoryFiles memory;
     platform::Platform services = With(memory, memory);
 };
 
 /// An import from /source to /target that nobody watches.
-struct ImportWorld : World, ImportProgress {
-    explicit ImportWorld(int sourceStructure)
+struct MemoryImport : MemoryPlatform, ImportProgress {
+    explicit MemoryImport(int sourceStructure)
         : task{services, *this, "/source/", "/target/", sourceStructure} {
         memory.AddFolder("/source");
         memory.AddFolder("/target");
