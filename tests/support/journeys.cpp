@@ -67,7 +67,7 @@ Disk CameraFiles(const JourneyProgram& program) {
 }
 
 /// Each camera file is an old one as it was or a new one, but there are never both. Of a new one lines may be
-/// missing: TXT sources lose them without a word.
+/// missing: TXT sources lose them silently.
 void ExpectConsistentImport(JourneyProgram& program, const Outcome& whole, int source) {
     const bool mustBeWhole =
         source == ImportProgram::kOv2 && (!program.faultLasts || program.shown == "PictureFinished");
