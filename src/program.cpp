@@ -11,7 +11,7 @@ namespace halvenmoor {
 namespace {
 
 forms::SortKey ListOrder(const platform::Locale& locale) {
-    return [&locale](std::string_view item) { return text::FoldedKey(item, locale.CodePage()); };
+    return [&locale](std::string_view item) { return text::CollationKey(item, locale.CodePage()); };
 }
 
 }  // namespace

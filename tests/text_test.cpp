@@ -114,6 +114,15 @@ TEST(Comparing, IgnoresCaseAndEncoding) {
     EXPECT_TRUE(EqualIgnoringCase("\xC6\xD3\xCA", "жук", WindowsCodePage(1251)));
 }
 
+TEST(Comparing, SortsByBaseLettersThenByCharacters) {
+    const std::vector<std::string> sorted = {
+        "_",    "a",    "Apfel", "a\u0308pfel", "\xE4pfel", "apfelb", "Çan", "İstanbul", "Ister",
+        "Iz",   "Łódź", "Lz",    "Zebra",       "άλφα",     "αλφα",   "αν",  "Ђак",      "дно",
+        "елка", "Ёлка", "Єлка",  "ест",         "жук",      "игла",   "йод"};
+    for (std::size_t i = 1; i < sorted.size(); ++i)
+        EXPECT_LT(CollationKey(sorted[i - 1], western), CollationKey(sorted[i], western)) << sorted[i];
+}
+
 TEST(Comparing, FindsEndings) {
     EXPECT_EQ(WithoutEnding("M1_70MPH", "mph", western), "M1_70");
     EXPECT_EQ(WithoutEnding("mph", "MPH", western), "");

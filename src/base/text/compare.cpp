@@ -20,6 +20,11 @@ bool EqualToTheEnd(CharacterReader& a, CharacterReader& b) {
     return a.AtEnd() && b.AtEnd();
 }
 
+/// Whether it is one of Unicode's block "Combining Diacritical Marks".
+constexpr bool IsCombiningMark(char32_t character) {
+    return character >= 0x0300 && character < 0x0370;
+}
+
 constexpr bool IsWordSeparator(char32_t character) {
     return character == U' ' || (character >= U'\t' && character <= U'\r') || character == U'\0';
 }
@@ -41,6 +46,19 @@ void AppendFoldedKey(std::string& out, std::string_view bytes, const CodePage& p
     out.append(bytes);
     char* key = out.data() + start;
     for (std::size_t i = 0; i < bytes.size(); ++i) key[i] = AsciiLowerCase(key[i]);
+}
+
+std::string CollationKey(std::string_view bytes, const CodePage& page) {
+    std::string key;
+    if (!IsAscii(bytes)) {
+        for (CharacterReader reader(bytes, page); !reader.AtEnd();) {
+            const char32_t folded = FoldCase(reader.Next());
+            if (!IsCombiningMark(folded)) AppendUtf8(key, BaseLetter(folded));
+        }
+        key += '\0';  // sorts before all characters of a name, so a text in ASCII is the first of its equals
+    }
+    AppendFoldedKey(key, bytes, page);
+    return key;
 }
 
 std::u32string FoldedCharacters(std::string_view bytes, const CodePage& page) {

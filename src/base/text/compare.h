@@ -18,6 +18,11 @@ std::string FoldedKey(std::string_view bytes, const CodePage& page);
 /// Appends the folded key to `out`, without any other allocation. The text must not lie in `out` itself.
 void AppendFoldedKey(std::string& out, std::string_view bytes, const CodePage& page);
 
+/// Keys that sort by bytes as people expect it of the texts: by their base letters, so that "äpfel" stands
+/// beside "apfel", and where these are equal by their case-folded characters. Marks written as characters of
+/// their own count for the latter only.
+std::string CollationKey(std::string_view bytes, const CodePage& page);
+
 /// The case-folded characters of a text.
 std::u32string FoldedCharacters(std::string_view bytes, const CodePage& page);
 

@@ -48,6 +48,66 @@ constexpr std::u32string_view kSingleCapitals = U"ŸƁƂƄƆƇƉƊƋƎƏƐƑƓƔ
 constexpr std::u32string_view kSingleSmall = U"ÿɓƃƅɔƈɖɗƌǝəɛƒɠɣɩɨƙɯɲɵʀƨʃƭʈưʊʋƴƶʒƹƽƕƿǵƞȼƚɂƀʉʌάέήίόύώӏ";
 static_assert(kSingleCapitals.size() == kSingleSmall.size());
 
+/// Small letters that stand beside another one in a sorted list.
+struct MarkedLetters {
+    char32_t base;
+    std::u32string_view letters;
+};
+
+constexpr MarkedLetters kMarkedLetters[] = {
+    {U'a', U"àáâãäåæāăąǎǟǡǣǻǽȁȃȧḁạảấầẩẫậắằẳẵặ"},
+    {U'b', U"ƀƃḃḅḇ"},
+    {U'c', U"çćĉċčƈȼḉ"},
+    {U'd', U"ðďđƌḋḍḏḑḓ"},
+    {U'e', U"èéêëēĕėęěȅȇȩɇḕḗḙḛḝẹẻẽếềểễệ"},
+    {U'f', U"ƒḟ"},
+    {U'g', U"ĝğġģǥǧǵḡ"},
+    {U'h', U"ĥħȟḣḥḧḩḫẖ"},
+    {U'i', U"ìíîïĩīĭįİıĳǐȉȋḭḯỉị"},
+    {U'j', U"ĵǰɉ"},
+    {U'k', U"ķĸƙǩḱḳḵ"},
+    {U'l', U"ĺļľŀłƚḷḹḻḽ"},
+    {U'm', U"ḿṁṃ"},
+    {U'n', U"ñńņňŉŋƞǹṅṇṉṋ"},
+    {U'o', U"òóôõöøōŏőœơǒǫǭǿȍȏȫȭȯȱṍṏṑṓọỏốồổỗộớờởỡợ"},
+    {U'p', U"ƥṕṗ"},
+    {U'r', U"ŕŗřȑȓɍṙṛṝṟ"},
+    {U's', U"ßśŝşšſșȿṡṣṥṧṩẛẞ"},
+    {U't', U"þţťŧƫƭțṫṭṯṱẗ"},
+    {U'u', U"ùúûüũūŭůűųưǔǖǘǚǜȕȗṳṵṷṹṻụủứừửữự"},
+    {U'v', U"ṽṿ"},
+    {U'w', U"ŵẁẃẅẇẉẘ"},
+    {U'x', U"ẋẍ"},
+    {U'y', U"ýÿŷƴȳɏẏẙỳỵỷỹ"},
+    {U'z', U"źżžƶɀẑẓẕ"},
+    {U'ʒ', U"ǯ"},
+    {U'α', U"ά"},  // Greek
+    {U'ε', U"έ"},
+    {U'η', U"ή"},
+    {U'ι', U"ΐίϊ"},
+    {U'ο', U"ό"},
+    {U'υ', U"ΰϋύ"},
+    {U'ω', U"ώ"},
+    {U'а', U"ӑӓ"},  // Cyrillic; й is a letter of its own and stands behind и anyway
+    {U'г', U"ѓґ"},
+    {U'д', U"ђ"},
+    {U'е', U"ѐёєӗ"},
+    {U'ж', U"ӂӝ"},
+    {U'з', U"ѕӟ"},
+    {U'и', U"іїјѝӣӥ"},
+    {U'к', U"ќ"},
+    {U'л', U"љ"},
+    {U'н', U"њ"},
+    {U'о', U"ӧ"},
+    {U'т', U"ћ"},
+    {U'у', U"ўӯӱӳ"},
+    {U'ч', U"џӵ"},
+    {U'ы', U"ӹ"},
+    {U'э', U"ӭ"},
+    {U'ә', U"ӛ"},
+    {U'ө', U"ӫ"},
+};
+
 constexpr char32_t kBlockEnd = 0x0530;  // Latin, Greek and Cyrillic fill the table up to here
 constexpr char32_t kAdditionalFirst = 0x1E00;
 constexpr char32_t kAdditionalEnd = 0x1F00;
@@ -61,13 +121,15 @@ constexpr std::size_t TableIndex(char32_t character) {
     return kTableSize;
 }
 
-struct CaseTables {
+struct LetterTables {
     std::array<char16_t, kTableSize> lower{};
     std::array<char16_t, kTableSize> upper{};
+    std::array<char16_t, kTableSize> base{};
 
     constexpr void Set(char32_t character, char32_t lowerForm, char32_t upperForm) {
         lower[TableIndex(character)] = static_cast<char16_t>(lowerForm);
         upper[TableIndex(character)] = static_cast<char16_t>(upperForm);
+        base[TableIndex(character)] = static_cast<char16_t>(character);
     }
 
     constexpr void AddPair(char32_t capital, char32_t small) {
@@ -76,8 +138,8 @@ struct CaseTables {
     }
 };
 
-constexpr CaseTables MakeTables() {
-    CaseTables tables;
+constexpr LetterTables MakeTables() {
+    LetterTables tables;
     for (char32_t c = 0; c < kBlockEnd; ++c) tables.Set(c, c, c);
     for (char32_t c = kAdditionalFirst; c < kAdditionalEnd; ++c) tables.Set(c, c, c);
     for (const CapitalRange& range : kCapitalRanges) {
@@ -86,21 +148,30 @@ constexpr CaseTables MakeTables() {
     }
     for (std::size_t i = 0; i < kSingleCapitals.size(); ++i)
         tables.AddPair(kSingleCapitals[i], kSingleSmall[i]);
+    for (const MarkedLetters& marked : kMarkedLetters) {
+        for (const char32_t letter : marked.letters)
+            tables.base[TableIndex(letter)] = static_cast<char16_t>(marked.base);
+    }
     return tables;
 }
 
-constexpr CaseTables kCaseTables = MakeTables();
+constexpr LetterTables kTables = MakeTables();
 
 }  // namespace
 
 char32_t LowerCase(char32_t character) noexcept {
     const std::size_t index = TableIndex(character);
-    return index < kTableSize ? kCaseTables.lower[index] : character;
+    return index < kTableSize ? kTables.lower[index] : character;
 }
 
 char32_t UpperCase(char32_t character) noexcept {
     const std::size_t index = TableIndex(character);
-    return index < kTableSize ? kCaseTables.upper[index] : character;
+    return index < kTableSize ? kTables.upper[index] : character;
+}
+
+char32_t BaseLetter(char32_t folded) noexcept {
+    const std::size_t index = TableIndex(folded);
+    return index < kTableSize ? kTables.base[index] : folded;
 }
 
 }  // namespace halvenmoor::text
