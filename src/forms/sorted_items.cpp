@@ -8,11 +8,6 @@ namespace halvenmoor::forms {
 
 namespace {
 
-bool StandsBefore(const SortedItems::Item& a, const SortedItems::Item& b) {
-    const int order = a.key.compare(b.key);
-    return order != 0 ? order < 0 : a.text < b.text;
-}
-
 [[noreturn]] void FailFull() {
     throw std::length_error("the list is full");
 }
@@ -21,8 +16,7 @@ bool StandsBefore(const SortedItems::Item& a, const SortedItems::Item& b) {
 
 int SortedItems::Add(std::string text) {
     if (Count() >= kMaxCount) FailFull();
-    std::string key = sortKey_(text);
-    Item item{std::move(text), std::move(key)};
+    auto item = NewItem(std::move(text));
     const auto position = std::upper_bound(items_.begin(), items_.end(), item, StandsBefore);
     const auto added = items_.insert(position, std::move(item));  // may move all items, so begin comes after
     return static_cast<int>(added - items_.begin());
@@ -30,19 +24,16 @@ int SortedItems::Add(std::string text) {
 
 void SortedItems::Add(std::vector<std::string> texts) {
     const std::size_t fitting = std::min(static_cast<std::size_t>(kMaxCount - Count()), texts.size());
-    std::vector<Item> added;
+    Items added;
     added.reserve(fitting);
-    for (std::size_t i = 0; i < fitting; ++i) {
-        std::string key = sortKey_(texts[i]);
-        added.push_back({std::move(texts[i]), std::move(key)});
-    }
+    for (std::size_t i = 0; i < fitting; ++i) added.push_back(NewItem(std::move(texts[i])));
     std::sort(added.begin(), added.end(), StandsBefore);
     Merge(Reserved(added.size()), added);
     if (fitting < texts.size()) FailFull();
 }
 
 /// Adds items that are in order. With memory reserved for all items nothing can fail.
-void SortedItems::Merge(std::vector<Item> merged, std::vector<Item>& added) {
+void SortedItems::Merge(Items merged, Items& added) {
     std::merge(std::make_move_iterator(items_.begin()), std::make_move_iterator(items_.end()),
                std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()),
                std::back_inserter(merged), StandsBefore);
@@ -56,15 +47,15 @@ void SortedItems::Remove(int index) {
 
 void SortedItems::MoveTo(SortedItems& target, const std::vector<int>& positions) {
     if (static_cast<std::size_t>(kMaxCount - target.Count()) < positions.size()) FailFull();
-    std::vector<Item> merged = target.Reserved(positions.size());
-    std::vector<Item> taken;
+    Items merged = target.Reserved(positions.size());
+    Items taken;
     taken.reserve(positions.size());
     // From here on nothing fails.
     auto next = positions.begin();
     std::size_t kept = 0;
     for (std::size_t i = 0; i < items_.size(); ++i) {
         if (next != positions.end() && static_cast<std::size_t>(*next) == i) {
-            items_[i].selected = false;
+            items_[i]->selected = false;
             taken.push_back(std::move(items_[i]));
             ++next;
         } else {
@@ -76,10 +67,20 @@ void SortedItems::MoveTo(SortedItems& target, const std::vector<int>& positions)
     target.Merge(std::move(merged), taken);
 }
 
-std::vector<SortedItems::Item> SortedItems::Reserved(std::size_t addedCount) const {
-    std::vector<Item> merged;
+SortedItems::Items SortedItems::Reserved(std::size_t addedCount) const {
+    Items merged;
     merged.reserve(items_.size() + addedCount);
     return merged;
+}
+
+std::unique_ptr<SortedItems::Item> SortedItems::NewItem(std::string text) const {
+    std::string key = sortKey_(text);
+    return std::make_unique<Item>(Item{std::move(text), std::move(key)});
+}
+
+bool SortedItems::StandsBefore(const std::unique_ptr<Item>& a, const std::unique_ptr<Item>& b) {
+    const int order = a->key.compare(b->key);
+    return order != 0 ? order < 0 : a->text < b->text;
 }
 
 }  // namespace halvenmoor::forms

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,8 +26,8 @@ public:
     explicit SortedItems(SortKey sortKey) : sortKey_(std::move(sortKey)) {}
 
     int Count() const { return static_cast<int>(items_.size()); }
-    const Item& At(int index) const { return items_.at(static_cast<std::size_t>(index)); }
-    Item& At(int index) { return items_.at(static_cast<std::size_t>(index)); }
+    const Item& At(int index) const { return *items_.at(static_cast<std::size_t>(index)); }
+    Item& At(int index) { return *items_.at(static_cast<std::size_t>(index)); }
 
     /// Adds the text and returns its position. Throws std::length_error when the list is full.
     int Add(std::string text);
@@ -40,11 +41,16 @@ public:
     void Clear() { items_.clear(); }
 
 private:
-    std::vector<Item> Reserved(std::size_t addedCount) const;
-    void Merge(std::vector<Item> merged, std::vector<Item>& added);
+    /// Held by pointers, so that adding or moving many items moves pointers only.
+    using Items = std::vector<std::unique_ptr<Item>>;
+
+    Items Reserved(std::size_t addedCount) const;
+    void Merge(Items merged, Items& added);
+    std::unique_ptr<Item> NewItem(std::string text) const;
+    static bool StandsBefore(const std::unique_ptr<Item>& a, const std::unique_ptr<Item>& b);
 
     SortKey sortKey_;
-    std::vector<Item> items_;
+    Items items_;
 };
 
 }  // namespace halvenmoor::forms
