@@ -12,7 +12,7 @@ QtPlatform::Arguments::Arguments(char* programName) : values{programName, nullpt
 
 QtPlatform::QtPlatform(char* programName, const platform::Locale& locale, platform::HostFiles& files)
     : arguments(programName),
-      application(arguments.count, arguments.values.data()),
+      application(MakeApplication(arguments.count, arguments.values.data())),
       toolkit(locale),
       fileDialogs(files) {
     qInstallMessageHandler(nullptr);

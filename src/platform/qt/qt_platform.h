@@ -8,6 +8,7 @@
 
 #include <QTranslator>
 #include <array>
+#include <memory>
 
 namespace halvenmoor::qt {
 
@@ -24,7 +25,7 @@ struct QtPlatform {
     };
 
     Arguments arguments;
-    SafeApplication application;
+    std::unique_ptr<SafeApplication> application;
     QTranslator translator;
     QtToolkit toolkit;
     QtMessageBox messages;

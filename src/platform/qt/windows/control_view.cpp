@@ -62,6 +62,10 @@ void ControlView::Update() {
     ShowState();
 }
 
+void ControlView::Place() {
+    widget_.setGeometry(ToRect(control_.AtDesign().bounds, widget_.devicePixelRatioF()));
+}
+
 QString ControlView::ShownCaption(const QSize& size, Qt::TextFlag lines) {
     const QString caption = ToText(control_.Caption(), page_);
     const FittedCaption fitted = FitCaption(caption, ToFont({}), size, lines);
@@ -76,7 +80,7 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget& p
     QWidget& widget = view->Widget();
     widget.setObjectName(QString::fromStdString(control.Name()));
     widget.setFont(ToFont({}));
-    widget.setGeometry(ToRect(control.AtDesign().bounds));
+    view->Place();
     view->Update();
     return view;
 }

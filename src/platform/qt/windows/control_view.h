@@ -17,6 +17,8 @@ public:
     ControlView& operator=(const ControlView&) = delete;
 
     QWidget& Widget() const { return widget_; }
+    /// Gives the widget its place at the scale of its screen.
+    void Place();
     /// Copies the control's state to the widget. Raises no event.
     void Update();
 

@@ -2,12 +2,23 @@
 
 #include "base/text/decode.h"
 
+#include <cmath>
+
 namespace halvenmoor::qt {
 
 namespace {
 
 // Unicode has a visible sign for each control character.
 constexpr char16_t kFirstControlSign = 0x2400;
+
+/// The smallest number of pixels that are whole device pixels; 1 at scales that are no quarters.
+int GridStep(double scale) {
+    for (const int step : {1, 2, 4}) {
+        const double devicePixels = step * scale;
+        if (std::abs(devicePixels - std::round(devicePixels)) < 0.01) return step;
+    }
+    return 1;
+}
 
 }  // namespace
 
@@ -39,13 +50,24 @@ QFont ToFont(const forms::Font& font) {
     return result;
 }
 
-QRect ToRect(const forms::Bounds& bounds) {
-    return {forms::ToPixels(bounds.left), forms::ToPixels(bounds.top), forms::ToPixels(bounds.width),
-            forms::ToPixels(bounds.height)};
+QRect ToRect(const forms::Bounds& bounds, double scale) {
+    const int step = GridStep(scale);
+    const auto edge = [step](forms::Twips position) {
+        return (forms::ToPixels(position) + step / 2) / step * step;
+    };
+    const QPoint corner(edge(bounds.left), edge(bounds.top));
+    const QPoint end(edge(bounds.left + bounds.width), edge(bounds.top + bounds.height));
+    return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 
 QRect ToRect(const forms::PixelRect& area) {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+QColor BorderColor(const QPalette& palette) {
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlphaF(0.25F);
+    return color;
 }
 
 forms::Color ToColor(const QColor& color) {

@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QRect>
 #include <QString>
 #include <string_view>
@@ -31,8 +32,13 @@ Qt::Alignment SideOf(const QString& text);
 /// The font in the pixel size that belongs to its points.
 QFont ToFont(const forms::Font& font);
 
-QRect ToRect(const forms::Bounds& bounds);
+/// The bounds in pixels. At a scale of quarters (1.25, 1.5 …) each edge is moved to the nearest whole device
+/// pixel: lines that lie between two of them are lost.
+QRect ToRect(const forms::Bounds& bounds, double scale);
 QRect ToRect(const forms::PixelRect& area);
+
+/// The colour of the thin lines around frames and lists.
+QColor BorderColor(const QPalette& palette);
 
 forms::Color ToColor(const QColor& color);
 /// Of a plain colour.

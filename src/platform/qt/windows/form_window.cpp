@@ -10,6 +10,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QWindow>
 #include <algorithm>
 
 namespace halvenmoor::qt {
@@ -37,8 +39,8 @@ FormWindow::FormWindow(forms::Form& form, const text::CodePage& page, QWidget* b
     if (below != nullptr) setWindowModality(Qt::ApplicationModal);
     setWindowIcon(ProgramIcon());
     setObjectName(QString::fromStdString(form.AtDesign().name));
-    setFixedSize(forms::ToPixels(form.AtDesign().width), forms::ToPixels(form.AtDesign().height));
     BuildControls();
+    Place();
     LowerFrames();
     ChainTabs();
     connect(qApp, &QApplication::focusChanged, this,
@@ -48,6 +50,18 @@ FormWindow::FormWindow(forms::Form& form, const text::CodePage& page, QWidget* b
 FormWindow::~FormWindow() {
     // The form's controls may be gone already, so nothing may reach them while the widgets go.
     disconnect(qApp, nullptr, this, nullptr);
+}
+
+void FormWindow::Show() {
+    show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::Place, Qt::UniqueConnection);
+}
+
+/// Fits the window and its controls to the scale of its screen.
+void FormWindow::Place() {
+    const forms::FormDesign& design = form_.AtDesign();
+    setFixedSize(ToRect(forms::Bounds{0, 0, design.width, design.height}, devicePixelRatioF()).size());
+    for (const auto& [control, view] : views_) view->Place();
 }
 
 void FormWindow::BuildControls() {
@@ -88,15 +102,27 @@ void FormWindow::Update() {
     const QScopedValueRollback<bool> guard(updating_, true);
     setWindowTitle(ToTitle(form_.Caption(), page_));
     setCursor(form_.Busy() ? Qt::BusyCursor : Qt::ArrowCursor);
-    if (const auto position = form_.TakeMove()) {
-        move(forms::ToPixels(position->left), forms::ToPixels(position->top));
-    }
+    if (const auto position = form_.TakeMove()) MoveTo(*position);
     for (const forms::Control* control : form_.TakeChanges()) views_.at(control)->Update();
     ShowFocus();
 }
 
+/// The program counts from the corner of the primary screen, where it opens. The main window goes no farther
+/// up or to the left than it can be grasped.
+void FormWindow::MoveTo(forms::Point position) {
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    QPoint corner =
+        screen.geometry().topLeft() + QPoint(forms::ToPixels(position.left), forms::ToPixels(position.top));
+    if (!isModal()) {
+        const QPoint first = screen.availableGeometry().topLeft();
+        corner = {std::max(corner.x(), first.x()), std::max(corner.y(), first.y())};
+    }
+    move(corner);
+}
+
 forms::Point FormWindow::Position() const {
-    return {pos().x() * forms::kTwipsPerPixel, pos().y() * forms::kTwipsPerPixel};
+    const QPoint corner = pos() - QGuiApplication::primaryScreen()->geometry().topLeft();
+    return {corner.x() * forms::kTwipsPerPixel, corner.y() * forms::kTwipsPerPixel};
 }
 
 forms::FrameMetrics FormWindow::WindowFrame() const {

@@ -20,7 +20,7 @@ public:
     FormWindow(forms::Form& form, const text::CodePage& page, QWidget* below);
     ~FormWindow() override;
 
-    void Show() override { show(); }
+    void Show() override;
     void Hide() override;
     void Update() override;
     forms::Point Position() const override;
@@ -40,6 +40,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void Place();
+    void MoveTo(forms::Point position);
     void BuildControls();
     void LowerFrames();
     void ChainTabs();

@@ -13,7 +13,6 @@ QRect TitledFrame::TitleRect() const {
 }
 
 void TitledFrame::paintEvent(QPaintEvent*) {
-    constexpr float kBorderStrength = 0.25F;
     const int flags =
         static_cast<int>(SideOf(title()) | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextShowMnemonic;
     const QRect titleRect = TitleRect();
@@ -25,9 +24,7 @@ void TitledFrame::paintEvent(QPaintEvent*) {
     if (!title().isEmpty()) {
         painter.setClipRegion(QRegion(rect()) - words.adjusted(-kGap, 0, kGap, 0));
     }
-    QColor color = palette().color(QPalette::WindowText);
-    color.setAlphaF(kBorderStrength);
-    painter.setPen(color);
+    painter.setPen(BorderColor(palette()));
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect border = rect().adjusted(0, words.height() / 2, 0, 0);
     painter.drawRoundedRect(QRectF(border).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);

@@ -99,6 +99,10 @@ std::vector<int> ListBoxWidget::SelectedRows() const {
 }
 
 bool ListBoxWidget::event(QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        PaintBorder();
+        return true;
+    }
     const bool handled = QListView::event(event);
     if (selectionChanged_) Report();
     return handled;
@@ -132,6 +136,19 @@ void ListBoxWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Highlight));
     painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+/// Paints one device pixel on each side. The line of a style would be partly below the rows at scales that
+/// are not whole.
+void ListBoxWidget::PaintBorder() {
+    const double line = 1 / devicePixelRatioF();
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    const QColor color = BorderColor(palette());
+    painter.fillRect(QRectF(0, 0, width(), line), color);
+    painter.fillRect(QRectF(0, height() - line, width(), line), color);
+    painter.fillRect(QRectF(0, line, line, height() - 2 * line), color);
+    painter.fillRect(QRectF(width() - line, line, line, height() - 2 * line), color);
 }
 
 void ListBoxWidget::Report() {

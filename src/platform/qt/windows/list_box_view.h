@@ -60,6 +60,7 @@ private:
     std::vector<int> SelectedRows() const;
     void ShowSelection();
     void ShowCurrentRow();
+    void PaintBorder();
     /// Tells the list what the user selected.
     void Report();
     bool Accepts(const QDropEvent& drop) const;
