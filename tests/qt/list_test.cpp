@@ -69,6 +69,20 @@ TEST_F(Lists, FollowTheProgram) {
     EXPECT_EQ(Heard(), Words{}) << "no echo";
 }
 
+// Also run at scale 1.25, where a line may fall between two device pixels.
+TEST_F(Lists, HaveABorderOnEachSide) {
+    const QImage image = WidgetOf(form).grab().toImage();
+    const double scale = image.devicePixelRatio();
+    const QRect list = QRectF(QPointF(Left().pos()) * scale, QSizeF(Left().size()) * scale).toRect();
+    const QColor background = WidgetOf(form).palette().color(QPalette::Window);
+    for (const QPoint& point :
+         {QPoint(list.left(), list.center().y()), QPoint(list.right(), list.center().y()),
+          QPoint(list.center().x(), list.top()), QPoint(list.center().x(), list.bottom())}) {
+        EXPECT_LT(image.pixelColor(point).lightness(), background.lightness() - 20)
+            << point.x() << ' ' << point.y();
+    }
+}
+
 bool DropOn(QWidget& target, const QMimeData& content) {
     QDragEnterEvent enter({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&target, &enter);

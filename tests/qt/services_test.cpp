@@ -49,6 +49,14 @@ TEST(SafeApplication, TellsDesktopsTheNameOfItsEntry) {
     EXPECT_EQ(QGuiApplication::desktopFileName(), "org.halvenmoor.halvenmoor");
 }
 
+TEST(SafeApplication, TakesTheLargestQuarterThatFitsTheScreen) {
+    EXPECT_EQ(FittedScale(1.5, {1920, 1080}), 1.5);
+    EXPECT_EQ(FittedScale(1.5, {1366, 768}), 1.25);
+    EXPECT_EQ(FittedScale(2, {1920, 1080}), 1.75);
+    EXPECT_EQ(FittedScale(1.5, {800, 480}), 1);
+    EXPECT_EQ(FittedScale(1, {800, 480}), 1);
+}
+
 class Dialogs : public Window {
 protected:
     Dialogs() : request{"Title", "Suggested", folder.Path(), "Text File (*.txt)|*.txt", "txt"} {}
