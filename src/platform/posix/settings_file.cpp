@@ -1,39 +1,20 @@
 #include "platform/posix/settings_file.h"
 
 #include "base/text/ini.h"
+#include "platform/posix/environment.h"
 #include "platform/posix/system.h"
 
 #include <cerrno>
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
-#include <span>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace halvenmoor::posix {
 namespace {
-
-/// The text of the file, empty for one that does not exist. Nothing for what is no file of options.
-std::optional<std::string> ReadText(const std::string& path) {
-    constexpr std::size_t kMaxBytes = 1024 * 1024;
-    try {
-        const FileDescriptor file = OpenForReading(path);
-        const std::uint64_t size = file.Size();
-        if (size > kMaxBytes) return std::nullopt;
-        std::string text(static_cast<std::size_t>(size), '\0');
-        std::size_t done = 0;
-        while (const std::size_t count = file.Read(std::span(text).subspan(done))) done += count;
-        text.resize(done);
-        return text;
-    } catch (const Failure& failure) {
-        return failure.Number() == failure::FileNotFound ? std::optional(std::string()) : std::nullopt;
-    }
-}
 
 /// The path of the file itself, behind all links. Nothing for a link to nowhere.
 std::optional<std::string> RealPath(const std::string& path) {
@@ -64,11 +45,6 @@ void Replace(const std::string& path, std::string_view text) {
     if (!isStored) ::unlink(newPath.c_str());
 }
 
-std::string Variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
 std::string KeyOf(std::string_view section, std::string_view name) {
     return std::string(section) + '\\' + std::string(name);
 }
@@ -76,7 +52,7 @@ std::string KeyOf(std::string_view section, std::string_view name) {
 }  // namespace
 
 SettingsFile::SettingsFile(const std::string& folder)
-    : path_(folder + "/halvenmoor.ini"), text_(ReadText(path_).value_or("")) {
+    : path_(folder + "/halvenmoor.ini"), text_(ReadSmallFile(path_).value_or("")) {
 }
 
 std::string SettingsFile::GetSetting(std::string_view application, std::string_view section,
@@ -90,7 +66,7 @@ std::string SettingsFile::GetSetting(std::string_view application, std::string_v
 void SettingsFile::SaveSetting(std::string_view application, std::string_view section, std::string_view name,
                                std::string_view value) {
     changes_.insert_or_assign(Key(application, KeyOf(section, name)), std::string(value));
-    std::optional<std::string> text = ReadText(path_);
+    std::optional<std::string> text = ReadSmallFile(path_);
     const std::optional<std::string> realPath = RealPath(path_);
     if (!text || !realPath) return;
     for (const auto& [key, changed] : changes_) text::SetIniValue(*text, key.first, key.second, changed);
@@ -100,9 +76,7 @@ void SettingsFile::SaveSetting(std::string_view application, std::string_view se
 }
 
 std::string SettingsFile::UserFolder() {
-    const std::string folder = Variable("XDG_CONFIG_HOME");
-    const bool isAbsolute = folder.starts_with('/');
-    return (isAbsolute ? folder : Variable("HOME") + "/.config") + "/halvenmoor";
+    return ConfigFolder() + "/halvenmoor";
 }
 
 }  // namespace halvenmoor::posix

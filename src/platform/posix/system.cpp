@@ -163,6 +163,22 @@ FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& n
     return OpenForWriting(folder.Get(), name, WriteMode::Replace);
 }
 
+std::optional<std::string> ReadSmallFile(const std::string& path) {
+    constexpr std::size_t kMaxBytes = 1024 * 1024;
+    try {
+        const FileDescriptor file = OpenForReading(path);
+        const std::uint64_t size = file.Size();
+        if (size > kMaxBytes) return std::nullopt;
+        std::string text(static_cast<std::size_t>(size), '\0');
+        std::size_t done = 0;
+        while (const std::size_t count = file.Read(std::span(text).subspan(done))) done += count;
+        text.resize(done);
+        return text;
+    } catch (const Failure& failure) {
+        return failure.Number() == failure::FileNotFound ? std::optional(std::string()) : std::nullopt;
+    }
+}
+
 void SyncEntry(const std::string& path) {
     const std::string folder = path.substr(0, path.rfind('/') + 1);
     if (::access(SystemPath(folder), R_OK) == 0) OpenFolder(folder).Sync();

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -83,6 +84,10 @@ enum class WriteMode { Replace, Append };
 FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
 /// The same in an open folder, in the mode Replace.
 FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name);
+
+/// The bytes of a file, none for one that does not exist. Nothing for what cannot be read, is no regular file
+/// or has more than 1 MiB.
+std::optional<std::string> ReadSmallFile(const std::string& path);
 
 /// Brings the entry of a file in its folder to the medium. A folder that may not be listed is passed over.
 /// Throws Failure.

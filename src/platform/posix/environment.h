@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace halvenmoor::posix {
+
+/// A variable of the environment, empty when it is not set.
+std::string Variable(const char* name);
+
+/// The user's folder for options, as the environment names it.
+std::string ConfigFolder();
+
+}  // namespace halvenmoor::posix
