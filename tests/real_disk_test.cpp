@@ -3,8 +3,6 @@
 #include "tests/support/disk_program.h"
 #include "tests/support/journeys.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,19 +13,6 @@ namespace fs = std::filesystem;
 
 constexpr int kOv2 = ImportProgram::kOv2;
 constexpr int kTxt = ImportProgram::kTxt;
-
-/// Does the job while files grow no larger than this: on a disk that is full there.
-auto WithSizeLimit(rlim_t bytes, const auto& job) {
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{bytes, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    const auto result = job();
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    return result;
-}
 
 class RealDiskTest : public testing::Test {
 protected:
