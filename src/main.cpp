@@ -11,7 +11,28 @@
 #include "platform/qt/services/program_info.h"
 #include "program.h"
 
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+#include <string>
+
 using namespace halvenmoor;
+
+namespace {
+
+/// Nothing if there is no folder to work in; the user knows why then.
+std::optional<std::string> FindProgramFolder(platform::MessageBox& messages) {
+    try {
+        return posix::ProgramFolder();
+    } catch (const Failure& failure) {
+        std::cerr << "halvenmoor: " << failure.what() << '\n';
+        messages.Show("Run-time error " + std::to_string(failure.Number()) + ":\r\n\r\n" + failure.what(),
+                      "Halvenmoor");
+        return std::nullopt;
+    }
+}
+
+}  // namespace
 
 // The program takes no command line.
 int main(int, char** arguments) {
@@ -24,7 +45,9 @@ int main(int, char** arguments) {
     posix::SettingsFile settings;
     posix::SystemInstanceLock instanceLock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
-    qt::QtProgramInfo programInfo(instanceLock, posix::ProgramFolder());
+    const std::optional<std::string> programFolder = FindProgramFolder(qt.messages);
+    if (!programFolder) return EXIT_FAILURE;
+    qt::QtProgramInfo programInfo(instanceLock, *programFolder);
     Program program(
         {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
         qt.toolkit);
