@@ -2,8 +2,8 @@
 // classifying all entries and moving all of them back at once. Prints lines NAME ENTRIES CPU_SECONDS.
 
 #include "catalogue/frmMain.h"
-#include "platform/headless/fakes.h"
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/fakes.h"
+#include "platform/fakes/memory_files.h"
 #include "program.h"
 
 #ifdef HALVENMOOR_QT
@@ -42,14 +42,14 @@ private:
     std::vector<std::string> names_;
 };
 
-struct BenchPlatform : headless::Fakes {
+struct BenchPlatform : fakes::Fakes {
     explicit BenchPlatform(int entries) : cameraFiles(entries) {
         files.Put("/p/Settings.ini", "[Type1]\r\n*1.asc\r\n[Type2]\r\n*2.asc\r\n[Type3]\r\n*\r\n");
     }
 
     platform::Platform Services() { return With(files, cameraFiles); }
 
-    headless::MemoryFiles files;
+    fakes::MemoryFiles files;
     ManyCameraFiles cameraFiles;
 };
 
@@ -111,7 +111,7 @@ int main(int, [[maybe_unused]] char** arguments) {
 #ifdef HALVENMOOR_QT
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const headless::FixedLocale locale;
-    headless::MemoryFiles files;
+    fakes::MemoryFiles files;
     qt::QtPlatform qt(arguments[0], locale, files);
     for (const int entries : {5000, 20000}) Measure("window", entries, qt.toolkit);
 #endif

@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Strings lines = fuzz::Lines(bytes);
     Require(ReadInOnePiece(bytes) == lines, "lines read in one piece are the lines");
     Require(ReadByteByByte(bytes) == lines, "lines read byte by byte are the lines");
-    headless::MemoryFiles memory;
+    fakes::MemoryFiles memory;
     memory.Put("/a", bytes);
     Require(ReadLines(memory, "/a") == lines, "the fake reads the same");
     return 0;

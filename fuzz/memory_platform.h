@@ -1,8 +1,8 @@
 #pragma once
 
 #include "import/import_task.h"
-#include "platform/headless/fakes.h"
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/fakes.h"
+#include "platform/fakes/memory_files.h"
 
 #include <map>
 #include <string>
@@ -12,8 +12,8 @@
 namespace halvenmoor::fuzz {
 
 /// The platform in memory.
-struct MemoryPlatform : headless::Fakes {
-    headless::MemoryFiles memory;
+struct MemoryPlatform : fakes::Fakes {
+    fakes::MemoryFiles memory;
     platform::Platform services = With(memory, memory);
 };
 

@@ -32,7 +32,7 @@ void SetResultsValid(TestProgram& program) {
 }
 
 TEST(FindCameraFilesTest, FindsEachNameOnceWithoutItsExtension) {
-    headless::MemoryFiles files;
+    fakes::MemoryFiles files;
     for (const auto* name : {"b.asc", "A.asc", "X.ASC", "x.y.Asc", "twice.asc", "twice.ASC", ".hidden.asc",
                              "note.txt", "a.asc.bak", "K\xF6ln.asc"}) {
         files.Put(std::string("/f/") + name, "");

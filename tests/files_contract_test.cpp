@@ -1,6 +1,6 @@
 // What files must do, on the disk and in its fake in memory alike.
 
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/memory_files.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
@@ -18,7 +18,7 @@ struct RealFiles : FilesOnDisk {
 };
 
 struct FilesInMemory {
-    headless::MemoryFiles files;
+    fakes::MemoryFiles files;
     platform::FileSystem& fileSystem = files;
     platform::HostFiles& hostFiles = files;
 

@@ -1,5 +1,5 @@
 #include "core/cSettingsClass.h"
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/memory_files.h"
 #include "tools/file_helpers.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ protected:
     }
     int Structure(const std::string& text) { return Read("[Settings]\n" + text).SourceStructure(); }
 
-    headless::MemoryFiles memory;
+    fakes::MemoryFiles memory;
 };
 
 TEST_F(SettingsTest, EachSectionFeedsItsList) {

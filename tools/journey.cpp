@@ -5,7 +5,7 @@
 // One step a line (see StepPlayer::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
-#include "platform/headless/fakes.h"
+#include "platform/fakes/fakes.h"
 #include "platform/headless/list_actions.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
@@ -31,7 +31,7 @@ StepResult OkIf(bool done) {
 }
 
 /// The real disk, with everything else in memory.
-struct StepPlatform : headless::Fakes {
+struct StepPlatform : fakes::Fakes {
     using Fakes::Fakes;
 
     platform::Platform Services() { return With(fileSystem, hostFiles, userLocale); }

@@ -12,7 +12,7 @@ bool UserChoosesLanguage(frmMain& window, const std::string& language) {
     return false;
 }
 
-bool UserExports(headless::Fakes& fakes, frmMain& window, int mode, const std::string& path) {
+bool UserExports(fakes::Fakes& fakes, frmMain& window, int mode, const std::string& path) {
     bool resultsShown = false;
     constexpr int kMaxWindows = 4;  // should something else open one on the way
     for (int i = 0; i < kMaxWindows; ++i) {
@@ -26,7 +26,7 @@ bool UserExports(headless::Fakes& fakes, frmMain& window, int mode, const std::s
     return resultsShown;
 }
 
-std::string UserImports(headless::Fakes& fakes, frmMain& window, int source,
+std::string UserImports(fakes::Fakes& fakes, frmMain& window, int source,
                         const std::function<void(frmImport&)>& look) {
     std::string picture;
     fakes.toolkit.Script([&](forms::Form& form) {
@@ -42,8 +42,7 @@ std::string UserImports(headless::Fakes& fakes, frmMain& window, int source,
     return picture;
 }
 
-bool UserRenames(headless::Fakes& fakes, frmMain& window, const std::string& entry,
-                 const std::string& newName) {
+bool UserRenames(fakes::Fakes& fakes, frmMain& window, const std::string& entry, const std::string& newName) {
     fakes.toolkit.Script([&newName](forms::Form& form) {
         auto& dialog = static_cast<frmRename&>(form);
         dialog.TextFileName.UserTyped(newName);

@@ -2,7 +2,7 @@
 
 #include "catalogue/frmMain.h"
 #include "import/frmImport.h"
-#include "platform/headless/fakes.h"
+#include "platform/fakes/fakes.h"
 
 #include <functional>
 #include <string>
@@ -14,13 +14,12 @@ namespace halvenmoor {
 
 bool UserChoosesLanguage(frmMain& window, const std::string& language);
 /// By mode 1 to 3, with the path for the file dialog of modes 2 and 3. Whether the results came up.
-bool UserExports(headless::Fakes& fakes, frmMain& window, int mode, const std::string& path = "");
+bool UserExports(fakes::Fakes& fakes, frmMain& window, int mode, const std::string& path = "");
 /// From OV2 (1) or TXT (2); somebody may look at the dialog when the import is done. Returns the name of the
 /// picture that it ended with, or nothing if it did not open.
-std::string UserImports(headless::Fakes& fakes, frmMain& window, int source,
+std::string UserImports(fakes::Fakes& fakes, frmMain& window, int source,
                         const std::function<void(frmImport&)>& look = {});
-bool UserRenames(headless::Fakes& fakes, frmMain& window, const std::string& entry,
-                 const std::string& newName);
+bool UserRenames(fakes::Fakes& fakes, frmMain& window, const std::string& entry, const std::string& newName);
 
 /// The name of the picture of state that shows, or the names, should there be more than one.
 std::string ShownPicture(const frmImport& dialog);

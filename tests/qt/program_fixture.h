@@ -1,8 +1,8 @@
 #pragma once
 
 #include "catalogue/frmMain.h"
-#include "platform/headless/fakes.h"
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/fakes.h"
+#include "platform/fakes/memory_files.h"
 #include "platform/posix/clock.h"
 #include "src/program.h"
 #include "window_fixture.h"
@@ -38,7 +38,7 @@ private:
 };
 
 /// The program in its real windows. The test starts it.
-class RealWindows : public testing::Test, protected headless::Fakes {
+class RealWindows : public testing::Test, protected fakes::Fakes {
 protected:
     RealWindows(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles, std::string folder)
         : Fakes(std::move(folder)),
@@ -67,7 +67,7 @@ protected:
 };
 
 struct FilesInMemory {
-    headless::MemoryFiles memory;
+    fakes::MemoryFiles memory;
 };
 
 /// The same over files in memory, in the folder /p.

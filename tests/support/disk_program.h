@@ -39,7 +39,7 @@ inline Disk AllFiles(const TemporaryFolder& folder) {
 }
 
 /// The program over a folder of real files, in normal mode.
-struct DiskProgram : headless::Fakes {
+struct DiskProgram : fakes::Fakes {
     explicit DiskProgram(const TemporaryFolder& folder) : Fakes(folder.Path()) {
         settings.SaveSetting("Halvenmoor", "Settings", "DemoMode", "0");
         program.Start();

@@ -2,10 +2,10 @@
 
 #include "catalogue/frmMain.h"
 #include "export/frmResults.h"
-#include "platform/headless/failing_files.h"
-#include "platform/headless/fakes.h"
+#include "platform/fakes/failing_files.h"
+#include "platform/fakes/fakes.h"
+#include "platform/fakes/memory_files.h"
 #include "platform/headless/list_actions.h"
-#include "platform/headless/memory_files.h"
 #include "src/program.h"
 #include "tools/file_helpers.h"
 #include "tools/user_actions.h"
@@ -51,7 +51,7 @@ inline std::string Crlf(std::string_view text) {
 ///     EXPECT_EQ(program.Target(), "...");
 ///
 /// The store of options is empty, so the program starts in demonstration mode unless the test says otherwise.
-struct TestProgram : headless::Fakes {
+struct TestProgram : fakes::Fakes {
     /// The folders as installed and a Settings.ini without any pattern; no camera files and no languages.
     TestProgram() {
         for (const char* folder :
@@ -150,9 +150,9 @@ struct TestProgram : headless::Fakes {
         return Export(look);
     }
 
-    headless::MemoryFiles memory;
+    fakes::MemoryFiles memory;
     /// What the program works on: memory, with calls that can be made to fail.
-    headless::FailingFiles files{memory, memory};
+    fakes::FailingFiles files{memory, memory};
     Program program{With(files, files), toolkit};
     modMain& core = program.Core();
     forms::Desktop& desktop = program.Desktop();

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 
 /// The fakes of all services but the files, and of the toolkit.
 struct Fakes {
@@ -24,14 +24,14 @@ struct Fakes {
                 messages,   fileDialogs, theme,       otherLocale};
     }
 
-    FixedProgramInfo programInfo;
-    ManualClock clock;
-    MemorySettings settings;
-    MessageLog messages;
-    ScriptedFileDialogs fileDialogs;
-    FixedTheme theme;
-    FixedLocale locale;
-    HeadlessToolkit toolkit{clock};
+    headless::FixedProgramInfo programInfo;
+    headless::ManualClock clock;
+    headless::MemorySettings settings;
+    headless::MessageLog messages;
+    headless::ScriptedFileDialogs fileDialogs;
+    headless::FixedTheme theme;
+    headless::FixedLocale locale;
+    headless::HeadlessToolkit toolkit{clock};
 };
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes

@@ -1,4 +1,4 @@
-#include "platform/headless/memory_files.h"
+#include "platform/fakes/memory_files.h"
 
 #include "base/failure.h"
 #include "base/text/compare.h"
@@ -7,7 +7,7 @@
 #include <span>
 #include <utility>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -322,4 +322,4 @@ std::vector<std::string> MemoryFiles::NamesIn(std::string_view folder) const {
     return names;
 }
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes

@@ -9,7 +9,7 @@
 #include <optional>
 #include <string_view>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 
 /// Counts calls and makes those of a range fail.
 class CallCounter {
@@ -74,4 +74,4 @@ private:
     CallCounter counter_;
 };
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 
 /// A disk in memory, under the rules of the real one. Paths are absolute, with '/' between folders. It must
 /// outlive the objects and streams that it hands out.
@@ -68,4 +68,4 @@ private:
     std::vector<std::string> calls_;
 };
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes

@@ -1,4 +1,4 @@
-#include "platform/headless/failing_files.h"
+#include "platform/fakes/failing_files.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 namespace {
 
 class FailingReader : public platform::TextReader {
@@ -125,4 +125,4 @@ void FailingFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     counter_.Counted(hostFiles_).Rename(oldPath, newPath);
 }
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes
