@@ -51,8 +51,8 @@ int main(int argc, char** argv) {
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
     qt::QtPlatform qt(argv[0], locale, hostFiles);
-    headless::FixedProgramInfo programInfo(argv[1]);
-    headless::ManualClock clock;
+    headless::HeadlessProgramInfo programInfo(argv[1]);
+    headless::SkippingClock clock;
     headless::MemorySettings settings;
     Program program(
         {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},

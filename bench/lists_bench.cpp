@@ -105,12 +105,12 @@ void Measure(const std::string& name, int entries, forms::Toolkit& toolkit) {
 }  // namespace
 
 int main(int, [[maybe_unused]] char** arguments) {
-    headless::ManualClock clock;
-    headless::HeadlessToolkit model(clock);
+    headless::SkippingClock clock;
+    fakes::WatchedToolkit model(clock);
     for (const int entries : {5000, 20000}) Measure("model", entries, model);
 #ifdef HALVENMOOR_QT
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const headless::FixedLocale locale;
+    const fakes::FixedLocale locale;
     fakes::MemoryFiles files;
     qt::QtPlatform qt(arguments[0], locale, files);
     for (const int entries : {5000, 20000}) Measure("window", entries, qt.toolkit);

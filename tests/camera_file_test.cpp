@@ -1,7 +1,7 @@
 #include "base/failure.h"
 #include "export/camera_line.h"
 #include "export/file_name_speed.h"
-#include "platform/headless/services.h"
+#include "platform/fakes/services.h"
 #include "tools/file_helpers.h"
 
 #include <array>
@@ -73,7 +73,7 @@ TEST(PositionTest, MustLieOnTheGlobe) {
 }
 
 std::string Speed(std::string_view name, const std::string& separator = ".") {
-    headless::FixedLocale locale;
+    fakes::FixedLocale locale;
     locale.Separator = separator;
     return SpeedFromFileName(name, Strings{"mph", "km/h", "\xC3\xB6h"}, locale);
 }

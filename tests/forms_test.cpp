@@ -1,8 +1,8 @@
 #include "base/text/compare.h"
 #include "forms/combo_box.h"
 #include "forms/desktop.h"
+#include "platform/fakes/toolkit.h"
 #include "platform/headless/list_actions.h"
-#include "platform/headless/toolkit.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -74,8 +74,8 @@ protected:
 
     Log log;
     int clicks = 0;
-    headless::ManualClock clock;
-    headless::HeadlessToolkit toolkit{clock};
+    headless::SkippingClock clock;
+    fakes::WatchedToolkit toolkit{clock};
     Desktop desktop{toolkit,
                     [](std::string_view text) { return text::FoldedKey(text, text::WindowsCodePage(1252)); }};
     TestForm main{desktop, log, {.name = "main", .title = ""}};

@@ -1,4 +1,4 @@
-#include "platform/headless/toolkit.h"
+#include "platform/fakes/toolkit.h"
 #include "ui/layouts/frmExportLayout.h"
 #include "ui/layouts/frmImportLayout.h"
 #include "ui/layouts/frmMainLayout.h"
@@ -36,8 +36,8 @@ bool Overlap(const Bounds& a, const Bounds& b) {
 
 class LayoutTest : public testing::Test {
 protected:
-    headless::ManualClock clock;
-    headless::HeadlessToolkit toolkit{clock};
+    headless::SkippingClock clock;
+    fakes::WatchedToolkit toolkit{clock};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     frmMainLayout main{desktop};
     frmResultsLayout results{desktop};

@@ -1,6 +1,6 @@
 #include "base/failure.h"
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/fakes/services.h"
+#include "platform/fakes/toolkit.h"
 #include "tools/file_helpers.h"
 #include "ui/cProgressBar.h"
 
@@ -48,12 +48,12 @@ protected:
 
     headless::MemoryCanvas& Paper() { return static_cast<headless::MemoryCanvas&>(*box.GetCanvas()); }
 
-    headless::ManualClock clock;
-    headless::HeadlessToolkit toolkit{clock};
+    headless::SkippingClock clock;
+    fakes::WatchedToolkit toolkit{clock};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     forms::Form form{desktop, {}};
     forms::PictureBox box{{.form = form, .name = "box", .bounds = {0, 0, 1500, 300}, .bordered = true}};
-    headless::FixedTheme theme;
+    fakes::FixedTheme theme;
     cProgressBar bar{theme};
 };
 

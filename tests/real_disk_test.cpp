@@ -75,7 +75,7 @@ TEST_F(RealDiskTest, ADiskThatIsFullAnywhereKeepsWhatFits) {
     }
     const auto look = [](frmImport& form) { EXPECT_EQ(form.PictureFinished.ToolTip(), "\u2717 1 File(s)"); };
     DiskProgram program(folder);
-    const auto import = [&] { return UserImports(program, program.Window(), kTxt, look); };
+    const auto import = [&] { return UserImports(program.toolkit, program.Window(), kTxt, look); };
     EXPECT_EQ(WithSizeLimit(50, import), "PictureFinished");
     EXPECT_EQ(CameraFiles(), (Disk{{kImportedTxt.begin()->first, LeftOf(kImportedTxt.begin()->second, 50)}}));
 }
@@ -126,7 +126,7 @@ TEST_F(RealDiskTest, SpecialFilesInItsFoldersHoldNothingUp) {
         const auto look = [&](auto& form) {
             EXPECT_NE(form.PictureFinished.ToolTip() == "\u2717 1 File(s)", special.importsOv2);
         };
-        EXPECT_EQ(UserImports(program, program.Window(), kTxt, look), "PictureFinished");
+        EXPECT_EQ(UserImports(program.toolkit, program.Window(), kTxt, look), "PictureFinished");
         EXPECT_EQ(CameraFiles(), kImportedTxt);
         EXPECT_EQ(Others(), others);
         ExpectConsistentWindow(program.Window());

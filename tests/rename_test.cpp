@@ -70,7 +70,7 @@ TEST_F(RenameTest, OpensBesideTheRow) {
     };
     expectTop("a", 3390);
     expectTop("e", 3390 + 4 * 195);
-    static_cast<headless::HeadlessView&>(*Window().GetView()).TopRow = 2;
+    static_cast<fakes::WatchedView&>(*Window().GetView()).TopRow = 2;
     expectTop("e", 3390 + 2 * 195);
 }
 

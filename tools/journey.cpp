@@ -5,7 +5,7 @@
 // One step a line (see StepPlayer::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
-#include "platform/fakes/fakes.h"
+#include "platform/headless/headless_platform.h"
 #include "platform/headless/list_actions.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
@@ -31,8 +31,9 @@ StepResult OkIf(bool done) {
 }
 
 /// The real disk, with everything else in memory.
-struct StepPlatform : fakes::Fakes {
-    using Fakes::Fakes;
+struct StepPlatform : headless::HeadlessPlatform {
+    explicit StepPlatform(std::string programFolder)
+        : HeadlessPlatform(std::move(programFolder), [](const std::string&) {}) {}
 
     platform::Platform Services() { return With(fileSystem, hostFiles, userLocale); }
 
@@ -48,7 +49,6 @@ public:
         : programFolder_(programFolder),
           platform_(programFolder),
           program_(platform_.Services(), platform_.toolkit) {
-        platform_.toolkit.SkipsYields = true;
         program_.Start();
     }
 
@@ -115,9 +115,10 @@ private:
     /// An export that reached its end shows its results.
     StepResult Export(const std::string& words) {
         const auto [mode, path] = FirstWord(words);
-        if (mode == "replace" && path.empty()) return OkIf(UserExports(platform_, Window(), 1));
+        if (mode == "replace" && path.empty())
+            return OkIf(UserExports(platform_.toolkit, platform_.fileDialogs, Window(), 1));
         if (path.empty() || (mode != "save-as" && mode != "append")) return StepResult::NotUnderstood;
-        return OkIf(UserExports(platform_, Window(), mode == "save-as" ? 2 : 3,
+        return OkIf(UserExports(platform_.toolkit, platform_.fileDialogs, Window(), mode == "save-as" ? 2 : 3,
                                 path.front() == '/' ? path : programFolder_ + "/" + path));
     }
 
@@ -125,13 +126,13 @@ private:
     StepResult Rename(const std::string& names) {
         const std::size_t tab = names.find('\t');
         if (tab == std::string::npos) return StepResult::NotUnderstood;
-        return OkIf(UserRenames(platform_, Window(), names.substr(0, tab), names.substr(tab + 1)));
+        return OkIf(UserRenames(platform_.toolkit, Window(), names.substr(0, tab), names.substr(tab + 1)));
     }
 
     /// Also ok when the import ended as incomplete.
     StepResult Import(const std::string& source) {
         if (source != "ov2" && source != "txt") return StepResult::NotUnderstood;
-        const std::string picture = UserImports(platform_, Window(), source == "ov2" ? 1 : 2);
+        const std::string picture = UserImports(platform_.toolkit, Window(), source == "ov2" ? 1 : 2);
         return OkIf(picture == "PictureFinished" || picture == "PictureIncomplete");
     }
 

@@ -12,24 +12,25 @@ bool UserChoosesLanguage(frmMain& window, const std::string& language) {
     return false;
 }
 
-bool UserExports(fakes::Fakes& fakes, frmMain& window, int mode, const std::string& path) {
+bool UserExports(headless::HeadlessToolkit& toolkit, headless::PreparedFileDialogs& fileDialogs,
+                 frmMain& window, int mode, const std::string& path) {
     bool resultsShown = false;
     constexpr int kMaxWindows = 4;  // should something else open one on the way
     for (int i = 0; i < kMaxWindows; ++i) {
-        fakes.toolkit.Script([&](forms::Form& form) { resultsShown = form.UserEscape(); });
+        toolkit.Script([&](forms::Form& form) { resultsShown = form.UserEscape(); });
     }
-    if (!path.empty()) fakes.fileDialogs.Answers = {path};
+    if (!path.empty()) fileDialogs.Answer = path;
     window.OptionExportMode[mode].UserPress();
     window.ButtonExportCameras.UserPress();
-    fakes.toolkit.ForgetScript();
-    fakes.fileDialogs.Answers.clear();
+    toolkit.ForgetScript();
+    fileDialogs.Answer.reset();
     return resultsShown;
 }
 
-std::string UserImports(fakes::Fakes& fakes, frmMain& window, int source,
+std::string UserImports(headless::HeadlessToolkit& toolkit, frmMain& window, int source,
                         const std::function<void(frmImport&)>& look) {
     std::string picture;
-    fakes.toolkit.Script([&](forms::Form& form) {
+    toolkit.Script([&](forms::Form& form) {
         auto& dialog = static_cast<frmImport&>(form);
         dialog.OptionSource[source].UserPress();
         dialog.ButtonStart.UserPress();
@@ -38,19 +39,20 @@ std::string UserImports(fakes::Fakes& fakes, frmMain& window, int source,
         dialog.ButtonFinish.UserPress();
     });
     window.ButtonImportFiles.UserPress();
-    fakes.toolkit.ForgetScript();
+    toolkit.ForgetScript();
     return picture;
 }
 
-bool UserRenames(fakes::Fakes& fakes, frmMain& window, const std::string& entry, const std::string& newName) {
-    fakes.toolkit.Script([&newName](forms::Form& form) {
+bool UserRenames(headless::HeadlessToolkit& toolkit, frmMain& window, const std::string& entry,
+                 const std::string& newName) {
+    toolkit.Script([&newName](forms::Form& form) {
         auto& dialog = static_cast<frmRename&>(form);
         dialog.TextFileName.UserTyped(newName);
         dialog.ButtonRename.UserPress();
         dialog.UserEscape();  // a refused name leaves it open
     });
     const bool pressed = headless::Select(window.MainList, {entry}) && window.ButtonRenameFile.UserPress();
-    fakes.toolkit.ForgetScript();
+    toolkit.ForgetScript();
     return pressed && headless::IndexOf(window.MainList, entry) < 0;
 }
 

@@ -2,7 +2,7 @@
 
 #include "forms/desktop.h"
 #include "forms/layout.h"
-#include "platform/headless/services.h"
+#include "platform/fakes/services.h"
 #include "platform/qt/windows/form_window.h"
 #include "platform/qt/windows/toolkit.h"
 
@@ -90,7 +90,7 @@ protected:
 
     using Words = std::vector<std::string>;
 
-    headless::FixedLocale locale;
+    fakes::FixedLocale locale;
     QtToolkit toolkit{locale};
     forms::Desktop desktop{toolkit, [](std::string_view text) { return std::string(text); }};
     SampleForm form{desktop};

@@ -50,12 +50,14 @@ struct DiskProgram : fakes::Fakes {
     /// Whether the results came up. The path is that of a file dialog.
     bool Export(int mode = 1, const std::string& path = "") {
         Window().ButtonClassifyFiles.UserPress();
-        return UserExports(*this, Window(), mode, path);
+        return UserExports(toolkit, fileDialogs, Window(), mode, path);
     }
     /// The picture at the end.
-    std::string Import(int source) { return UserImports(*this, Window(), source, ImportProgram::ExpectDone); }
+    std::string Import(int source) {
+        return UserImports(toolkit, Window(), source, ImportProgram::ExpectDone);
+    }
     void Rename(const std::string& entry, const std::string& newName) {
-        UserRenames(*this, Window(), entry, newName);
+        UserRenames(toolkit, Window(), entry, newName);
     }
 
     posix::PathFinder finder{locale.CodePage()};

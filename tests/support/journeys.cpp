@@ -178,7 +178,7 @@ Journey ExportJourney(int mode) {
     journey.targets = {ExportTarget(mode), "/p/Export Results.txt"};
     journey.play = [mode](JourneyProgram& program) {
         program.Window().ButtonClassifyFiles.UserPress();
-        UserExports(program, program.Window(), mode, ExportTarget(mode));
+        UserExports(program.toolkit, program.fileDialogs, program.Window(), mode, ExportTarget(mode));
     };
     journey.expectConsistent = [mode](JourneyProgram& program, const Outcome& whole) {
         ExpectConsistentExport(program, whole, mode);
@@ -190,7 +190,7 @@ Journey ImportJourney(int source) {
     Journey journey{source == ImportProgram::kOv2 ? "ImportOv2" : "ImportTxt"};
     journey.targets = {"/p/asc/"};
     journey.play = [source](JourneyProgram& program) {
-        program.shown = UserImports(program, program.Window(), source, ImportProgram::ExpectDone);
+        program.shown = UserImports(program.toolkit, program.Window(), source, ImportProgram::ExpectDone);
     };
     journey.expectConsistent = [source](JourneyProgram& program, const Outcome& whole) {
         ExpectConsistentImport(program, whole, source);
@@ -201,7 +201,9 @@ Journey ImportJourney(int source) {
 Journey RenameJourney() {
     Journey journey{"Rename"};
     journey.targets = {"/p/asc/rest.asc", "/p/asc/named.asc"};
-    journey.play = [](JourneyProgram& program) { UserRenames(program, program.Window(), "rest", "named"); };
+    journey.play = [](JourneyProgram& program) {
+        UserRenames(program.toolkit, program.Window(), "rest", "named");
+    };
     journey.expectConsistent = ExpectConsistentRename;
     return journey;
 }

@@ -146,7 +146,7 @@ struct TestProgram : fakes::Fakes {
     /// Mode 2 saves as the path, 3 appends to it.
     bool ExportTo(int mode, const std::string& path, const std::function<void(frmResults&)>& look = {}) {
         Click(Window().OptionExportMode[mode]);
-        fileDialogs.Answers = {path};
+        fileDialogs.Answer = path;
         return Export(look);
     }
 
@@ -189,7 +189,7 @@ struct ImportProgram : TestProgram {
     /// One import; look sees the dialog when it is done. Returns the name of the picture that it ends with.
     std::string Import(int source, const std::function<void(frmImport&)>& look = {}) {
         bool looked = false;
-        const std::string picture = UserImports(*this, Window(), source, [&](frmImport& dialog) {
+        const std::string picture = UserImports(toolkit, Window(), source, [&](frmImport& dialog) {
             looked = true;
             ExpectDone(dialog);
             if (look) look(dialog);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/headless/services.h"
-#include "platform/headless/toolkit.h"
+#include "platform/fakes/services.h"
+#include "platform/fakes/toolkit.h"
 #include "platform/platform.h"
 
 #include <string>
@@ -15,23 +15,17 @@ struct Fakes {
 
     /// The platform of these fakes and the files given. Fakes and files outlive it.
     platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles) {
-        return With(fileSystem, hostFiles, locale);
-    }
-    /// The same with another locale.
-    platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles,
-                            const platform::Locale& otherLocale) {
-        return {fileSystem, hostFiles,   programInfo, clock,      settings,
-                messages,   fileDialogs, theme,       otherLocale};
+        return {fileSystem, hostFiles, programInfo, clock, settings, messages, fileDialogs, theme, locale};
     }
 
-    headless::FixedProgramInfo programInfo;
-    headless::ManualClock clock;
+    FixedProgramInfo programInfo;
+    headless::SkippingClock clock;
     headless::MemorySettings settings;
-    headless::MessageLog messages;
-    headless::ScriptedFileDialogs fileDialogs;
-    headless::FixedTheme theme;
-    headless::FixedLocale locale;
-    headless::HeadlessToolkit toolkit{clock};
+    MessageLog messages;
+    WatchedFileDialogs fileDialogs;
+    FixedTheme theme;
+    FixedLocale locale;
+    WatchedToolkit toolkit{clock};
 };
 
 }  // namespace halvenmoor::fakes

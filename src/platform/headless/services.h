@@ -1,29 +1,27 @@
 #pragma once
 
+#include "base/text/trim.h"
 #include "platform/services.h"
 #include "platform/version.h"
 
 #include <cmath>
-#include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 namespace halvenmoor::headless {
 
-class FixedProgramInfo : public platform::ProgramInfo {
+/// A program that does not ask whether it runs twice, before a screen that nobody sees.
+class HeadlessProgramInfo : public platform::ProgramInfo {
 public:
-    explicit FixedProgramInfo(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+    explicit HeadlessProgramInfo(std::string programFolder) : programFolder_(std::move(programFolder)) {}
 
-    bool HasPreviousInstance = false;
-    int RaisedPreviousInstance = 0;
-
-    bool PreviousInstance() override { return HasPreviousInstance; }
-    void ActivatePreviousInstance() override { ++RaisedPreviousInstance; }
+    bool PreviousInstance() override { return false; }
+    void ActivatePreviousInstance() override {}
     std::string ProgramFolder() const override { return programFolder_; }
     char Separator() const override { return '/'; }
     platform::ProgramVersion Version() const override { return kVersion; }
@@ -33,15 +31,15 @@ private:
     std::string programFolder_;
 };
 
-/// A clock that moves only when it is told to.
-class ManualClock : public platform::Clock {
+/// A clock by which no wait takes time: it moves on only by the waits that are skipped.
+class SkippingClock : public platform::Clock {
 public:
-    explicit ManualClock(double secondsSinceMidnight = 0) : seconds_(secondsSinceMidnight) {}
+    explicit SkippingClock(double secondsSinceMidnight = 0) : seconds_(secondsSinceMidnight) {}
 
     double TimeOfDay() override { return seconds_; }
 
     /// Moves on by so many seconds, across midnight too.
-    void Advance(double seconds) { seconds_ = std::fmod(seconds_ + seconds, kSecondsPerDay); }
+    void Skip(double seconds) { seconds_ = std::fmod(seconds_ + seconds, kSecondsPerDay); }
 
 private:
     static constexpr double kSecondsPerDay = 86400;
@@ -69,70 +67,40 @@ private:
     std::map<Key, std::string> values_;
 };
 
-/// Keeps the messages that would have been shown.
-class MessageLog : public platform::MessageBox {
-public:
-    struct Message {
-        std::string text;
-        std::string title;
-    };
+/// Takes a line that tells the user what went wrong, without a line end.
+using Tell = std::function<void(const std::string&)>;
 
-    std::vector<Message> Messages;
+/// Tells each message as a line, behind its title.
+class ToldMessages : public platform::MessageBox {
+public:
+    explicit ToldMessages(Tell tell) : tell_(std::move(tell)) {}
 
     void Show(const std::string& text, const std::string& title) override {
-        Messages.push_back({text, title});
-    }
-};
-
-/// Answers file dialogs with paths given before, and cancels when there is none left.
-class ScriptedFileDialogs : public platform::FileDialogs {
-public:
-    std::deque<std::string> Answers;
-    std::vector<platform::FileDialog> Asked;
-
-    std::optional<std::string> AskSavePath(const platform::FileDialog& dialog) override {
-        return Answer(dialog);
-    }
-    std::optional<std::string> AskOpenPath(const platform::FileDialog& dialog) override {
-        return Answer(dialog);
+        tell_((title + ": ").append(text::Trim(text)));
     }
 
 private:
-    std::optional<std::string> Answer(const platform::FileDialog& dialog) {
-        Asked.push_back(dialog);
-        if (Answers.empty()) return std::nullopt;
-        std::string answer = std::move(Answers.front());
-        Answers.pop_front();
-        return answer;
-    }
+    Tell tell_;
 };
 
-class FixedTheme : public platform::Theme {
+/// Answers the next file dialog with a path given before, and cancels all others.
+class PreparedFileDialogs : public platform::FileDialogs {
 public:
-    std::map<int, forms::Color> Colors{{forms::kHighlightNumber, forms::Rgb(0, 0, 128)},
-                                       {forms::kButtonFaceNumber, forms::Rgb(192, 192, 192)},
-                                       {forms::kButtonShadowNumber, forms::Rgb(128, 128, 128)},
-                                       {forms::kButtonTextNumber, forms::Rgb(0, 0, 0)},
-                                       {forms::kButtonHighlightNumber, forms::Rgb(254, 254, 254)}};
-    bool Themed = false;
-    std::optional<forms::Color> GroupBoxText;
+    std::optional<std::string> Answer;
 
-    std::optional<forms::Color> SystemColor(int number) const override {
-        const auto found = Colors.find(number);
-        return found == Colors.end() ? std::nullopt : std::optional(found->second);
-    }
-    bool IsThemed() const override { return Themed; }
-    std::optional<forms::Color> GroupBoxTextColor() const override { return GroupBoxText; }
+    std::optional<std::string> AskSavePath(const platform::FileDialog&) override { return Take(); }
+    std::optional<std::string> AskOpenPath(const platform::FileDialog&) override { return Take(); }
+
+private:
+    std::optional<std::string> Take() { return std::exchange(Answer, std::nullopt); }
 };
 
-class FixedLocale : public platform::Locale {
+/// A desktop without colours.
+class ColorlessTheme : public platform::Theme {
 public:
-    int CodePageNumber = 1252;
-    std::string Separator = ".";
-
-    const text::CodePage& CodePage() const override { return text::WindowsCodePage(CodePageNumber); }
-    std::string DecimalSeparator() const override { return Separator; }
-    std::string ToFileText(std::string_view utf8) const override { return std::string(utf8); }
+    std::optional<forms::Color> SystemColor(int) const override { return std::nullopt; }
+    bool IsThemed() const override { return false; }
+    std::optional<forms::Color> GroupBoxTextColor() const override { return std::nullopt; }
 };
 
 }  // namespace halvenmoor::headless

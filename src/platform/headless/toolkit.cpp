@@ -1,8 +1,6 @@
 #include "platform/headless/toolkit.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 
 namespace halvenmoor::headless {
 
@@ -23,17 +21,11 @@ forms::Canvas& HeadlessView::CanvasOf(forms::PictureBox& box) {
 }
 
 void HeadlessToolkit::RunModal(forms::Form& form, const std::function<void()>& first) {
-    dialogs_.push_back(&form);
+    ++openedDialogs_;
     first();
-    PlayScript(form);
-    dialogs_.pop_back();
-}
-
-void HeadlessToolkit::PlayScript(forms::Form& form) {
     while (form.IsOpen()) {
         if (script_.empty()) {
-            ReportStuck(form);
-            form.Owner().End();
+            EndStuck(form);
             return;
         }
         const Step step = std::move(script_.front());
@@ -43,18 +35,7 @@ void HeadlessToolkit::PlayScript(forms::Form& form) {
 }
 
 void HeadlessToolkit::HandleEvents(double waitSeconds) {
-    ++yields_;
-    clock_.Advance(std::max(waitSeconds, kShortestYield));
-    if (OnYield) OnYield();
-}
-
-void HeadlessToolkit::ReportStuck(forms::Form& form) const {
-    if (OnStuck) {
-        OnStuck(form);
-        return;
-    }
-    std::fprintf(stderr, "%s is open and nothing in the script closes it\n", form.AtDesign().name.c_str());
-    std::abort();
+    clock_.Skip(std::max(waitSeconds, kShortestYield));
 }
 
 }  // namespace halvenmoor::headless
