@@ -211,7 +211,7 @@ TEST_F(ExportTest, WindowTellsWhatItDoes) {
         auto& window = static_cast<frmExport&>(*program.toolkit.OpenDialog());
         EXPECT_TRUE(window.Busy() && window.Position().left == 1880 && window.Position().top == 3500);
         EXPECT_EQ(window.LabelProgress.Caption(), "Exporting Speed Cameras...");
-        shown.push_back(static_cast<headless::MemoryCanvas&>(*window.picProgress.GetCanvas()).LastText());
+        shown.push_back(static_cast<fakes::MemoryCanvas&>(*window.picProgress.GetCanvas()).LastText());
     };
     EXPECT_TRUE(program.Export());
     EXPECT_EQ(shown.front() + shown.back(), "0%100%");

@@ -46,7 +46,7 @@ protected:
         return row;
     }
 
-    headless::MemoryCanvas& Paper() { return static_cast<headless::MemoryCanvas&>(*box.GetCanvas()); }
+    fakes::MemoryCanvas& Paper() { return static_cast<fakes::MemoryCanvas&>(*box.GetCanvas()); }
 
     headless::SkippingClock clock;
     fakes::WatchedToolkit toolkit{clock};

@@ -5,6 +5,7 @@
 // One step a line (see StepPlayer::Play). For each it prints the step's payload, if it has one, then "ok" or
 // "refused". The stored options live in memory and start in demonstration mode; waiting takes no time.
 
+#include "batch/user_actions.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/list_actions.h"
 #include "platform/posix/file_system.h"
@@ -13,7 +14,6 @@
 #include "platform/posix/path_finder.h"
 #include "platform/posix/process.h"
 #include "program.h"
-#include "tools/user_actions.h"
 
 #include <cstdio>
 #include <iostream>

@@ -1,7 +1,7 @@
 // What screen readers are told of the windows, and how the keyboard does all that a mouse can.
 
 #include "all_windows.h"
-#include "tools/user_actions.h"
+#include "batch/user_actions.h"
 
 #include <QAccessible>
 #include <QGuiApplication>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "batch/user_actions.h"
 #include "catalogue/frmMain.h"
 #include "export/frmResults.h"
 #include "platform/fakes/failing_files.h"
@@ -8,7 +9,6 @@
 #include "platform/headless/list_actions.h"
 #include "src/program.h"
 #include "tools/file_helpers.h"
-#include "tools/user_actions.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/headless/memory_canvas.h"
+#include "platform/fakes/memory_canvas.h"
 #include "platform/headless/toolkit.h"
 
 #include <functional>
@@ -24,7 +24,7 @@ public:
     int TopRow = 0;
 
 private:
-    std::map<const forms::PictureBox*, headless::MemoryCanvas> canvases_;
+    std::map<const forms::PictureBox*, MemoryCanvas> canvases_;
 };
 
 /// A window system without windows whose yields something can happen at.

@@ -1,4 +1,4 @@
-#include "tools/user_actions.h"
+#include "batch/user_actions.h"
 
 #include "platform/headless/list_actions.h"
 #include "ui/frmRename.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 
 /// A canvas of pixels in memory. A character of a text is a filled block of kCharacterWidth by
 /// kCharacterHeight pixels.
@@ -37,4 +37,4 @@ private:
     std::string lastText_;
 };
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes

@@ -1,11 +1,11 @@
-#include "platform/headless/memory_canvas.h"
+#include "platform/fakes/memory_canvas.h"
 
 #include "base/text/decode.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace halvenmoor::headless {
+namespace halvenmoor::fakes {
 
 namespace {
 
@@ -49,4 +49,4 @@ void MemoryCanvas::DrawLine(forms::PixelPoint from, forms::PixelPoint to, forms:
     FillRect({left, top, right, bottom}, color);
 }
 
-}  // namespace halvenmoor::headless
+}  // namespace halvenmoor::fakes
