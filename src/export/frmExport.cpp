@@ -76,6 +76,7 @@ bool frmExport::RunExport(std::string_view targetFile) {
     exports_.FilesProcessed = {};
     exports_.CamerasExported = {};
     exports_.CamerasSkipped = {};
+    exports_.ResultsFileFailed = false;
     std::string_view file = targetFile;
     try {
         ExportRun run(exports_, targetFile);
@@ -134,6 +135,7 @@ void frmExport::WriteResultsFile() const {
         file->Close();
     } catch (const std::exception&) {
         TraceFailure("write the results file");
+        exports_.ResultsFileFailed = true;
         // The export stays valid without its results file.
     }
 }

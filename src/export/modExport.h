@@ -32,6 +32,8 @@ public:
     TypeTable<std::int32_t> FilesProcessed{};
     TypeTable<std::int32_t> CamerasExported{};
     TypeTable<std::int32_t> CamerasSkipped{};
+    /// The results of the last run were to be saved and could not be.
+    bool ResultsFileFailed = false;
 
     modMain& Core() const { return core_; }
 

@@ -8,8 +8,8 @@ namespace halvenmoor::posix {
 
 void PrepareProcess() {
     // A file that is opened gets the lowest number that is free.
-    int lowest = ::open("/dev/null", O_RDWR);
-    while (lowest >= 0 && lowest <= STDERR_FILENO) lowest = ::open("/dev/null", O_RDWR);
+    int lowest = ::open("/dev/null", O_RDONLY);
+    while (lowest >= 0 && lowest <= STDERR_FILENO) lowest = ::open("/dev/null", O_RDONLY);
     if (lowest >= 0) ::close(lowest);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

@@ -1,0 +1,106 @@
+// halvenmoor-batch: the program without a window. packaging/halvenmoor-batch.1 says what it does.
+
+#include "batch/step_player.h"
+#include "platform/posix/file_system.h"
+#include "platform/posix/host_files.h"
+#include "platform/posix/locale.h"
+#include "platform/posix/path_finder.h"
+#include "platform/posix/process.h"
+#include "platform/posix/program_folder.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+using namespace halvenmoor;
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kNotUnderstood = 2;
+
+using Lines = std::vector<std::string>;
+
+void Tell(const std::string& line) {
+    std::cerr << "halvenmoor-batch: " << line << '\n';
+}
+
+Lines ReadStandardInput() {
+    Lines lines;
+    for (std::string line; std::getline(std::cin, line);) lines.push_back(line);
+    return lines;
+}
+
+/// Nothing, and a line about it, if one of the texts is no step.
+std::optional<std::vector<Step>> ParseSteps(const Lines& texts) {
+    std::vector<Step> steps;
+    for (const std::string& text : texts) {
+        const std::optional<Step> step = ParseStep(text);
+        if (!step) {
+            Tell("not understood, nothing was done: " + text);
+            Tell("usage: halvenmoor-batch [--folder FOLDER] [STEP]...");
+            return std::nullopt;
+        }
+        steps.push_back(*step);
+    }
+    return steps;
+}
+
+/// The real folder, so that an import knows the folders above it.
+std::string RealFolder(const std::string& folder) {
+    std::error_code error;
+    return std::filesystem::canonical(folder, error).string();
+}
+
+/// Plays the steps until one is not done.
+int PlaySteps(StepPlayer& player, const std::vector<Step>& steps, const Lines& texts) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const StepResult result = player.Play(steps[i]);
+        if (result.kind == StepResult::Kind::Done) continue;
+        const char* word = result.kind == StepResult::Kind::Incomplete ? ": incomplete" : ": failed";
+        Tell(texts[i] + word + (result.note.empty() ? "" : ", " + result.note));
+        return kFailed;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    posix::PrepareProcess();
+    Lines texts(argv + 1, argv + argc);
+    std::string folder;
+    if (texts.size() >= 2 && texts[0] == "--folder") {
+        folder = texts[1];
+        texts.erase(texts.begin(), texts.begin() + 2);
+    } else {
+        folder = posix::ProgramFolder();
+    }
+    if (texts.empty()) texts = ReadStandardInput();
+    if (std::ferror(stdin) != 0) {
+        Tell("standard input cannot be read, nothing was done");
+        return kNotUnderstood;
+    }
+    const auto steps = ParseSteps(texts);
+    if (!steps) return kNotUnderstood;
+
+    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
+    posix::PathFinder finder(locale.CodePage());
+    posix::DiskFileSystem fileSystem(finder);
+    posix::DiskHostFiles hostFiles(finder);
+    headless::HeadlessPlatform platform(RealFolder(folder), Tell);
+    if (!fileSystem.CreateFileSystemObject()->FileExists(platform.programInfo.ProgramFolder() +
+                                                         "/Settings.ini")) {
+        Tell("no program folder: " + folder);
+        return kNotUnderstood;
+    }
+    Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
+    program.Core().WriteSetting("DemoMode", "0");
+    program.Start();
+    StepPlayer player(program, platform);
+    return PlaySteps(player, *steps, texts);
+}
