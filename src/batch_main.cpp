@@ -50,7 +50,7 @@ std::optional<std::vector<Step>> ParseSteps(const Lines& texts) {
     return steps;
 }
 
-/// The real folder, so that an import knows the folders above it.
+/// The real folder, so that an import knows the folders above it; empty when there is none.
 std::string RealFolder(const std::string& folder) {
     std::error_code error;
     return std::filesystem::canonical(folder, error).string();
@@ -92,12 +92,13 @@ int main(int argc, char** argv) {
     posix::PathFinder finder(locale.CodePage());
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
-    headless::HeadlessPlatform platform(RealFolder(folder), Tell);
-    if (!fileSystem.CreateFileSystemObject()->FileExists(platform.programInfo.ProgramFolder() +
-                                                         "/Settings.ini")) {
+    const std::string realFolder = RealFolder(folder);
+    if (realFolder.empty() ||
+        !fileSystem.CreateFileSystemObject()->FileExists(realFolder + "/Settings.ini")) {
         Tell("no program folder: " + folder);
         return kNotUnderstood;
     }
+    headless::HeadlessPlatform platform(realFolder, Tell);
     Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
     program.Core().WriteSetting("DemoMode", "0");
     program.Start();

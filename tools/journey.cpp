@@ -38,8 +38,8 @@ int main(int argc, char** argv) {
             std::cerr << "journey: not understood: " << text << '\n';
             return 2;
         }
-        const bool isRefused = player.Play(*step).kind == StepResult::Kind::Refused;
-        std::cout << (isRefused ? "refused" : "ok") << std::endl;
+        const bool hasFailed = player.Play(*step).kind == StepResult::Kind::Failed;
+        std::cout << (hasFailed ? "refused" : "ok") << std::endl;
     }
     return 0;
 }

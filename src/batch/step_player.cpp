@@ -8,13 +8,14 @@
 #include <cstdint>
 #include <iostream>
 #include <numeric>
+#include <utility>
 
 namespace halvenmoor {
 
 namespace {
 
-StepResult Refused(std::string note) {
-    return {StepResult::Kind::Refused, std::move(note)};
+StepResult Failed(std::string note) {
+    return {StepResult::Kind::Failed, std::move(note)};
 }
 
 StepResult Incomplete(std::string note) {
@@ -22,7 +23,7 @@ StepResult Incomplete(std::string note) {
 }
 
 StepResult DoneIf(bool done) {
-    return done ? StepResult{} : Refused("");
+    return done ? StepResult{} : Failed("");
 }
 
 StepResult Set(forms::CheckBox& box, bool on) {
@@ -32,7 +33,7 @@ StepResult Set(forms::CheckBox& box, bool on) {
 /// Whatever was printed has reached its reader.
 StepResult Printed() {
     std::cout.flush();
-    return std::cout ? StepResult{} : Refused("standard output cannot be written");
+    return std::cout ? StepResult{} : Failed("standard output cannot be written");
 }
 
 std::int64_t Total(const TypeTable<std::int32_t>& counters) {
@@ -75,7 +76,7 @@ StepResult StepPlayer::Play(const Step& step) {
         case Step::Kind::ResultsJson:
             return PrintResultsAsJson();
     }
-    return Refused("");
+    return Failed("");
 }
 
 forms::ListBox& StepPlayer::List(int number) {
@@ -88,7 +89,7 @@ StepResult StepPlayer::Move(int target, const std::string& name) {
         if (headless::IndexOf(list, name) < 0) continue;
         return DoneIf(headless::Select(list, {name}) && headless::Drag(list, List(target)));
     }
-    return Refused("no list has this entry");
+    return Failed("no list has this entry");
 }
 
 /// The entries that have a type.
@@ -112,11 +113,11 @@ StepResult StepPlayer::Export(int mode, const std::string& path) {
         return AfterExport(sortedFiles);
     const modExport& exports = program_.Exports();
     if (platform_.toolkit.OpenedDialogs() > dialogsBefore) {
-        return Refused("at most " + std::to_string(Total(exports.CamerasExported)) + " camera(s) of " +
-                       std::to_string(Total(exports.FilesProcessed)) + " file(s) were written");
+        return Failed("at most " + std::to_string(Total(exports.CamerasExported)) + " camera(s) of " +
+                      std::to_string(Total(exports.FilesProcessed)) + " file(s) were written");
     }
     const bool anyFile = sortedFiles > 0 && !exports.ExportFileTable.empty();
-    return Refused(anyFile ? "nothing was written" : "no file to export, nothing was written");
+    return Failed(anyFile ? "nothing was written" : "no file to export, nothing was written");
 }
 
 /// What an export leaves out without a word in its windows.
@@ -138,9 +139,9 @@ StepResult StepPlayer::Import(int source) {
             const bool isFinished = dialog.PictureFinished.Visible();
             leftOut = (isFinished ? dialog.PictureFinished : dialog.PictureIncomplete).ToolTip();
         });
-    if (picture.empty()) return Refused("not in demonstration mode, nothing was changed");
+    if (picture.empty()) return Failed("not in demonstration mode, nothing was changed");
     if (picture == "PictureNoDelete" || picture == "PictureDelete")
-        return Refused("the camera folder is missing or cannot be emptied, nothing was imported");
+        return Failed("the camera folder is missing or cannot be emptied, nothing was imported");
 
     const modMain& core = program_.Core();
     const std::size_t made = FindCameraFiles(core.Services().hostFiles, core.CameraFolder()).size();

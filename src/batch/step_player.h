@@ -10,7 +10,7 @@ namespace halvenmoor {
 
 /// What came of a step.
 struct StepResult {
-    enum class Kind { Done, Incomplete, Refused };
+    enum class Kind { Done, Incomplete, Failed };
 
     Kind kind = Kind::Done;
     /// For one that is not done: what is known of it, such as what was written; may be empty.
