@@ -1,5 +1,6 @@
 // halvenmoor-batch: the program without a window. packaging/halvenmoor-batch.1 says what it does.
 
+#include "base/failure.h"
 #include "batch/step_player.h"
 #include "platform/posix/file_system.h"
 #include "platform/posix/host_files.h"
@@ -21,7 +22,7 @@ using namespace halvenmoor;
 namespace {
 
 constexpr int kFailed = 1;
-constexpr int kNotUnderstood = 2;
+constexpr int kNothingDone = 2;
 
 using Lines = std::vector<std::string>;
 
@@ -50,10 +51,22 @@ std::optional<std::vector<Step>> ParseSteps(const Lines& texts) {
     return steps;
 }
 
-/// The real folder, so that an import knows the folders above it; empty when there is none.
-std::string RealFolder(const std::string& folder) {
-    std::error_code error;
-    return std::filesystem::canonical(folder, error).string();
+/// The folder to work in, as the file system has it, so that an import knows the folders above it. Nothing,
+/// and a line about it, if it is no program folder.
+std::optional<std::string> FindProgramFolder(const std::optional<std::string>& wanted,
+                                             platform::FileSystem& fileSystem) {
+    try {
+        const std::string folder = wanted ? *wanted : posix::ProgramFolder();
+        std::error_code error;
+        std::string realFolder = std::filesystem::canonical(folder, error).string();
+        const bool isProgramFolder =
+            !error && fileSystem.CreateFileSystemObject()->FileExists(realFolder + "/Settings.ini");
+        if (isProgramFolder) return realFolder;
+        Tell("no program folder: " + folder);
+    } catch (const Failure& failure) {
+        Tell(std::string("no program folder: ") + failure.what());
+    }
+    return std::nullopt;
 }
 
 /// Plays the steps until one is not done.
@@ -73,32 +86,26 @@ int PlaySteps(StepPlayer& player, const std::vector<Step>& steps, const Lines& t
 int main(int argc, char** argv) {
     posix::PrepareProcess();
     Lines texts(argv + 1, argv + argc);
-    std::string folder;
+    std::optional<std::string> wantedFolder;
     if (texts.size() >= 2 && texts[0] == "--folder") {
-        folder = texts[1];
+        wantedFolder = texts[1];
         texts.erase(texts.begin(), texts.begin() + 2);
-    } else {
-        folder = posix::ProgramFolder();
     }
     if (texts.empty()) texts = ReadStandardInput();
     if (std::ferror(stdin) != 0) {
         Tell("standard input cannot be read, nothing was done");
-        return kNotUnderstood;
+        return kNothingDone;
     }
     const auto steps = ParseSteps(texts);
-    if (!steps) return kNotUnderstood;
+    if (!steps) return kNothingDone;
 
     const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
     posix::PathFinder finder(locale.CodePage());
     posix::DiskFileSystem fileSystem(finder);
     posix::DiskHostFiles hostFiles(finder);
-    const std::string realFolder = RealFolder(folder);
-    if (realFolder.empty() ||
-        !fileSystem.CreateFileSystemObject()->FileExists(realFolder + "/Settings.ini")) {
-        Tell("no program folder: " + folder);
-        return kNotUnderstood;
-    }
-    headless::HeadlessPlatform platform(realFolder, Tell);
+    const std::optional<std::string> folder = FindProgramFolder(wantedFolder, fileSystem);
+    if (!folder) return kNothingDone;
+    headless::HeadlessPlatform platform(*folder, Tell);
     Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
     program.Core().WriteSetting("DemoMode", "0");
     program.Start();

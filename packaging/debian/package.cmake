@@ -1,6 +1,6 @@
 # What the Debian package holds: programs and their data each in a folder of its own below /usr, and the documents that
 # Debian wants. The link `data` beside the programs tells them where their data are.
-set(programs halvenmoor) # each with its man page, PROGRAM.1
+set(programs halvenmoor halvenmoor-batch) # each with its man page, PROGRAM.1
 set(package ${CMAKE_CURRENT_BINARY_DIR}/debian)
 
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The Halvenmoor developers <maintainers@halvenmoor.example>")
