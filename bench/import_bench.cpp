@@ -54,9 +54,9 @@ int main(int argc, char** argv) {
     headless::HeadlessProgramInfo programInfo(argv[1]);
     headless::SkippingClock clock;
     headless::MemorySettings settings;
-    Program program(
-        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
-        qt.toolkit);
+    Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
+                     qt.browser, qt.theme, locale},
+                    qt.toolkit);
     program.Start();
     program.MainForm().CheckDemoMode.UserPress();
     // The dialog takes turns before it is shown, so the first turn may come too early.

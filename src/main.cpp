@@ -48,9 +48,9 @@ int main(int, char** arguments) {
     const std::optional<std::string> programFolder = FindProgramFolder(qt.messages);
     if (!programFolder) return EXIT_FAILURE;
     qt::QtProgramInfo programInfo(instanceLock, *programFolder);
-    Program program(
-        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
-        qt.toolkit);
+    Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
+                     qt.browser, qt.theme, locale},
+                    qt.toolkit);
     program.Start();
     qt.toolkit.Run(program.Desktop());
     return 0;

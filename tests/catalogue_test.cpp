@@ -108,6 +108,59 @@ TEST_F(CatalogueTest, ButtonsFollowTheLists) {
     EXPECT_TRUE(Window().CheckDemoMode.HasFocus()) << "the next in the tab order";
 }
 
+TEST_F(CatalogueTest, KeysGoOnSortingWhereItWas) {
+    program.Select(0, {"b", "c"});
+    for (const char* key : {"Alt+3", "Alt+M", "Alt+2", "Alt+M", "Alt+1", "Alt+M", "Alt+5", "Alt+M"})
+        EXPECT_TRUE(Window().UserShortcut(key)) << key;
+    EXPECT_TRUE(Window().MainList.HasFocus());
+    EXPECT_EQ(program.Items(3), (Strings{"b", "c"}));
+    EXPECT_EQ(program.Items(2), Strings{"d"}) << "it stands where they stood";
+    EXPECT_EQ(program.Items(1), Strings{"e"});
+    EXPECT_EQ(program.Items(5), Strings{"a"}) << "the last one";
+    EXPECT_TRUE(Window().UserShortcut("F5"));
+    EXPECT_TRUE(Window().UserShortcut("Alt+M"));
+    EXPECT_TRUE(Window().MainList.Selected(0));
+}
+
+TEST_F(CatalogueTest, KeysDoWhatTheButtonsDo) {
+    program.memory.Put("/p/manual.html", "");
+    program.AddCameraFile("K\xF6ln");
+    Window().UserShortcut("F5");
+    EXPECT_EQ(program.Items(0).size(), 5u) << "the button is disabled";
+    program.Move(4, {"a", "b"});
+    SetResultsValid(program);
+    EXPECT_FALSE(Window().UserShortcut("Delete")) << "only in a list of a type";
+    program.Select(4, {"a"});
+    EXPECT_TRUE(Window().UserShortcut("Delete"));
+    EXPECT_EQ(program.Items(4), Strings{"b"});
+    EXPECT_FALSE(Window().ResultsValid);
+    Window().UserShortcut("F5");
+    EXPECT_EQ(program.Items(0).size(), 6u);
+
+    int opened = 0;
+    const auto countOpened = [&](const std::function<void()>& act) {
+        program.toolkit.Script([&](forms::Form& form) {
+            opened += form.AtDesign().name == "frmRename" ? 1 : 0;
+            form.UserEscape();
+        });
+        act();
+        program.toolkit.ForgetScript();
+    };
+    for (const Strings& names : {Strings{"a"}, Strings{"a", "K\xF6ln"}}) {
+        program.Select(0, names);
+        countOpened([&] { Window().UserShortcut("F2"); });
+        countOpened([&] { Window().MainList.UserDoubleClick(); });
+        countOpened([&] { Window().UserShortcut("Enter"); });
+    }
+    EXPECT_EQ(opened, 3) << "not with two files";
+    EXPECT_TRUE(Window().UserShortcut("Ctrl+C"));
+    EXPECT_EQ(program.toolkit.Clipboard, "a\nK\u00F6ln");
+    EXPECT_TRUE(Window().UserShortcut("F1"));
+    EXPECT_EQ(program.browser.Opened, Strings{"/p/manual.html"});
+    EXPECT_TRUE(Window().UserShortcut("Ctrl+Q"));
+    EXPECT_TRUE(program.desktop.Ended());
+}
+
 TEST_F(CatalogueTest, AutoBoxesResetTheLists) {
     program.Move(2, {"a", "b"});
     program.AddCameraFile("new");

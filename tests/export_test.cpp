@@ -234,7 +234,16 @@ TEST_F(ExportTest, ShowsAndSavesResults) {
         EXPECT_EQ(window.LabelFilesResult[3].Caption(), "2");
         EXPECT_EQ(window.LabelExportedResult[3].AccessibleName(), "Type 3, Exported Cameras: 210");
         EXPECT_EQ(window.LabelSkippedResult[0].AccessibleName(), "All Types, Skipped Cameras: 3");
+        EXPECT_TRUE(window.UserShortcut("Ctrl+C"));
     }));
+    EXPECT_EQ(program.toolkit.Clipboard,
+              "\t\tFiles Processed\tExported Cameras\tSkipped Cameras\n"
+              "Type 1\tFixed Speed Camera\t3\t1520\t2\n"
+              "Type 2\tRed Speed Camera\t1\t47\t0\n"
+              "Type 3\tRed Light Camera\t2\t210\t1\n"
+              "Type 4\tSection Speed Camera\t0\t0\t0\n"
+              "Type 5\tMobile Speed Camera\t1\t96\t0\n"
+              "All Types\tTotal Files and Cameras\t7\t1873\t3");
     EXPECT_EQ(program.ResultsFile(), Crlf(R"(
 -------------------------------------------------------------------------------------
 Exported Speed Camera Results...:  Files Processed  Exported Cameras  Skipped Cameras

@@ -1,6 +1,6 @@
 // At each yield that an export or an import gives the interface, the user or the system does something:
-// presses any control of any window, closes, drags, starts the program a second time, shuts down. Nothing may
-// start over, and nothing may be lost.
+// presses any control or key of any window, closes, drags, starts the program a second time, shuts down.
+// Nothing may start over, and nothing may be lost.
 
 #include "tests/support/journeys.h"
 
@@ -19,7 +19,7 @@ void UseControl(forms::Control& control) {
     } else if (auto* const combo = dynamic_cast<forms::ComboBox*>(&control)) {
         combo->UserTyped("x");
     } else if (auto* const list = dynamic_cast<forms::ListBox*>(&control)) {
-        if (list->ListCount() > 0) list->UserSelect({0}, 0);
+        if (list->ListCount() > 0 && list->UserSelect({0}, 0)) list->UserDoubleClick();
     } else {
         control.UserFocused();
     }
@@ -45,6 +45,20 @@ void AddControls(std::vector<Interruption>& interruptions, const forms::Form& fo
         };
         interruptions.push_back(
             {name, run, name == "frmImport ButtonCancel" ? Effect::StopsImport : Effect::None});
+    }
+}
+
+void AddKeys(std::vector<Interruption>& interruptions, const forms::Form& form,
+             const std::function<forms::Form*(JourneyProgram&)>& find) {
+    for (std::size_t i = 0; i < form.Shortcuts().size(); ++i) {
+        const auto run = [find, i](JourneyProgram& program) {
+            forms::Form* const found = find(program);
+            if (found == nullptr || i >= found->Shortcuts().size()) return;
+            const forms::Shortcut& shortcut = found->Shortcuts()[i];
+            if (shortcut.control != nullptr) UseControl(*shortcut.control);
+            found->UserShortcut(shortcut.key);
+        };
+        interruptions.push_back({form.AtDesign().name + " " + form.Shortcuts()[i].key, run});
     }
 }
 
@@ -83,10 +97,13 @@ std::vector<Interruption> InterruptionsOf(const Journey& journey) {
     };
     JourneyProgram program;
     program.Start();
-    AddControls(interruptions, program.Window(), [](JourneyProgram& running) { return &running.Window(); });
+    const auto main = [](JourneyProgram& running) { return &running.Window(); };
+    AddControls(interruptions, program.Window(), main);
+    AddKeys(interruptions, program.Window(), main);
     program.toolkit.OnYield = [&, isAdded = false]() mutable {
         if (Dialog(program) == nullptr || isAdded) return;
         AddControls(interruptions, *Dialog(program), Dialog);
+        AddKeys(interruptions, *Dialog(program), Dialog);
         isAdded = true;
     };
     journey.play(program);

@@ -206,9 +206,9 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     posix::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
     qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
     posix::SettingsFile settings(fs::absolute(output / "options").string());
-    Program program(
-        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
-        qt.toolkit);
+    Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
+                     qt.browser, qt.theme, locale},
+                    qt.toolkit);
     program.Start();
     if (program.Core().MainForm == nullptr) throw std::runtime_error("another tour is running");
 

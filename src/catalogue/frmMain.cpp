@@ -29,6 +29,7 @@ frmMain::frmMain(modMain& core) : frmMainLayout(core.Desktop()), core_(core) {
     ConnectLists();
     ConnectOptions();
     ConnectLanguageList();
+    ConnectKeys();
     ButtonClassifyFiles.OnClick = [this] {
         if (ClassifyFiles()) UpdateButtons(true);
     };
@@ -151,9 +152,8 @@ void frmMain::NameControls() {
         CheckAuto[type].SetAccessibleName(CheckAuto[type].Caption() + ": " + heading);
         CheckAuto[type].SetToolTip(MoveWords(names.ButtonClassifyFiles(), heading));
         ButtonAdd[type].SetAccessibleName(MoveWords(unclassified, heading));
-        ButtonAdd[type].SetToolTip("Alt+" + std::to_string(type));
         ButtonRemove[type].SetAccessibleName(MoveWords(heading, unclassified));
-        ButtonRemove[type].SetToolTip("Alt+0");
+        ButtonRemove[type].SetToolTip("Alt+0, Delete");
     }
     MainList.SetAccessibleName(unclassified);
     LanguageList.SetAccessibleName(LabelSelectLanguage.Caption());

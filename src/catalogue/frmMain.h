@@ -37,6 +37,7 @@ private:
     void ConnectList(forms::ListBox& list, int number);
     void ConnectOptions();
     void ConnectLanguageList();
+    void ConnectKeys();
 
     void LoadStoredOptions();
     void LoadCameraFiles();
@@ -49,6 +50,9 @@ private:
     void ClearOtherSelections(int clicked);
     void ClearSelection(forms::ListBox& list);
     void ReloadAll();
+    void ReturnToMainList();
+    void CopyNames(const forms::ListBox& list) const;
+    void ShowManual() const;
     bool AnyTypeListHasItems() const;
     void OfferStep(forms::CommandButton& button, bool isPossible);
     void UpdateRenameButton();

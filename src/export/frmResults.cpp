@@ -18,6 +18,7 @@ frmResults::frmResults(const modExport& exports)
         core_.WriteSetting("ShowResults", CheckShowResults.Value() ? "1" : "0");
     };
     ButtonCloseResults.OnClick = [this] { Unload(); };
+    AddShortcut({"Ctrl+C", nullptr, [this] { core_.Desktop().Copy(TableText()); }});
 }
 
 void frmResults::Load() {
@@ -68,6 +69,23 @@ void frmResults::ShowNumber(forms::Label& label, std::int32_t number, const form
                             const forms::Label& heading) {
     label.SetCaption(std::to_string(number));
     label.SetAccessibleName(row.Caption() + ", " + heading.Caption() + ": " + label.Caption());
+}
+
+/// The table as it shows, for spreadsheets: a tab between two columns.
+std::string frmResults::TableText() const {
+    const auto row = [](const auto&... controls) {
+        std::string line;
+        ((line += '\t' + controls.Caption()), ...);
+        return line;
+    };
+    std::string table = '\t' + row(LabelTitleProcessed, LabelTitleExported, LabelTitleSkipped);
+    for (int type = kFirstType; type <= kLastType; ++type) {
+        table +=
+            '\n' + FrameType[type].Caption() +
+            row(LabelType[type], LabelFilesResult[type], LabelExportedResult[type], LabelSkippedResult[type]);
+    }
+    return table + '\n' + FrameAllTypes.Caption() +
+           row(LabelTotals, LabelFilesResult[0], LabelExportedResult[0], LabelSkippedResult[0]);
 }
 
 void frmResults::Paint() {

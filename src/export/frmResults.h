@@ -3,6 +3,8 @@
 #include "export/modExport.h"
 #include "ui/layouts/frmResultsLayout.h"
 
+#include <string>
+
 namespace halvenmoor {
 
 /// The window that shows the counters of the last run.
@@ -21,6 +23,7 @@ private:
                      const forms::Label& heading);
     void ShowNumber(forms::Label& label, std::int32_t number, const forms::Frame& row,
                     const forms::Label& heading);
+    std::string TableText() const;
 
     const modExport& exports_;
     const modMain& core_;

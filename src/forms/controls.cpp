@@ -4,6 +4,13 @@
 
 namespace halvenmoor::forms {
 
+CommandButton::CommandButton(Design design) : Control(ControlKind::CommandButton, std::move(design)) {
+    const std::string& key = AtDesign().key;
+    if (key.empty()) return;
+    Owner().AddShortcut({key, nullptr, [this] { UserPress(); }});
+    SetToolTip(key);
+}
+
 bool CommandButton::UserPress() {
     return Desktop::Deliver(*this, [this] {
         SetFocus();

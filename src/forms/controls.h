@@ -22,7 +22,7 @@ public:
 
 class CommandButton : public Control {
 public:
-    explicit CommandButton(Design design) : Control(ControlKind::CommandButton, std::move(design)) {}
+    explicit CommandButton(Design design);
 
     bool UserPress();
 };

@@ -35,8 +35,9 @@ struct Design {
     Glyph glyph = Glyph::None;
     /// The font size of the glyph, in points.
     double glyphSize = 0;
-    /// Command buttons: the digit that presses the button together with Alt; 0 for none.
-    char altDigit = 0;
+    /// Command buttons: the key that presses the button anywhere in the window, as in Shortcut; empty for
+    /// none.
+    std::string key = {};
     /// Picture boxes: the picture by its name, without a folder or an extension.
     std::string picture = {};
 
@@ -52,7 +53,7 @@ struct Design {
         return Set(glyph, itsGlyph);
     }
     Design& Showing(std::string itsPicture) { return Set(picture, std::move(itsPicture)); }
-    Design& WithAlt(char digit) { return Set(altDigit, digit); }
+    Design& PressedBy(std::string itsKey) { return Set(key, std::move(itsKey)); }
 
 private:
     template <class Value>

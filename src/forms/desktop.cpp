@@ -73,6 +73,10 @@ void Desktop::Wait(const std::function<void()>& work) {
     toolkit_.Wait(work);
 }
 
+void Desktop::Copy(const std::string& text) {
+    if (!text.empty()) toolkit_.Copy(text);
+}
+
 bool Desktop::Accepts(const Form& form) const {
     return !open_.empty() && open_.back() == &form;
 }

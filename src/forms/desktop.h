@@ -37,6 +37,8 @@ public:
     /// Does work that may wait long for a device, such as a disk, while the windows stay painted. The work
     /// touches no form. Throws what it throws.
     void Wait(const std::function<void()>& work);
+    /// Puts a text on the clipboard; UTF-8. An empty one leaves what is there.
+    void Copy(const std::string& text);
 
     /// Runs an event of a form, then brings the views up to date. A failure that the event does not catch
     /// ends it silently. False, and nothing runs, when the form is not the topmost one.

@@ -54,6 +54,14 @@ bool Form::UserKeyPress(char32_t key) {
     return consumed;
 }
 
+bool Form::UserShortcut(std::string_view key) {
+    const auto shortcut = std::find_if(shortcuts_.begin(), shortcuts_.end(), [&](const Shortcut& candidate) {
+        const bool isHeard = candidate.control == nullptr || candidate.control->HasFocus();
+        return isHeard && candidate.key == key;
+    });
+    return shortcut != shortcuts_.end() && Desktop::Deliver(*this, shortcut->action);
+}
+
 void Form::Painted() {
     Desktop::Raise([this] { Paint(); });
     if (view_ && HasChanges()) view_->Update();

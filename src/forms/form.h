@@ -3,9 +3,11 @@
 #include "forms/controls.h"
 #include "forms/geometry.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -27,6 +29,16 @@ struct FormDesign {
     bool toolWindow = false;
     /// The window receives key presses before its controls do.
     bool keyPreview = false;
+};
+
+/// What a key does in a window.
+struct Shortcut {
+    /// By its English name, with what is held down: "F5", "Delete", "Ctrl+C", "Alt+3". "Enter" is each of the
+    /// keys of that name.
+    std::string key;
+    /// The control that must have the focus; none: any.
+    Control* control = nullptr;
+    std::function<void()> action;
 };
 
 /// A window made of controls. A window's own class derives from it and overrides the events it needs.
@@ -62,6 +74,10 @@ public:
     CommandButton* CancelButton() const { return cancelButton_; }
     void SetCancelButton(CommandButton* button) { cancelButton_ = button; }
 
+    const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
+    /// Before the window opens.
+    void AddShortcut(Shortcut shortcut) { shortcuts_.push_back(std::move(shortcut)); }
+
     Desktop& Owner() const { return desktop_; }
     /// None before the window is built and after it is gone.
     View* GetView() const { return view_.get(); }
@@ -72,6 +88,8 @@ public:
     bool UserEscape();
     /// A character that the user typed; true when the window consumed it.
     bool UserKeyPress(char32_t key);
+    /// The user pressed a key down; one that repeats itself counts once. False where it has no meaning.
+    bool UserShortcut(std::string_view key);
     /// The window is being painted.
     void Painted();
 
@@ -112,6 +130,7 @@ private:
     std::vector<Control*> changed_;
     Control* active_ = nullptr;
     CommandButton* cancelButton_ = nullptr;
+    std::vector<Shortcut> shortcuts_;
     std::unique_ptr<forms::View> view_;
 };
 

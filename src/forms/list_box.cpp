@@ -110,6 +110,10 @@ bool ListBox::UserSelect(const std::vector<int>& rows, int current) {
     });
 }
 
+bool ListBox::UserDoubleClick() {
+    return Desktop::Deliver(*this, OnDoubleClick);
+}
+
 bool ListBox::UserStartDrag() {
     return Desktop::Deliver(*this, OnStartDrag);
 }

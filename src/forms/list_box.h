@@ -47,12 +47,16 @@ public:
     DropMode OLEDropMode() const { return dropMode_; }
     void SetOLEDropMode(DropMode mode) { dropMode_ = mode; }
 
+    /// After the click, once the mouse is up.
+    std::function<void()> OnDoubleClick;
     std::function<void()> OnStartDrag;
     std::function<void()> OnDragDrop;
     std::function<void()> OnCompleteDrag;
 
     /// The user made this the selection, with the given current row.
     bool UserSelect(const std::vector<int>& rows, int current);
+    /// On a row; after its UserSelect.
+    bool UserDoubleClick();
     bool UserStartDrag();
     /// A drag of this program was dropped here.
     bool UserDrop();

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace halvenmoor::forms {
 
@@ -45,6 +46,8 @@ public:
     virtual void HandleEvents(double waitSeconds) = 0;
     /// Whether so much time has passed since HandleEvents that the user would notice another call.
     virtual bool YieldIsDue() const { return true; }
+    /// Puts a text on the clipboard; UTF-8.
+    virtual void Copy(const std::string& text) = 0;
     /// Returns when the work is done, and handles events meanwhile if it can: for work that waits for a
     /// device and touches no form. Throws what the work throws.
     virtual void Wait(const std::function<void()>& work) { work(); }

@@ -14,6 +14,7 @@ struct Platform {
     SettingsStore& settings;
     MessageBox& messages;
     FileDialogs& fileDialogs;
+    Browser& browser;
     Theme& theme;
     const Locale& locale;
 };

@@ -87,6 +87,15 @@ public:
     virtual std::optional<std::string> AskOpenPath(const FileDialog& dialog) = 0;
 };
 
+/// What the desktop shows documents with.
+class Browser {
+public:
+    virtual ~Browser() = default;
+
+    /// Opens the file of this path in a window of its own. Does nothing where the desktop has none for it.
+    virtual void Open(const std::string& path) = 0;
+};
+
 /// The colours of the user's desktop, as plain colours.
 class Theme {
 public:

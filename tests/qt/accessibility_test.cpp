@@ -4,6 +4,7 @@
 #include "batch/user_actions.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QGuiApplication>
 #include <map>
 
@@ -117,13 +118,30 @@ TEST_F(Keyboard, DoesTheWholeJob) {
     Press(Qt::Key_Space);
     Press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(Form().MainList.SelCount(), 2);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "One 50\nTwo 70");
     Press(Qt::Key_2, Qt::AltModifier);
     EXPECT_EQ(Form().TypeList[2].ListCount(), 2);
 
     TabTo(Form().TypeList[2]);
     Press(Qt::Key_End);
-    Press(Qt::Key_0, Qt::AltModifier);
+    Press(Qt::Key_Delete);
     EXPECT_EQ(Form().MainList.List(0), "Two 70");
+
+    Press(Qt::Key_M, Qt::AltModifier);
+    {
+        const WhenShown rename("frmRename", [](QWidget& window) {
+            QKeyEvent stillDown(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+            QApplication::sendEvent(window.focusWidget(), &stillDown);
+            EXPECT_TRUE(window.isVisible());
+            QTest::keyClicks(window.focusWidget(), "Two 50");
+            QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+        });
+        Press(Qt::Key_Enter, Qt::KeypadModifier);
+    }
+    EXPECT_EQ(Form().MainList.List(0), "Two 50");
+    Main().activateWindow();  // what a window manager does
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Main()));
 
     const WhenShown results("frmResults", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
     TabTo(Form().ButtonExportCameras);

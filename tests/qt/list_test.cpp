@@ -50,6 +50,11 @@ TEST_F(Lists, SelectWithMouseAndKeys) {
     EXPECT_EQ(Heard(), Words{"left"}) << "a click that changes nothing counts";
     Press(Qt::Key_Down);
     EXPECT_EQ(Heard(), Words{}) << "a key that changes nothing does not";
+    form.left.OnDoubleClick = [this] { form.heard.push_back("double"); };
+    ClickRow(3);
+    QTest::mouseDClick(Left().viewport(), Qt::LeftButton, {}, CentreOfRow(Left(), 3));
+    QTest::mouseRelease(Left().viewport(), Qt::LeftButton, {}, CentreOfRow(Left(), 3));
+    EXPECT_EQ(Heard(), (Words{"left", "left", "double"}));
 }
 
 TEST_F(Lists, FollowTheProgram) {

@@ -42,9 +42,9 @@ class RealWindows : public testing::Test, protected fakes::Fakes {
 protected:
     RealWindows(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles, std::string folder)
         : Fakes(std::move(folder)),
-          program(
-              {fileSystem, hostFiles, programInfo, realClock, settings, messages, fileDialogs, theme, locale},
-              windows) {}
+          program({fileSystem, hostFiles, programInfo, realClock, settings, messages, fileDialogs, browser,
+                   theme, locale},
+                  windows) {}
     ~RealWindows() override { program.MainForm().UserClose(); }
 
     frmMain& Form() { return program.MainForm(); }

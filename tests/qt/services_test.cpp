@@ -1,6 +1,7 @@
 #include "platform/posix/host_files.h"
 #include "platform/posix/instance_lock.h"
 #include "platform/qt/services/application.h"
+#include "platform/qt/services/browser.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/instance_guard.h"
 #include "platform/qt/services/message_box.h"
@@ -9,12 +10,14 @@
 #include "tests/support/temporary_folder.h"
 #include "window_fixture.h"
 
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLocalSocket>
 #include <QMessageBox>
 #include <QPalette>
 #include <QPushButton>
+#include <QTextBrowser>
 #include <cmath>
 #include <filesystem>
 
@@ -55,6 +58,16 @@ TEST(SafeApplication, TakesTheLargestQuarterThatFitsTheScreen) {
     EXPECT_EQ(FittedScale(2, {1920, 1080}), 1.75);
     EXPECT_EQ(FittedScale(1.5, {800, 480}), 1);
     EXPECT_EQ(FittedScale(1, {800, 480}), 1);
+}
+
+TEST(QtBrowser, OpensTheFileWhateverItsName) {
+    QTextBrowser desktop;
+    QDesktopServices::setUrlHandler("file", &desktop, "setSource");
+    const TemporaryFolder folder;
+    folder.Put("a #1%20?.html", "words");
+    QtBrowser().Open(folder.Path() + "/a #1%20?.html");
+    QDesktopServices::unsetUrlHandler("file");
+    EXPECT_EQ(desktop.toPlainText(), "words");
 }
 
 class Dialogs : public Window {

@@ -15,7 +15,8 @@ struct Fakes {
 
     /// The platform of these fakes and the files given. Fakes and files outlive it.
     platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles) {
-        return {fileSystem, hostFiles, programInfo, clock, settings, messages, fileDialogs, theme, locale};
+        return {fileSystem, hostFiles,   programInfo, clock, settings,
+                messages,   fileDialogs, browser,     theme, locale};
     }
 
     FixedProgramInfo programInfo;
@@ -23,6 +24,7 @@ struct Fakes {
     headless::MemorySettings settings;
     MessageLog messages;
     WatchedFileDialogs fileDialogs;
+    BrowserLog browser;
     FixedTheme theme;
     FixedLocale locale;
     WatchedToolkit toolkit{clock};

@@ -51,6 +51,14 @@ public:
     }
 };
 
+/// Keeps the paths of what would have been opened.
+class BrowserLog : public platform::Browser {
+public:
+    std::vector<std::string> Opened;
+
+    void Open(const std::string& path) override { Opened.push_back(path); }
+};
+
 class FixedTheme : public platform::Theme {
 public:
     std::map<int, forms::Color> Colors{{forms::kHighlightNumber, forms::Rgb(0, 0, 128)},

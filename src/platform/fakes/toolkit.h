@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace halvenmoor::fakes {
@@ -41,6 +42,9 @@ public:
     /// No yield is due, otherwise one always is.
     bool SkipsYields = false;
 
+    /// What was copied last.
+    std::string Clipboard;
+
     int Yields() const { return yields_; }
     /// The topmost modal window, none while the main window has the user.
     forms::Form* OpenDialog() const { return dialogs_.empty() ? nullptr : dialogs_.back(); }
@@ -50,6 +54,7 @@ public:
     }
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
+    void Copy(const std::string& text) override { Clipboard = text; }
     bool YieldIsDue() const override { return !SkipsYields; }
 
 protected:

@@ -18,7 +18,8 @@ struct HeadlessPlatform {
     /// The platform of these services and the ones given. All of them outlive it.
     platform::Platform With(platform::FileSystem& fileSystem, platform::HostFiles& hostFiles,
                             const platform::Locale& locale) {
-        return {fileSystem, hostFiles, programInfo, clock, settings, messages, fileDialogs, theme, locale};
+        return {fileSystem, hostFiles,   programInfo, clock, settings,
+                messages,   fileDialogs, browser,     theme, locale};
     }
 
     HeadlessProgramInfo programInfo;
@@ -26,6 +27,7 @@ struct HeadlessPlatform {
     MemorySettings settings;
     ToldMessages messages;
     PreparedFileDialogs fileDialogs;
+    NoBrowser browser;
     ColorlessTheme theme;
     HeadlessToolkit toolkit{clock};
 };

@@ -95,6 +95,12 @@ private:
     std::optional<std::string> Take() { return std::exchange(Answer, std::nullopt); }
 };
 
+/// Opens nothing.
+class NoBrowser : public platform::Browser {
+public:
+    void Open(const std::string&) override {}
+};
+
 /// A desktop without colours.
 class ColorlessTheme : public platform::Theme {
 public:

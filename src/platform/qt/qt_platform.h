@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/services/application.h"
+#include "platform/qt/services/browser.h"
 #include "platform/qt/services/file_dialogs.h"
 #include "platform/qt/services/message_box.h"
 #include "platform/qt/services/theme.h"
@@ -30,6 +31,7 @@ struct QtPlatform {
     QtToolkit toolkit;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;
+    QtBrowser browser;
     QtTheme theme;
 };
 

@@ -25,10 +25,10 @@ public:
         return Row("CheckAuto",     {4920,  540 + 1560 * (i - 1),  795,  255}, 9 + 3 * i, "Auto").On(); }};
     Array<CommandButton, 1, 5> ButtonAdd{[this](int i) {
         return Row("ButtonAdd",     {4860,  840 + 1560 * (i - 1),  855,  375}, 10 + 3 * i)
-            .Showing(Glyph::TriangleLeft, 14.25).WithAlt(kAddDigits[i - 1]); }};
+            .Showing(Glyph::TriangleLeft, 14.25).PressedBy(kAddKeys[i - 1]); }};
     Array<CommandButton, 1, 5> ButtonRemove{[this](int i) {
         return Row("ButtonRemove",  {4860, 1305 + 1560 * (i - 1),  855,  375}, 11 + 3 * i)
-            .Showing(Glyph::TriangleRight, 14.25).WithAlt(kRemoveDigits[i - 1]); }};
+            .Showing(Glyph::TriangleRight, 14.25).PressedBy(kRemoveKeys[i - 1]); }};
 
     Label    LabelMainList      {Row("LabelMainList",       {5760, 240, 3375,  255}, 44, "Speed Camera Files  (Unclassified)")};
     ListBox  MainList           {Row("MainList",            {5760, 480, 3375, 7470}, 29)};
@@ -38,8 +38,8 @@ public:
 
     Frame         FrameFileOptions     {Row("FrameFileOptions",      {9240,  960, 2535, 3315}, 45, "File Options")};
     CommandButton ButtonClassifyFiles  {Row("ButtonClassifyFiles",   {9360, 1320, 2295,  375},  0, "Classify Files").Disabled()};
-    CommandButton ButtonReloadFiles    {Row("ButtonReloadFiles",     {9360, 1920, 2295,  375},  1, "Reload Files")};
-    CommandButton ButtonRenameFile     {Row("ButtonRenameFile",      {9360, 2520, 2295,  375},  2, "Rename File").Disabled()};
+    CommandButton ButtonReloadFiles    {Row("ButtonReloadFiles",     {9360, 1920, 2295,  375},  1, "Reload Files").PressedBy("F5")};
+    CommandButton ButtonRenameFile     {Row("ButtonRenameFile",      {9360, 2520, 2295,  375},  2, "Rename File").Disabled().PressedBy("F2")};
     CommandButton ButtonImportFiles    {Row("ButtonImportFiles",     {9360, 3120, 2295,  375},  3, "Import Files")};
     CheckBox      CheckDemoMode        {Row("CheckDemoMode",         {9360, 3660, 2295,  390},  4, "Demonstration mode").On()};
 
@@ -49,7 +49,7 @@ public:
         return Row("OptionExportMode", {9360, 5340 + 480 * (i - 1), 2295, 390}, 5 + i, kModes[i - 1]).On(i == 1); }};
     CheckBox      CheckSaveResults     {Row("CheckSaveResults",      {9360, 6780, 2295,  390},  9, "Save results to file ").On()};
     CommandButton ButtonShowResults    {Row("ButtonShowResults",     {9360, 7320, 2295,  375}, 10, "Show Results").Disabled()};
-    CommandButton ButtonExitApplication{Row("ButtonExitApplication", {9660, 8040, 1695,  375}, 11, "Exit")};
+    CommandButton ButtonExitApplication{Row("ButtonExitApplication", {9660, 8040, 1695,  375}, 11, "Exit").PressedBy("Ctrl+Q")};
     // clang-format on
 
 private:
@@ -58,8 +58,8 @@ private:
         "Speed Camera Type \"3\"  (Red Light Camera)", "Speed Camera Type \"4\"  (Section Speed Camera)",
         "Speed Camera Type \"5\"  (Mobile Speed Camera)"};
     // One button is enough to put files back, as each of them does so for all types.
-    static constexpr char kAddDigits[] = {'1', '2', '3', '4', '5'};
-    static constexpr char kRemoveDigits[] = {'0', 0, 0, 0, 0};
+    static constexpr const char* kAddKeys[] = {"Alt+1", "Alt+2", "Alt+3", "Alt+4", "Alt+5"};
+    static constexpr const char* kRemoveKeys[] = {"Alt+0", "", "", "", ""};
     static constexpr const char* kModes[] = {"Replace File", "Save File As...", "Append To File..."};
 };
 

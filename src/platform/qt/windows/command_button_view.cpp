@@ -4,7 +4,6 @@
 
 #include <QPainter>
 #include <QPolygonF>
-#include <QShortcut>
 #include <QStyleOptionButton>
 
 namespace halvenmoor::qt {
@@ -65,11 +64,6 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& pare
                                      const text::CodePage& page)
     : ViewOf(button, parent, page) {
     Widget().SetGlyph(button.AtDesign().glyph, button.AtDesign().glyphSize);
-    if (const char digit = button.AtDesign().altDigit; digit != 0) {
-        // Not the button's own shortcut, which shows a press of a tenth of a second before it acts.
-        auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(digit)), &Widget());
-        QObject::connect(shortcut, &QShortcut::activated, &Widget(), &QPushButton::click);
-    }
     Widget().setAutoDefault(true);  // the Enter key presses the button that has the focus
     QObject::connect(&Widget(), &QPushButton::clicked, [this] { Control().UserPress(); });
 }

@@ -70,7 +70,9 @@ QString ControlView::ShownCaption(const QSize& size, Qt::TextFlag lines) {
     const QString caption = ToText(control_.Caption(), page_);
     const FittedCaption fitted = FitCaption(caption, ToFont({}), size, lines);
     widget_.setFont(fitted.font);
-    if (fitted.text != caption && control_.ToolTip().empty()) widget_.setToolTip(ToToolTip(caption));
+    if (fitted.text == caption) return fitted.text;
+    const QString toolTip = QString::fromStdString(control_.ToolTip());
+    widget_.setToolTip(ToToolTip(toolTip.isEmpty() ? caption : caption + u'\n' + toolTip));
     return fitted.text;
 }
 

@@ -43,6 +43,11 @@ QString WithoutShortcut(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }
 
+QList<QKeySequence> ToKeys(const std::string& name) {
+    if (name == "Enter") return {Qt::Key_Return, Qt::Key_Enter};
+    return {QKeySequence(QString::fromStdString(name), QKeySequence::PortableText)};
+}
+
 QFont ToFont(const forms::Font& font) {
     QFont result;
     result.setFamilies({QString::fromStdString(font.name), QStringLiteral("DejaVu Sans")});

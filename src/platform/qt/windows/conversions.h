@@ -7,9 +7,12 @@
 
 #include <QColor>
 #include <QFont>
+#include <QKeySequence>
+#include <QList>
 #include <QPalette>
 #include <QRect>
 #include <QString>
+#include <string>
 #include <string_view>
 
 namespace halvenmoor::qt {
@@ -25,6 +28,9 @@ QString ToRow(std::string_view bytes, const text::CodePage& page);
 
 /// A text for a control that would take an & for the mark of a shortcut.
 QString WithoutShortcut(QString text);
+
+/// The key of a shortcut by its name; each of them where several have it.
+QList<QKeySequence> ToKeys(const std::string& name);
 
 /// The side on which lines of such a text begin.
 Qt::Alignment SideOf(const QString& text);

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 #include <algorithm>
 
@@ -43,6 +44,7 @@ FormWindow::FormWindow(forms::Form& form, const text::CodePage& page, QWidget* b
     Place();
     LowerFrames();
     ChainTabs();
+    ListenToKeys();
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* focused) { UserFocused(focused); });
 }
@@ -90,6 +92,17 @@ void FormWindow::ChainTabs() {
         QWidget* const widget = &views_.at(control)->Widget();
         if (before != nullptr) setTabOrder(before, widget);
         before = widget;
+    }
+}
+
+void FormWindow::ListenToKeys() {
+    for (const forms::Shortcut& shortcut : form_.Shortcuts()) {
+        const bool isOfControl = shortcut.control != nullptr;
+        auto* const keys = new QShortcut(isOfControl ? &views_.at(shortcut.control)->Widget() : this);
+        keys->setContext(isOfControl ? Qt::WidgetShortcut : Qt::WindowShortcut);
+        keys->setKeys(ToKeys(shortcut.key));
+        keys->setAutoRepeat(false);
+        connect(keys, &QShortcut::activated, this, [this, key = shortcut.key] { form_.UserShortcut(key); });
     }
 }
 
@@ -168,8 +181,11 @@ void FormWindow::UserFocused(const QWidget* widget) {
 
 bool FormWindow::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    // The Enter that opened the window may still be down.
+    if (key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) return true;
     bool isConsumed = false;
-    for (const char32_t character : static_cast<const QKeyEvent*>(event)->text().toUcs4()) {
+    for (const char32_t character : key.text().toUcs4()) {
         isConsumed |= character != kEscape && form_.UserKeyPress(character);
     }
     return isConsumed;

@@ -45,6 +45,7 @@ private:
     void BuildControls();
     void LowerFrames();
     void ChainTabs();
+    void ListenToKeys();
     void ShowFocus();
     void UserFocused(const QWidget* widget);
 

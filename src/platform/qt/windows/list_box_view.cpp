@@ -113,6 +113,7 @@ bool ListBoxWidget::viewportEvent(QEvent* event) {
     if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) {
         const auto& mouse = static_cast<const QMouseEvent&>(*event);
         clickPending_ = mouse.button() == Qt::LeftButton && indexAt(mouse.position().toPoint()).isValid();
+        doubleClickPending_ = clickPending_ && type == QEvent::MouseButtonDblClick;
     }
     if (type == QEvent::ToolTip) {
         ShowWholeText(static_cast<const QHelpEvent&>(*event));
@@ -120,7 +121,11 @@ bool ListBoxWidget::viewportEvent(QEvent* event) {
     }
     const bool handled = QListView::viewportEvent(event);
     // A click that changes nothing counts as well, once the mouse is up.
-    if (selectionChanged_ || (clickPending_ && type == QEvent::MouseButtonRelease)) Report();
+    const bool isClick = clickPending_ && type == QEvent::MouseButtonRelease;
+    const bool isDoubleClick = isClick && std::exchange(doubleClickPending_, false);
+    if (selectionChanged_ || isClick) Report();
+    // A window that opens while the button is still down would miss its release.
+    if (isDoubleClick) list_->UserDoubleClick();
     return handled;
 }
 

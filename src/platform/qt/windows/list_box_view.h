@@ -74,6 +74,8 @@ private:
     bool selectionChanged_ = false;
     /// The mouse went down on a row and the list has not heard of it yet.
     bool clickPending_ = false;
+    /// The same for the second click of a double click.
+    bool doubleClickPending_ = false;
 };
 
 class ListBoxView : public ViewOf<forms::ListBox, ListBoxWidget> {

@@ -3,6 +3,7 @@
 #include "platform/qt/windows/accessibility.h"
 #include "platform/qt/windows/form_window.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -57,6 +58,10 @@ void QtToolkit::HandleEvents(double waitSeconds) {
 
 bool QtToolkit::YieldIsDue() const {
     return !sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval);
+}
+
+void QtToolkit::Copy(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
 void QtToolkit::Wait(const std::function<void()>& work) {

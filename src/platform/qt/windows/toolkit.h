@@ -23,6 +23,7 @@ public:
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
     bool YieldIsDue() const override;
+    void Copy(const std::string& text) override;
     void Wait(const std::function<void()>& work) override;
 
     /// The main loop; returns when the desktop has ended.
