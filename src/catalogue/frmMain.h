@@ -46,12 +46,13 @@ private:
     void NameControls();
     void ChooseLanguage();
     void MoveSelectedItems(forms::ListBox& source, forms::ListBox& target);
+    std::string DragText(const forms::ListBox& list) const;
     void SetDropMode(bool active);
     void ClearOtherSelections(int clicked);
     void ClearSelection(forms::ListBox& list);
     void ReloadAll();
     void ReturnToMainList();
-    void CopyNames(const forms::ListBox& list) const;
+    std::string SelectedNames(const forms::ListBox& list) const;
     void ShowManual() const;
     bool AnyTypeListHasItems() const;
     void OfferStep(forms::CommandButton& button, bool isPossible);

@@ -12,12 +12,12 @@ void frmMain::ConnectKeys() {
     AddShortcut({"F1", nullptr, [this] { ShowManual(); }});
     AddShortcut({"Alt+M", nullptr, [this] { ReturnToMainList(); }});
     AddShortcut({"Enter", &MainList, [this] { ButtonRenameFile.UserPress(); }});
-    AddShortcut({"Ctrl+C", &MainList, [this] { CopyNames(MainList); }});
+    AddShortcut({"Ctrl+C", &MainList, [this] { core_.Desktop().Copy(SelectedNames(MainList)); }});
     MainList.OnDoubleClick = [this] { ButtonRenameFile.UserPress(); };
     for (int type = kFirstType; type <= kLastType; ++type) {
         forms::ListBox& list = TypeList[type];
         AddShortcut({"Delete", &list, [this, type] { ButtonRemove[type].UserPress(); }});
-        AddShortcut({"Ctrl+C", &list, [this, &list] { CopyNames(list); }});
+        AddShortcut({"Ctrl+C", &list, [this, &list] { core_.Desktop().Copy(SelectedNames(list)); }});
     }
 }
 
@@ -28,14 +28,15 @@ void frmMain::ReturnToMainList() {
     MainList.SetSelected(std::max(MainList.ListIndex(), 0), true);
 }
 
-void frmMain::CopyNames(const forms::ListBox& list) const {
+/// One a line.
+std::string frmMain::SelectedNames(const forms::ListBox& list) const {
     std::string names;
     for (int i = 0; i < list.ListCount(); ++i) {
         if (!list.Selected(i)) continue;
         if (!names.empty()) names += '\n';
         names += text::ToUtf8(list.List(i), core_.Services().locale.CodePage());
     }
-    core_.Desktop().Copy(names);
+    return names;
 }
 
 void frmMain::ShowManual() const {

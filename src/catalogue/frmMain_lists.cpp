@@ -4,6 +4,7 @@
 #include "catalogue/classification.h"
 #include "catalogue/frmMain.h"
 #include "core/camera_files.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
 #include <utility>
@@ -30,6 +31,7 @@ void frmMain::ConnectList(forms::ListBox& list, int number) {
     };
     list.OnStartDrag = [this, &list] {
         dragSource_ = &list;
+        list.SetDragText(DragText(list));
         SetDropMode(true);
     };
     list.OnDragDrop = [this, &list] {
@@ -73,6 +75,12 @@ void frmMain::MoveSelectedItems(forms::ListBox& source, forms::ListBox& target) 
         source.MoveItemsTo(target, [&source](int i) { return source.Selected(i); });
     }
     UpdateButtons(true);
+}
+
+/// The name of the one file that is dragged, or their number.
+std::string frmMain::DragText(const forms::ListBox& list) const {
+    return list.SelCount() == 1 ? SelectedNames(list)
+                                : CountOf(list.SelCount(), core_.Names->LabelNumberOfFiles());
 }
 
 void frmMain::SetDropMode(bool active) {

@@ -47,6 +47,10 @@ public:
     DropMode OLEDropMode() const { return dropMode_; }
     void SetOLEDropMode(DropMode mode) { dropMode_ = mode; }
 
+    /// What a drag from here shows; to be set when it starts. UTF-8.
+    const std::string& DragText() const { return dragText_; }
+    void SetDragText(std::string text) { dragText_ = std::move(text); }
+
     /// After the click, once the mouse is up.
     std::function<void()> OnDoubleClick;
     std::function<void()> OnStartDrag;
@@ -76,6 +80,7 @@ private:
     int listIndex_ = -1;
     bool mustScroll_ = false;
     DropMode dropMode_ = DropMode::None;
+    std::string dragText_;
     std::uint64_t itemsVersion_ = 0;
 };
 

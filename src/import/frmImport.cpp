@@ -31,10 +31,6 @@ const Source& SourceOf(int option) {
     return kSources[static_cast<std::size_t>(option)];
 }
 
-std::string CountOf(std::int32_t count, const std::string& word) {
-    return std::to_string(count) + " " + word + "(s)";
-}
-
 /// What an import left out. The cross keeps the number from reading like success.
 std::string LeftOut(std::int32_t count, const std::string& word) {
     return count == 0 ? "" : "\u2717 " + CountOf(count, word);

@@ -65,4 +65,8 @@ std::string NormaliseText(std::string_view raw, cNamesClass::Case letterCase) {
     return WithFirstRaised(text);
 }
 
+std::string CountOf(int count, const std::string& word) {
+    return std::to_string(count) + " " + word + "(s)";
+}
+
 }  // namespace halvenmoor

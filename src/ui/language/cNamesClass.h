@@ -139,4 +139,7 @@ public:
 /// The shown form of a text of the language file: marks removed, letter case set.
 std::string NormaliseText(std::string_view raw, cNamesClass::Case letterCase);
 
+/// A number of files or cameras, with the word for them: "3 File(s)".
+std::string CountOf(int count, const std::string& word);
+
 }  // namespace halvenmoor

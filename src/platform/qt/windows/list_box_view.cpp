@@ -5,6 +5,7 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -12,6 +13,14 @@
 #include <algorithm>
 
 namespace halvenmoor::qt {
+
+namespace {
+
+constexpr int kTargetFrame = 3;
+/// From the pointer to the picture of a drag.
+constexpr QPoint kBesidePointer{12, 12};
+
+}  // namespace
 
 void ListRows::Reload() {
     beginResetModel();
@@ -136,11 +145,11 @@ void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItem
 
 void ListBoxWidget::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (!hasFocus()) return;
     // Without a current row nothing else would show where the keys go.
+    const int thickness = isTarget_ ? kTargetFrame : hasFocus() ? 1 : 0;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    for (int i = 0; i < thickness; ++i) painter.drawRect(viewport()->rect().adjusted(i, i, -1 - i, -1 - i));
 }
 
 /// Paints one device pixel on each side. The line of a style would be partly below the rows at scales that
@@ -167,6 +176,8 @@ void ListBoxWidget::startDrag(Qt::DropActions) {
     if (!list_->UserStartDrag()) return;
     auto* const drag = new QDrag(this);  // ends its own life after exec
     drag->setMimeData(new DraggedItems);
+    drag->setPixmap(DragPicture(QString::fromStdString(list_->DragText())));
+    drag->setHotSpot(-kBesidePointer);
     drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
     list_->UserCompleteDrag();
 }
@@ -176,8 +187,31 @@ bool ListBoxWidget::Accepts(const QDropEvent& drop) const {
     return isOwnDrag && list_->OLEDropMode() == forms::ListBox::DropMode::Manual;
 }
 
+/// A text on a label as of a tool tip.
+QPixmap ListBoxWidget::DragPicture(const QString& text) const {
+    QLabel label(fontMetrics().elidedText(text, textElideMode(), viewport()->width()));
+    label.setTextFormat(Qt::PlainText);
+    label.setFont(font());
+    label.setPalette(QToolTip::palette());
+    label.setBackgroundRole(QPalette::ToolTipBase);
+    label.setForegroundRole(QPalette::ToolTipText);
+    label.setFrameStyle(QFrame::Box | QFrame::Plain);
+    label.setMargin(2);
+    return label.grab();
+}
+
+void ListBoxWidget::ShowAsTarget(bool isTarget) {
+    if (std::exchange(isTarget_, isTarget) != isTarget) viewport()->update();
+}
+
 void ListBoxWidget::dragEnterEvent(QDragEnterEvent* event) {
     event->setAccepted(Accepts(*event));
+    // A drop where the drag began moves nothing.
+    ShowAsTarget(event->isAccepted() && event->source() != this);
+}
+
+void ListBoxWidget::dragLeaveEvent(QDragLeaveEvent*) {
+    ShowAsTarget(false);
 }
 
 void ListBoxWidget::dragMoveEvent(QDragMoveEvent* event) {
@@ -185,6 +219,7 @@ void ListBoxWidget::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void ListBoxWidget::dropEvent(QDropEvent* event) {
+    ShowAsTarget(false);
     event->setAccepted(Accepts(*event));
     if (event->isAccepted()) list_->UserDrop();
 }

@@ -6,6 +6,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 #include <QMimeData>
+#include <QPixmap>
 #include <algorithm>
 #include <cstdint>
 #include <vector>
@@ -54,6 +55,7 @@ protected:
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
@@ -64,6 +66,8 @@ private:
     /// Tells the list what the user selected.
     void Report();
     bool Accepts(const QDropEvent& drop) const;
+    QPixmap DragPicture(const QString& text) const;
+    void ShowAsTarget(bool isTarget);
     /// Shows the text of a row that is cut off.
     void ShowWholeText(const QHelpEvent& event) const;
 
@@ -76,6 +80,8 @@ private:
     bool clickPending_ = false;
     /// The same for the second click of a double click.
     bool doubleClickPending_ = false;
+    /// A drag from another list is over this one and would be taken.
+    bool isTarget_ = false;
 };
 
 class ListBoxView : public ViewOf<forms::ListBox, ListBoxWidget> {
