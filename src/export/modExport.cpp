@@ -7,8 +7,10 @@
 #include "export/frmExport.h"
 #include "export/frmResults.h"
 #include "export/modSaveOpen.h"
+#include "ui/language/cNamesClass.h"
 
 #include <exception>
+#include <numeric>
 #include <optional>
 
 namespace halvenmoor {
@@ -20,6 +22,7 @@ void modExport::AttachButtons() {
 
 void modExport::ExportCamerasClicked() {
     const bool ran = ExportSpeedCameras(mainForm_.ResultsValid);
+    if (ran) core_.Desktop().Announce(EndWords());
     if (ran && mainForm_.ResultsValid && core_.ReadSetting("ShowResults", "1") == "1") ShowResults();
     mainForm_.UpdateButtons(false);
 }
@@ -27,6 +30,20 @@ void modExport::ExportCamerasClicked() {
 void modExport::ShowResults() {
     frmResults window(*this);
     core_.Desktop().ShowModal(window);
+}
+
+/// What a screen reader says at the end: whether all went well, and the totals.
+std::string modExport::EndWords() const {
+    const cNamesClass& names = *core_.Names;
+    const bool appended = core_.ExportMode == kAppendToFile;
+    const auto total = [](const std::string& heading, const TypeTable<std::int32_t>& counter) {
+        return ", " + heading + ": " + std::to_string(std::accumulate(counter.begin(), counter.end(), 0LL));
+    };
+    return (appended ? names.TitleAppendSpeedCameras() : names.TitleExportSpeedCameras()) +
+           (mainForm_.ResultsValid ? " \u2713" : " \u2717") +
+           total(names.LabelFilesProcessed(), FilesProcessed) +
+           total(appended ? names.LabelAppendedCameras() : names.LabelExportedCameras(), CamerasExported) +
+           total(names.LabelSkippedCameras(), CamerasSkipped);
 }
 
 bool modExport::ExportSpeedCameras(bool& resultsValid) {

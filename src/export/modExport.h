@@ -51,6 +51,7 @@ public:
 private:
     void ExportCamerasClicked();
     void ShowResults();
+    std::string EndWords() const;
     bool ChooseTarget(std::string& path) const;
     void AddFilesOfType(int type, const CameraFiles& files);
 

@@ -39,6 +39,8 @@ public:
     void Wait(const std::function<void()>& work);
     /// Puts a text on the clipboard; UTF-8. An empty one leaves what is there.
     void Copy(const std::string& text);
+    /// Has screen readers say a text that no control with the focus tells, as the end of a job; UTF-8.
+    void Announce(const std::string& text) { toolkit_.Announce(text); }
 
     /// Runs an event of a form, then brings the views up to date. A failure that the event does not catch
     /// ends it silently. False, and nothing runs, when the form is not the topmost one.

@@ -48,6 +48,8 @@ public:
     virtual bool YieldIsDue() const { return true; }
     /// Puts a text on the clipboard; UTF-8.
     virtual void Copy(const std::string& text) = 0;
+    /// Has screen readers say a text, in the window that is the topmost by then; UTF-8.
+    virtual void Announce(const std::string& text) = 0;
     /// Returns when the work is done, and handles events meanwhile if it can: for work that waits for a
     /// device and touches no form. Throws what the work throws.
     virtual void Wait(const std::function<void()>& work) { work(); }

@@ -115,6 +115,7 @@ void frmImport::StartImport() {
     ButtonFinish.SetEnabled(true);
     ButtonFinish.SetFocus();
     SetCancelButton(&ButtonFinish);
+    Owner().Announce(EndWords());
 }
 
 void frmImport::RunImport() {
@@ -240,6 +241,17 @@ void frmImport::ShowPicture(Display display, std::int32_t targetFileCount) {
     PictureDelete.SetVisible(display == Display::Ready && targetFileCount > 0);
     PictureFinished.SetVisible(display == Display::Finished);
     PictureIncomplete.SetVisible(display == Display::Incomplete);
+}
+
+/// What a screen reader says at the end: whether all went well, what was left out, and the counts.
+std::string frmImport::EndWords() const {
+    const forms::PictureBox& picture = PictureFinished.Visible() ? PictureFinished : PictureIncomplete;
+    std::string words = picture.AccessibleName();
+    for (const std::string& more :
+         {picture.ToolTip(), LabelTargetFiles.Caption(), LabelAddedRecords.Caption()}) {
+        if (!more.empty()) words += ", " + more;
+    }
+    return words;
 }
 
 bool frmImport::StopRequested() const {

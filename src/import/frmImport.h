@@ -48,6 +48,7 @@ private:
     void UpdateDisplay(Display display);
     void ShowSource();
     void ShowPicture(Display display, std::int32_t targetFileCount);
+    std::string EndWords() const;
 
     /// The path of a folder of the workspace, with a separator at its end.
     std::string Folder(std::initializer_list<std::string_view> words) const;

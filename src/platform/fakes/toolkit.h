@@ -44,6 +44,7 @@ public:
 
     /// What was copied last.
     std::string Clipboard;
+    std::vector<std::string> Announced;
 
     int Yields() const { return yields_; }
     /// The topmost modal window, none while the main window has the user.
@@ -55,6 +56,7 @@ public:
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
     void Copy(const std::string& text) override { Clipboard = text; }
+    void Announce(const std::string& text) override { Announced.push_back(text); }
     bool YieldIsDue() const override { return !SkipsYields; }
 
 protected:

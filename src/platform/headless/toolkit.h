@@ -56,6 +56,7 @@ public:
     void RunModal(forms::Form& form, const std::function<void()>& first) override;
     void HandleEvents(double waitSeconds) override;
     void Copy(const std::string&) override {}
+    void Announce(const std::string&) override {}
     bool YieldIsDue() const override { return false; }
 
 protected:

@@ -10,6 +10,7 @@
 #include <QScopeGuard>
 #include <QSessionManager>
 #include <QTimer>
+#include <chrono>
 #include <future>
 
 namespace halvenmoor::qt {
@@ -21,6 +22,10 @@ constexpr double kShortestSleep = 0.002;
 
 // Milliseconds between two yields of a loop that offers many. A click is answered within a few of these.
 constexpr qint64 kYieldInterval = 10;
+
+// Screen readers start to speak anew when a window or a control gets the focus, so they have to be through
+// with that.
+constexpr std::chrono::milliseconds kBeforeAnnouncement{500};
 
 void RunUntilHidden(FormWindow& window, QEventLoop& loop) {
     window.SetOnHidden([&loop] { loop.quit(); });
@@ -62,6 +67,12 @@ bool QtToolkit::YieldIsDue() const {
 
 void QtToolkit::Copy(const std::string& text) {
     QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+void QtToolkit::Announce(const std::string& text) {
+    QTimer::singleShot(kBeforeAnnouncement, qApp, [text] {
+        if (QWidget* const window = TopWindow()) AnnounceIn(*window, QString::fromStdString(text));
+    });
 }
 
 void QtToolkit::Wait(const std::function<void()>& work) {

@@ -24,6 +24,7 @@ public:
     void HandleEvents(double waitSeconds) override;
     bool YieldIsDue() const override;
     void Copy(const std::string& text) override;
+    void Announce(const std::string& text) override;
     void Wait(const std::function<void()>& work) override;
 
     /// The main loop; returns when the desktop has ended.
