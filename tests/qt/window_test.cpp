@@ -1,4 +1,5 @@
 #include "platform/qt/windows/canvas.h"
+#include "platform/qt/windows/contrast.h"
 #include "window_fixture.h"
 
 #include <QCheckBox>
@@ -63,6 +64,21 @@ TEST_F(Window, ShowsPlainText) {
     const QAbstractItemModel& rows = *Find<QListView>("left").model();
     EXPECT_EQ(rows.index(0, 0).data().toString(), "Wei\u00df");
     EXPECT_EQ(rows.index(1, 0).data().toString(), "two\u240alines");
+}
+
+TEST_F(Window, FramesOfBoxesThatAreOffStandOutOfADarkWindow) {
+    for (const QColor& window : {QColor(18, 18, 18), QColor(53, 53, 53), QColor(90, 60, 30)}) {
+        Root().setPalette(QPalette(window, window));
+        for (const char* name : {"check", "optionB"}) {
+            const QImage image = Find(name).grab().toImage();
+            const int middle = image.height() / 2;
+            EXPECT_EQ(image.pixelColor(image.width() - 1, middle), window);
+            double contrast = 1;
+            for (int x = 0; x < 5; ++x)
+                contrast = std::max(contrast, Contrast(image.pixelColor(x, middle), window));
+            EXPECT_GE(contrast, 3) << name << " on " << window.name().toStdString();
+        }
+    }
 }
 
 TEST_F(Window, PlacesControlsByTwips) {

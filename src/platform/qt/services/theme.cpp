@@ -1,32 +1,17 @@
 #include "platform/qt/services/theme.h"
 
+#include "platform/qt/windows/contrast.h"
 #include "platform/qt/windows/conversions.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <algorithm>
-#include <cmath>
 
 namespace halvenmoor::qt {
 
 namespace {
 
-// The contrast that the Web Content Accessibility Guidelines ask of text, and their formulas for it.
+// What the Web Content Accessibility Guidelines ask of text.
 constexpr double kReadableContrast = 4.5;
-
-double LinearLight(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color) {
-    return 0.2126 * LinearLight(color.redF()) + 0.7152 * LinearLight(color.greenF()) +
-           0.0722 * LinearLight(color.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 /// The tone itself, or the nearest one away from the text colour on which the text can be read.
 QColor ReadableTone(const QColor& tone, const QColor& text) {

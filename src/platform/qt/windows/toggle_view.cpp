@@ -1,5 +1,6 @@
 #include "platform/qt/windows/toggle_view.h"
 
+#include "platform/qt/windows/contrast.h"
 #include "platform/qt/windows/conversions.h"
 
 #include <QStyleOptionButton>
@@ -26,10 +27,12 @@ void WrappingToggle<Base>::paintEvent(QPaintEvent*) {
     option.state &= ~QStyle::State_HasFocus;
 
     QStylePainter painter(this);
+    option.palette = WithVisibleFrames(this->palette());
     painter.drawControl(kIsCheckBox ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, option);
     const QRect contents = CaptionRect();
     const int flags =
         static_cast<int>(Qt::AlignVCenter | SideOf(words)) | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    option.palette = this->palette();
     painter.drawItemText(contents, flags, option.palette, this->isEnabled(), words, QPalette::WindowText);
     if (!hasFocus) return;
     QStyleOptionFocusRect focus;
