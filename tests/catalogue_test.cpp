@@ -69,6 +69,7 @@ TEST_F(CatalogueTest, DragsMoveBetweenAnyLists) {
     program.Drag(2, 4, {"c"});
     program.Drag(2, 0, {"a"});
     EXPECT_EQ(program.Items(0), (Strings{"a", "b", "d", "e"}));
+    EXPECT_EQ(program.List(0).DragText() + ", " + program.List(2).DragText(), "2 File(s), a");
     SetResultsValid(program);
     program.Drag(4, 4, {"c"});
     EXPECT_EQ(program.Items(4), Strings{"c"});

@@ -236,6 +236,9 @@ TEST_F(ExportTest, ShowsAndSavesResults) {
         EXPECT_EQ(window.LabelSkippedResult[0].AccessibleName(), "All Types, Skipped Cameras: 3");
         EXPECT_TRUE(window.UserShortcut("Ctrl+C"));
     }));
+    EXPECT_EQ(
+        program.toolkit.Announced,
+        Strings{"Export Speed Cameras ✓, Files Processed: 7, Exported Cameras: 1873, Skipped Cameras: 3"});
     EXPECT_EQ(program.toolkit.Clipboard,
               "\t\tFiles Processed\tExported Cameras\tSkipped Cameras\n"
               "Type 1\tFixed Speed Camera\t3\t1520\t2\n"

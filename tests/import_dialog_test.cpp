@@ -75,9 +75,11 @@ TEST(ImportDialogTest, RunEmptiesTheFolderAndRebuildsTheListsWatchedOrNot) {
                 program.Click(dialog.ButtonStart);
                 program.ExpectDone(dialog);
                 EXPECT_EQ(ShownPicture(dialog), "PictureFinished");
-                EXPECT_EQ(dialog.LabelTargetFiles.Caption(), "2 File(s)");
                 EXPECT_EQ(dialog.LabelAddedRecords.AccessibleName(),
                           source == kTxt ? "3 Camera(s)" : "Camera(s)");
+                EXPECT_EQ(program.toolkit.Announced,
+                          Strings{source == kTxt ? "Import Files ✓, 2 File(s), 3 Camera(s)"
+                                                 : "Import Files ✓, 2 File(s)"});
                 EXPECT_TRUE(program.Items(1).empty()) << "emptied at once";
                 program.Click(dialog.OptionSource[3 - source]);
                 EXPECT_TRUE(dialog.OptionSource[source].Value()) << "a run cannot be changed any more";
@@ -112,7 +114,8 @@ TEST(ImportDialogTest, StopLeavesWhatWasWritten) {
             program.Click(dialog.ButtonStart);
             program.ExpectDone(dialog);
             EXPECT_EQ(ShownPicture(dialog), "PictureIncomplete");
-            EXPECT_EQ(dialog.PictureIncomplete.ToolTip(), "") << "nothing has failed";
+            EXPECT_EQ(program.toolkit.Announced, Strings{"Import Files ✗, 1 File(s)"})
+                << "nothing has failed";
         });
         EXPECT_EQ(program.CameraFolder(), Strings{"one.asc"});
     }

@@ -127,6 +127,23 @@ TEST_F(Lists, MoveItemsByDragging) {
     EXPECT_EQ(Left().model()->rowCount(), 3);
 }
 
+TEST_F(Lists, ShowAFrameWhileADragOverThemWouldBeTaken) {
+    form.right.SetOLEDropMode(forms::ListBox::DropMode::Manual);
+    QWidget& target = *Find<QListView>("right").viewport();
+    const DraggedItems content;
+    const auto picture = [&] { return Find("right").grab().toImage(); };
+    const QImage before = picture();
+    for (const bool isDropped : {false, true}) {
+        QDragEnterEvent enter({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&target, &enter);
+        EXPECT_NE(picture(), before);
+        QDragLeaveEvent leave;
+        QDropEvent drop({10, 10}, Qt::MoveAction, &content, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&target, isDropped ? static_cast<QEvent*>(&drop) : &leave);
+        EXPECT_EQ(picture(), before) << isDropped;
+    }
+}
+
 TEST_F(Lists, TellWhichRowsShow) {
     for (int i = 10; i < 60; ++i) form.left.AddItems({std::to_string(i)});
     desktop.Yield();

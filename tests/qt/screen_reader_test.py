@@ -1,4 +1,5 @@
-"""Reads the real main window as a screen reader does, over AT-SPI on a display and a bus of its own.
+"""Reads the real main window as a screen reader does, over AT-SPI on a display and a bus of its own, exports by the
+actions of its buttons, and hears the end of the export.
 
     screen_reader_test.py PROGRAM
 
@@ -28,6 +29,7 @@ EXPECTED = [
     ("radio button", "Replace File"),
     ("panel", "Export Cameras"),
 ]
+HEARD = "Export Speed Cameras \u2713, Files Processed: 1, Exported Cameras: 1, Skipped Cameras: 0"
 
 
 def skip(reason):
@@ -47,11 +49,37 @@ def display():
 
 
 def elements(element):
-    yield element.get_role_name(), element.get_name()
+    yield element
     for i in range(element.get_child_count()):
         child = element.get_child_at_index(i)
         if child is not None:
             yield from elements(child)
+
+
+def notifications(reader, window):
+    """What is announced when an export has been started."""
+    from gi.repository import GLib
+    heard = []
+
+    def on_event(event):
+        try:
+            if event.source.get_role_name() == "notification" and event.detail1 == 1:
+                heard.append(event.source.get_name())
+                reader.event_quit()
+        except GLib.Error:
+            pass  # of a window that has closed meanwhile
+
+    listener = reader.EventListener.new(on_event)
+    listener.register("object:state-changed:showing")
+    buttons = {element.get_name(): element for element in elements(window) if element.get_role_name() == "push button"}
+    for name in ("Classify Files", "Export"):
+        end = time.monotonic() + TIMEOUT
+        while not buttons[name].get_state_set().contains(reader.StateType.ENABLED) and time.monotonic() < end:
+            time.sleep(0.1)
+        reader.Action.do_action(buttons[name], 0)
+    GLib.timeout_add_seconds(TIMEOUT // 2, reader.event_quit)
+    reader.event_main()
+    return heard
 
 
 def window_of(reader, process):
@@ -76,12 +104,21 @@ def read_window(program, home):
     # The launcher starts others, which would outlive it and keep the output open.
     launcher = subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], start_new_session=True,
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    running = subprocess.Popen([program])
+    folder = os.path.join(home, "program")
+    os.makedirs(os.path.join(folder, "demo", "asc_demo"))
+    os.makedirs(os.path.join(folder, "demo", "txt_demo"))
+    with open(os.path.join(folder, "Settings.ini"), "w") as settings:
+        settings.write("[Type1]\nfixed*\n")
+    with open(os.path.join(folder, "demo", "asc_demo", "fixed.asc"), "w") as camera:
+        camera.write('1.5, 2.5, "one"\n')
+    running = subprocess.Popen([shutil.copy(program, folder)])
     try:
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
-        return set(elements(window_of(Atspi, running)))
+        window = window_of(Atspi, running)
+        found = {(element.get_role_name(), element.get_name()) for element in elements(window)}
+        return found, notifications(Atspi, window)
     finally:
         running.kill()
         os.killpg(launcher.pid, signal.SIGKILL)
@@ -99,11 +136,11 @@ def main():
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, __file__, "--on-own-bus", sys.argv[1]])
     with tempfile.TemporaryDirectory() as home:
         os.chmod(home, 0o700)
-        found = read_window(sys.argv[2], home)
+        found, heard = read_window(sys.argv[2], home)
     missing = [element for element in EXPECTED if element not in found]
     nameless = [element for element in found if not element[1] and element[0] in ("push button", "list", "check box", "text")]
-    if missing or nameless:
-        print("missing:", missing, "nameless:", nameless, "found:", *sorted(found), sep="\n")
+    if missing or nameless or heard != [HEARD]:
+        print("missing:", missing, "nameless:", nameless, "heard:", heard, "found:", *sorted(found), sep="\n")
         sys.exit(1)
 
 
