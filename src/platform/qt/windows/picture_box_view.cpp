@@ -7,14 +7,13 @@ namespace halvenmoor::qt {
 namespace {
 
 QString PicturePath(const QString& name) {
-    return QStringLiteral(":/pictures/%1.svg").arg(name);
+    return QStringLiteral(":/pictures/%1.png").arg(name);
 }
 
 }  // namespace
 
 void PictureBoxWidget::Load(const QString& name) {
-    picture_.load(PicturePath(name));
-    picture_.setAspectRatioMode(Qt::KeepAspectRatio);
+    picture_ = QIcon(PicturePath(name));  // an icon is scaled smoothly and keeps its shape
 }
 
 void PictureBoxWidget::SetBordered(bool bordered) {
@@ -29,8 +28,8 @@ void PictureBoxWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (canvas_ != nullptr && !canvas_->Image().isNull()) {
         painter.drawImage(inside, canvas_->Image());
-    } else if (picture_.isValid()) {
-        picture_.render(&painter, inside);
+    } else {
+        picture_.paint(&painter, inside);
     }
     if (!bordered_) return;
     painter.setPen(palette().color(QPalette::WindowText));
@@ -50,15 +49,9 @@ forms::Canvas& PictureBoxView::Canvas() {
 }
 
 QIcon ProgramIcon() {
-    QSvgRenderer picture(PicturePath(QStringLiteral("halvenmoor")));
     QIcon icon;
     for (const int size : {16, 32, 64}) {
-        QPixmap image(size, size);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        picture.render(&painter);
-        painter.end();
-        icon.addPixmap(image);
+        icon.addFile(PicturePath(QStringLiteral("halvenmoor-%1").arg(size)), QSize(size, size));
     }
     return icon;
 }

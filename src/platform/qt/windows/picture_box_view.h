@@ -5,7 +5,6 @@
 #include "platform/qt/windows/control_view.h"
 
 #include <QIcon>
-#include <QSvgRenderer>
 
 namespace halvenmoor::qt {
 
@@ -24,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QSvgRenderer picture_;
+    QIcon picture_;
     ImageCanvas* canvas_ = nullptr;
     bool bordered_ = false;
 };
