@@ -1,10 +1,13 @@
 #include "platform/posix/instance_lock.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <iostream>
 #include <sys/file.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 #include <utility>
 
@@ -18,9 +21,26 @@ bool IsPrivateFolder(const std::string& path) {
            (info.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
+/// A socket whose messages arrive whole, one by one.
+FileDescriptor MessageSocket() {
+    return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+}
+
+/// A path that is too long is cut off, and there is no such socket.
+sockaddr_un SocketAddress(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    return address;
+}
+
 }  // namespace
 
 SystemInstanceLock::SystemInstanceLock(std::string folder) : folder_(std::move(folder)) {
+}
+
+SystemInstanceLock::~SystemInstanceLock() {
+    if (socket_) ::unlink(SocketPath().c_str());  // the lock is still held, so it is the own one
 }
 
 bool SystemInstanceLock::IsFirst() {
@@ -31,8 +51,33 @@ bool SystemInstanceLock::IsFirst() {
     return state_ != State::HeldByOther;
 }
 
-std::string SystemInstanceLock::SocketPath() const {
-    return state_ == State::Impossible ? "" : folder_ + "/halvenmoor.socket";
+std::optional<std::intptr_t> SystemInstanceLock::Listen() {
+    if (state_ != State::Held) return std::nullopt;
+    const std::string path = SocketPath();
+    const sockaddr_un address = SocketAddress(path);
+    if (path != address.sun_path) return std::nullopt;
+    ::unlink(address.sun_path);  // left behind by an instance that crashed
+    socket_.emplace(MessageSocket());
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so the system wants it
+    if (::bind(socket_->Get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+        return socket_->Get();
+    socket_.reset();
+    return std::nullopt;
+}
+
+std::optional<std::string> SystemInstanceLock::Receive() {
+    std::array<char, kMaxMessage> message;
+    const ssize_t size = ::recv(socket_->Get(), message.data(), message.size(), MSG_TRUNC);
+    if (size < 0) return std::nullopt;
+    if (static_cast<std::size_t>(size) > message.size()) return "";
+    return std::string(message.data(), static_cast<std::size_t>(size));
+}
+
+void SystemInstanceLock::Send(std::string_view message) {
+    const sockaddr_un address = SocketAddress(SocketPath());
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so the system wants it
+    ::sendto(MessageSocket().Get(), message.data(), message.size(), 0,
+             reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }
 
 SystemInstanceLock::State SystemInstanceLock::Lock() {

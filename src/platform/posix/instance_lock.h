@@ -3,8 +3,10 @@
 #include "platform/instance_lock.h"
 #include "platform/posix/system.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace halvenmoor::posix {
 
@@ -15,8 +17,12 @@ public:
     /// Where no lock can be had, IsFirst says so on standard error.
     explicit SystemInstanceLock(std::string folder = UserFolder());
 
+    ~SystemInstanceLock() override;
+
     bool IsFirst() override;
-    std::string SocketPath() const override;
+    std::optional<std::intptr_t> Listen() override;
+    std::optional<std::string> Receive() override;
+    void Send(std::string_view message) override;
 
     /// The one folder of this user, whatever the environment says: the runtime folder or, where the system
     /// has none, one below /tmp, which is made.
@@ -26,10 +32,12 @@ private:
     enum class State { Unasked, Held, HeldByOther, Impossible };
 
     State Lock();
+    std::string SocketPath() const { return folder_ + "/halvenmoor.socket"; }
 
     std::string folder_;
     State state_ = State::Unasked;
     std::optional<FileDescriptor> file_;
+    std::optional<FileDescriptor> socket_;
 };
 
 }  // namespace halvenmoor::posix

@@ -1,65 +1,45 @@
 #include "platform/qt/services/instance_guard.h"
 
-#include <QFile>
-#include <QLocalSocket>
+#include <QSocketNotifier>
+#include <cstdint>
+#include <optional>
 
 namespace halvenmoor::qt {
 
 namespace {
 
-// What a later instance sends: the word, a blank, the token, a line end.
-constexpr char kRaise[] = "raise ";
-constexpr qint64 kMaxMessage = 1024;
+// What a later instance sends: the word, a blank, the token.
+constexpr std::string_view kRaise = "raise ";
 constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
-constexpr int kTimeoutMilliseconds = 1000;
 
 }  // namespace
 
 InstanceGuard::InstanceGuard(platform::InstanceLock& lock) : lock_(lock) {
-    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
-        while (QLocalSocket* const guest = server_.nextPendingConnection()) {
-            QObject::connect(guest, &QLocalSocket::disconnected, guest, &QObject::deleteLater);
-            QObject::connect(guest, &QLocalSocket::readyRead, guest,
-                             [this, guest] { HandleMessage(*guest); });
-        }
-    });
 }
+
+InstanceGuard::~InstanceGuard() = default;
 
 bool InstanceGuard::IsFirst() {
     const bool isFirst = lock_.IsFirst();
-    if (isFirst && !server_.isListening()) Listen();
+    if (isFirst && notifier_ == nullptr) Listen();
     return isFirst;
 }
 
 void InstanceGuard::Listen() {
-    const QString path = SocketPath();
-    if (path.isEmpty()) return;
-    QLocalServer::removeServer(path);  // left behind by an instance that crashed
-    server_.listen(path);
+    const std::optional<std::intptr_t> ready = lock_.Listen();
+    if (!ready) return;
+    notifier_ = std::make_unique<QSocketNotifier>(*ready, QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
+        if (const std::optional<std::string> message = lock_.Receive()) HandleMessage(*message);
+    });
 }
 
-void InstanceGuard::HandleMessage(QLocalSocket& guest) {
-    if (!guest.canReadLine()) {
-        if (guest.bytesAvailable() > kMaxMessage) guest.abort();
-        return;
-    }
-    QByteArray message = guest.readLine(kMaxMessage);
-    guest.disconnectFromServer();
-    if (!message.startsWith(kRaise) || !message.endsWith('\n') || !OnRaise) return;
-    OnRaise(message.mid(static_cast<qsizetype>(sizeof kRaise) - 1).trimmed());
+void InstanceGuard::HandleMessage(std::string_view message) const {
+    if (message.starts_with(kRaise) && OnRaise) OnRaise(std::string(message.substr(kRaise.size())));
 }
 
 void InstanceGuard::RaiseOther() const {
-    QLocalSocket other;
-    other.connectToServer(SocketPath());
-    if (!other.waitForConnected(kTimeoutMilliseconds)) return;
-    other.write(kRaise + qgetenv(kTokenVariable) + '\n');
-    other.waitForBytesWritten(kTimeoutMilliseconds);
-    other.disconnectFromServer();
-}
-
-QString InstanceGuard::SocketPath() const {
-    return QFile::decodeName(lock_.SocketPath().c_str());
+    lock_.Send(std::string(kRaise) + qgetenv(kTokenVariable).toStdString());
 }
 
 }  // namespace halvenmoor::qt

@@ -2,10 +2,12 @@
 
 #include "platform/instance_lock.h"
 
-#include <QByteArray>
-#include <QLocalServer>
-#include <QString>
 #include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+class QSocketNotifier;
 
 namespace halvenmoor::qt {
 
@@ -15,6 +17,7 @@ class InstanceGuard {
 public:
     /// The lock must outlive it.
     explicit InstanceGuard(platform::InstanceLock& lock);
+    ~InstanceGuard();
 
     /// Whether no other instance was running. The first call decides for good.
     bool IsFirst();
@@ -23,15 +26,14 @@ public:
 
     /// Called in the first instance with the token by which the window system lets it come to the front; the
     /// token may be empty.
-    std::function<void(const QByteArray&)> OnRaise;
+    std::function<void(const std::string&)> OnRaise;
 
 private:
     void Listen();
-    void HandleMessage(QLocalSocket& guest);
-    QString SocketPath() const;
+    void HandleMessage(std::string_view message) const;
 
     platform::InstanceLock& lock_;
-    QLocalServer server_;
+    std::unique_ptr<QSocketNotifier> notifier_;
 };
 
 }  // namespace halvenmoor::qt

@@ -22,8 +22,9 @@ QtProgramInfo::QtProgramInfo(platform::InstanceLock& lock, std::string programFo
     if (programFolder_.empty()) {
         programFolder_ = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
     }
-    guard_.OnRaise = [](const QByteArray& token) {
-        if (!token.isEmpty()) qputenv(kTokenVariable, token);  // where Qt looks for it
+    guard_.OnRaise = [](const std::string& token) {
+        if (!token.empty())
+            qputenv(kTokenVariable, QByteArray::fromStdString(token));  // where Qt looks for it
         RaiseWindows();
     };
 }
