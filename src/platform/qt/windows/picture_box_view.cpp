@@ -6,15 +6,14 @@ namespace halvenmoor::qt {
 
 namespace {
 
-QString PicturePath(const QString& name) {
-    return QStringLiteral(":/pictures/%1.png").arg(name);
+// How many times as large as at scale 1 the build renders each picture.
+constexpr int kScales[] = {1, 2, 4};
+
+QPixmap LoadPicture(const QString& name, int scale) {
+    return QPixmap(QStringLiteral(":/pictures/%1-%2.png").arg(name).arg(scale), "PNG");
 }
 
 }  // namespace
-
-void PictureBoxWidget::Load(const QString& name) {
-    picture_ = QIcon(PicturePath(name));  // an icon is scaled smoothly and keeps its shape
-}
 
 void PictureBoxWidget::SetBordered(bool bordered) {
     if (bordered == bordered_) return;
@@ -28,12 +27,22 @@ void PictureBoxWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (canvas_ != nullptr && !canvas_->Image().isNull()) {
         painter.drawImage(inside, canvas_->Image());
-    } else {
-        picture_.paint(&painter, inside);
+    } else if (!name_.isEmpty()) {
+        FitPicture((QSizeF(inside.size()) * devicePixelRatioF()).toSize());
+        painter.drawPixmap(inside, picture_);
     }
     if (!bordered_) return;
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void PictureBoxWidget::FitPicture(const QSize& size) {
+    if (picture_.size() == size) return;
+    for (const int scale : kScales) {
+        picture_ = LoadPicture(name_, scale);
+        if (picture_.width() >= size.width()) break;  // to make it smaller leaves it crisp
+    }
+    picture_ = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, const text::CodePage& page)
@@ -50,9 +59,7 @@ forms::Canvas& PictureBoxView::Canvas() {
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 64}) {
-        icon.addFile(PicturePath(QStringLiteral("halvenmoor-%1").arg(size)), QSize(size, size));
-    }
+    for (const int scale : kScales) icon.addPixmap(LoadPicture(QStringLiteral("halvenmoor"), scale));
     return icon;
 }
 

@@ -5,6 +5,8 @@
 #include "platform/qt/windows/control_view.h"
 
 #include <QIcon>
+#include <QPixmap>
+#include <QString>
 
 namespace halvenmoor::qt {
 
@@ -14,7 +16,7 @@ public:
     explicit PictureBoxWidget(QWidget* parent) : QWidget(parent) {}
 
     /// A picture by its name, without a folder or an extension.
-    void Load(const QString& name);
+    void Load(const QString& name) { name_ = name; }
     void SetBordered(bool bordered);
     /// The widget does not own the canvas.
     void SetCanvas(ImageCanvas& canvas) { canvas_ = &canvas; }
@@ -23,7 +25,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QIcon picture_;
+    /// Makes the picture fit the place, given in pixels of the screen.
+    void FitPicture(const QSize& size);
+
+    QString name_;
+    QPixmap picture_;
     ImageCanvas* canvas_ = nullptr;
     bool bordered_ = false;
 };
