@@ -1,5 +1,5 @@
-"""Measures CPU time (user and system) of exports, imports and the lists, and prints one table. What a medium costs is
-measured by the clock.
+"""Measures CPU time (user and system) of exports, imports and the lists, and prints one table. What a medium costs and
+what happens in real windows is measured by the clock.
 
 The program is driven through its command-line tool `journey`. All rows come from one run with interleaved rounds, since
 only ratios of the same minute mean anything. Every output is compared byte by byte with that of the baselines: a
@@ -15,6 +15,7 @@ import tempfile
 from pathlib import Path
 
 from bench_import import ImportBench
+from bench_windows import WindowBench
 from generate import program_set
 from measuring import HERE, MEMORY, ROOT, WORK, fail, fresh, measure, play, wall
 
@@ -190,7 +191,8 @@ def main():
         fail(f"{journey} is not there; build it first")
     figures = {}
     imports = ImportBench(options.build, journey, figures, records)
-    benches = [ExportBench(options.build, journey, figures, records, per_file), imports]
+    windows = WindowBench(options.build, journey, figures, records, starts=2 if options.quick else 10)
+    benches = [ExportBench(options.build, journey, figures, records, per_file), imports, windows]
     for bench in benches:
         bench.prepare()
     for number in range(rounds):
@@ -198,6 +200,7 @@ def main():
         for bench in benches:
             bench.round(number)
     imports.tidy()
+    windows.tidy()
     print_table(figures, [row for bench in benches for row in bench.rows()], options.quick)
 
 

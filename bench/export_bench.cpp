@@ -62,11 +62,11 @@ int main(int count, char** arguments) {
     posix::DiskHostFiles hostFiles(finder);
     posix::SystemClock clock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
-    headless::FixedProgramInfo programInfo(arguments[1]);
+    headless::HeadlessProgramInfo programInfo(arguments[1]);
     headless::MemorySettings settings;
-    Program program(
-        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
-        qt.toolkit);
+    Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
+                     qt.browser, qt.theme, locale},
+                    qt.toolkit);
     program.Start();
     frmMain& window = program.MainForm();
     window.CheckDemoMode.UserPress();

@@ -36,9 +36,9 @@ int main(int count, char** arguments) {
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     const FirstPaint firstPaint(count > 3);
     qt::QtProgramInfo programInfo(instanceLock, arguments[1]);
-    Program program(
-        {fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs, qt.theme, locale},
-        qt.toolkit);
+    Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
+                     qt.browser, qt.theme, locale},
+                    qt.toolkit);
     program.Start();
     qt.toolkit.Run(program.Desktop());
     return 1;

@@ -66,13 +66,15 @@ std::string SettingsFile::GetSetting(std::string_view application, std::string_v
 void SettingsFile::SaveSetting(std::string_view application, std::string_view section, std::string_view name,
                                std::string_view value) {
     changes_.insert_or_assign(Key(application, KeyOf(section, name)), std::string(value));
-    std::optional<std::string> text = ReadSmallFile(path_);
+    const std::optional<std::string> old = ReadSmallFile(path_);
     const std::optional<std::string> realPath = RealPath(path_);
-    if (!text || !realPath) return;
-    for (const auto& [key, changed] : changes_) text::SetIniValue(*text, key.first, key.second, changed);
+    if (!old || !realPath) return;
+    std::string text = *old;
+    for (const auto& [key, changed] : changes_) text::SetIniValue(text, key.first, key.second, changed);
+    if (text == *old) return;  // as at each start: a write waits for the disk
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), ignored);
-    Replace(*realPath, *text);
+    Replace(*realPath, text);
 }
 
 std::string SettingsFile::UserFolder() {

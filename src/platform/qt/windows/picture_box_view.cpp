@@ -1,5 +1,6 @@
 #include "platform/qt/windows/picture_box_view.h"
 
+#include <QImageReader>
 #include <QPainter>
 
 namespace halvenmoor::qt {
@@ -10,7 +11,9 @@ namespace {
 constexpr int kScales[] = {1, 2, 4};
 
 QPixmap LoadPicture(const QString& name, int scale) {
-    return QPixmap(QStringLiteral(":/pictures/%1-%2.png").arg(name).arg(scale), "PNG");
+    QImageReader reader(QStringLiteral(":/pictures/%1-%2.png").arg(name).arg(scale), "PNG");
+    reader.setAutoDetectImageFormat(false);  // it would load the plugins of all formats
+    return QPixmap::fromImageReader(&reader);
 }
 
 }  // namespace
