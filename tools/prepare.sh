@@ -36,6 +36,6 @@ private_runtime_folder() {
 }
 
 BUILD_PACKAGES="g++ cmake ninja-build"
-QT_PACKAGES="qt6-base-dev librsvg2-bin libgl-dev fonts-dejavu-core"
+QT_PACKAGES="qt6-base-dev qt6-translations-l10n librsvg2-bin libgl-dev fonts-dejavu-core"
 MANUAL_PACKAGES="cmark-gfm" # for manual.html in the program folder; everything else goes without
 SCREEN_READER_PACKAGES="at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xvfb" # for tests that read the windows

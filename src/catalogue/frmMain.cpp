@@ -109,6 +109,7 @@ void frmMain::ChooseLanguage() {
     names.SetLanguage(hasFile ? language : "English");
     core_.WriteSetting("Language", names.Language());
     names.SetEnabled(hasFile);
+    core_.Desktop().SetLanguage(names.Language());
     ApplyLanguageTexts();
 }
 

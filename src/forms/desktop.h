@@ -6,6 +6,7 @@
 #include "forms/toolkit.h"
 
 #include <functional>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -28,6 +29,9 @@ public:
     /// The forced end: every form closes without being asked.
     void End();
     bool Ended() const { return ended_; }
+
+    /// The language of the windows' own words, named as in the program's list of languages.
+    void SetLanguage(std::string_view name) { toolkit_.SetLanguage(name); }
 
     /// Lets the interface redraw and handle its waiting events, then waits for more for up to the given time.
     void Yield(double waitSeconds = 0);

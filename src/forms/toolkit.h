@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace halvenmoor::forms {
 
@@ -50,6 +51,9 @@ public:
     virtual void Copy(const std::string& text) = 0;
     /// Has screen readers say a text, in the window that is the topmost by then; UTF-8.
     virtual void Announce(const std::string& text) = 0;
+    /// Takes words of the toolkit's own, such as those of context menus, from this language, named as in the
+    /// program's list of languages; from English where it has none of it.
+    virtual void SetLanguage(std::string_view /*name*/) {}
     /// Returns when the work is done, and handles events meanwhile if it can: for work that waits for a
     /// device and touches no form. Throws what the work throws.
     virtual void Wait(const std::function<void()>& work) { work(); }

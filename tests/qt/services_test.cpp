@@ -7,6 +7,7 @@
 #include "platform/qt/services/message_box.h"
 #include "platform/qt/services/program_info.h"
 #include "platform/qt/services/theme.h"
+#include "platform/qt/services/translation.h"
 #include "tests/support/temporary_folder.h"
 #include "window_fixture.h"
 
@@ -17,6 +18,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
@@ -120,6 +122,21 @@ TEST_F(Dialogs, OpenWhatExists) {
     EXPECT_EQ(dialogs.AskOpenPath(request), folder / "there.txt");
     WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.AskOpenPath(request), std::nullopt);
+}
+
+TEST(Translation, HasQtsWordsInTheLanguagesOfTheProgram) {
+    Translation translation;
+    std::vector<std::string> english;
+    for (const auto& entry : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
+        translation.SetLanguage(entry.path().stem().string());
+        if (QFileDialog::tr("Look in:") == "Look in:") english.push_back(entry.path().stem().string());
+    }
+    std::sort(english.begin(), english.end());
+    EXPECT_EQ(english, (std::vector<std::string>{"română", "slovenščina", "svenska", "ελληνικά"}));
+    translation.SetLanguage("Deutsch");
+    EXPECT_EQ(QFileDialog::tr("Look in:"), "Suchen in:");
+    translation.SetLanguage("English");
+    EXPECT_EQ(QFileDialog::tr("Look in:"), "Look in:");
 }
 
 struct Instance {

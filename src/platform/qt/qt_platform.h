@@ -7,7 +7,6 @@
 #include "platform/qt/services/theme.h"
 #include "platform/qt/windows/toolkit.h"
 
-#include <QTranslator>
 #include <array>
 #include <memory>
 
@@ -27,7 +26,6 @@ struct QtPlatform {
 
     Arguments arguments;
     std::unique_ptr<SafeApplication> application;
-    QTranslator translator;
     QtToolkit toolkit;
     QtMessageBox messages;
     QtFileDialogs fileDialogs;

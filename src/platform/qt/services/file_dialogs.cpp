@@ -42,6 +42,8 @@ QStringList NameFilters(const std::string& filter) {
 PathDialog::PathDialog(const platform::FileDialog& dialog, platform::HostFiles& files, AcceptMode acceptMode,
                        FileMode fileMode)
     : QFileDialog(TopWindow()), files_(files) {
+    // A desktop's dialog asks about a file of exactly the typed name, not about the one that would be
+    // emptied.
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);  // Qt would ask about a file of exactly this name
     setAcceptMode(acceptMode);

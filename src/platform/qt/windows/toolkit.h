@@ -2,12 +2,14 @@
 
 #include "forms/desktop.h"
 #include "forms/toolkit.h"
+#include "platform/qt/services/translation.h"
 #include "platform/services.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 namespace halvenmoor::qt {
 
@@ -25,6 +27,7 @@ public:
     bool YieldIsDue() const override;
     void Copy(const std::string& text) override;
     void Announce(const std::string& text) override;
+    void SetLanguage(std::string_view name) override { translation_.SetLanguage(name); }
     void Wait(const std::function<void()>& work) override;
 
     /// The main loop; returns when the desktop has ended.
@@ -34,6 +37,7 @@ private:
     void Pump(double waitSeconds);
 
     const text::CodePage& page_;
+    Translation translation_;
     QElapsedTimer sinceYield_;
     QPointer<FormWindow> mainWindow_;
 };
