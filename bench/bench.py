@@ -193,14 +193,16 @@ def main():
     imports = ImportBench(options.build, journey, figures, records)
     windows = WindowBench(options.build, journey, figures, records, starts=2 if options.quick else 10)
     benches = [ExportBench(options.build, journey, figures, records, per_file), imports, windows]
-    for bench in benches:
-        bench.prepare()
-    for number in range(rounds):
-        print(f"round {number + 1} of {rounds}", file=sys.stderr)
+    try:
         for bench in benches:
-            bench.round(number)
+            bench.prepare()
+        for number in range(rounds):
+            print(f"round {number + 1} of {rounds}", file=sys.stderr)
+            for bench in benches:
+                bench.round(number)
+    finally:
+        windows.tidy()
     imports.tidy()
-    windows.tidy()
     print_table(figures, [row for bench in benches for row in bench.rows()], options.quick)
 
 

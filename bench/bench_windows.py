@@ -12,6 +12,7 @@ from measuring import WORK, fail, fresh, wall
 JOURNEY = "demo off\nsave-results off\nclassify\nexport replace\nresults\n"
 PAUSES = 0.7  # seconds that an export in its window waits by design
 IDLE = 0.5
+STARTED = ("program", "controls", "label")
 
 
 class WindowBench:
@@ -39,7 +40,7 @@ class WindowBench:
         self.display = ":" + self.xvfb.stdout.readline().decode().strip()
         self.platforms.append("xcb")
         for platform in self.platforms:
-            self.start_pair(platform)  # fills the caches and stores the options
+            self.start_all(platform)  # fills the caches and stores the options
 
     def tidy(self):
         self.private.cleanup()
@@ -52,27 +53,28 @@ class WindowBench:
             return
         for platform in self.platforms:
             for _ in range(self.starts):
-                for who, seconds in zip(("program", "minimal"), self.start_pair(platform)):
+                for who, seconds in zip(STARTED, self.start_all(platform)):
                     self.note(f"start {who} {platform}", seconds)
-            for who, command in zip(("program", "minimal"), self.commands()):
-                self.note(f"memory idle {who} {platform}", self.idle_memory(command, platform))
+            for who in STARTED:
+                self.note(f"memory idle {who} {platform}", self.idle_memory(self.command(who), platform))
             self.note(f"export {platform}", self.export(platform) - PAUSES)
         target = fresh(self.program / "txt/SpeedCamText.txt")
         self.note("journey", wall([self.journey, str(self.program)], JOURNEY))
         if target.read_bytes() != self.exported:
             fail("the export in its window differs from that without one")
 
-    def commands(self):
-        return ([str(self.build / "bench/start_bench"), str(self.build / "halvenmoor"), self.private.name],
-                [str(self.build / "bench/minimal_window")])
+    def command(self, who):
+        if who == "program":
+            return [str(self.build / "bench/start_bench"), str(self.build / "halvenmoor"), self.private.name]
+        return [str(self.build / "bench/minimal_window"), who]
 
     def environment(self, platform):
         display = {} if platform == "offscreen" else {"DISPLAY": self.display}
         return {**os.environ, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": platform, **display}
 
-    def start_pair(self, platform):
-        """Seconds on the clock from exec to the first painted window, of the program and of the minimal one."""
-        return [self.seconds(command, platform) for command in self.commands()]
+    def start_all(self, platform):
+        """Seconds on the clock from exec to the first painted window, of the program and of the minimal ones."""
+        return [self.seconds(self.command(who), platform) for who in STARTED]
 
     def seconds(self, command, platform):
         start = time.monotonic()
@@ -114,9 +116,10 @@ class WindowBench:
         files = len(list((self.program / "asc").iterdir()))
         for platform in self.platforms:
             where = "off-screen" if platform == "offscreen" else "under Xvfb"
-            yield (f"by the clock: start {where}", f"start program {platform}", "a minimal program",
-                   f"start minimal {platform}", 1.2, False)
-            yield (f"idle memory {where}", f"memory idle program {platform}", "a minimal program",
-                   f"memory idle minimal {platform}", 1.2, False)
+            for what, figure in ("by the clock: start", "start"), ("idle memory", "memory idle"):
+                label = f"{figure} label {platform}"
+                yield f"{what} {where}", f"{figure} program {platform}", "one label", label, 1.2, False
+                yield (f"for scale: {what} {where}, Qt's controls alone", f"{figure} controls {platform}",
+                       "one label", label, None, False)
             yield (f"by the clock: {files:,} files in the window {where}, less {PAUSES} s of pauses",
                    f"export {platform}", "without a window", "journey", 1.3, False)
