@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <map>
 
@@ -68,6 +69,7 @@ TEST_F(AllWindows, TellScreenReadersWhatEachControlIs) {
     EXPECT_EQ(NameOf(Form().ButtonRemove[1]),
               "Blitzer Typ \"1\" (Fester Blitzer) \u2192 Blitzerdateien (Ohne Typ)");
     EXPECT_EQ(LabelOf(Form().LanguageList), "Sprache wählen");
+    EXPECT_EQ(QFileDialog::tr("Look in:"), "Suchen in:") << "Qt's own words";
 }
 
 /// Tab goes from each control to the next one in the order, which shows that it has the focus.

@@ -133,8 +133,6 @@ TEST(Translation, HasQtsWordsInTheLanguagesOfTheProgram) {
     }
     std::sort(english.begin(), english.end());
     EXPECT_EQ(english, (std::vector<std::string>{"română", "slovenščina", "svenska", "ελληνικά"}));
-    translation.SetLanguage("Deutsch");
-    EXPECT_EQ(QFileDialog::tr("Look in:"), "Suchen in:");
     translation.SetLanguage("English");
     EXPECT_EQ(QFileDialog::tr("Look in:"), "Look in:");
 }
