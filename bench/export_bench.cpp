@@ -7,12 +7,12 @@
 
 #include "catalogue/frmMain.h"
 #include "platform/headless/services.h"
-#include "platform/posix/clock.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/system/clock.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
 #include "program.h"
 
 #include <QApplication>
@@ -56,11 +56,11 @@ int main(int count, char** arguments) {
         std::cerr << "usage: export_bench PROGRAM_FOLDER\n";
         return 2;
     }
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
-    posix::SystemClock clock;
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
+    system::SystemClock clock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     headless::HeadlessProgramInfo programInfo(arguments[1]);
     headless::MemorySettings settings;

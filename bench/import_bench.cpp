@@ -6,11 +6,11 @@
 
 #include "catalogue/frmMain.h"
 #include "platform/headless/services.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
 #include "program.h"
 
 #include <QAbstractButton>
@@ -46,10 +46,10 @@ int main(int argc, char** argv) {
     }
     const QString sourceOption = std::string_view(argv[2]) == "ov2" ? "OptionSource(1)" : "OptionSource(2)";
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
     qt::QtPlatform qt(argv[0], locale, hostFiles);
     headless::HeadlessProgramInfo programInfo(argv[1]);
     headless::SkippingClock clock;

@@ -4,16 +4,16 @@
 //     start_bench PROGRAM_FOLDER PRIVATE_FOLDER [stay]
 
 #include "first_paint.h"
-#include "platform/posix/clock.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/instance_lock.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/process.h"
-#include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/services/program_info.h"
+#include "platform/system/clock.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/instance_lock.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
+#include "platform/system/process.h"
+#include "platform/system/settings_file.h"
 #include "program.h"
 
 #include <iostream>
@@ -25,14 +25,14 @@ int main(int count, char** arguments) {
         std::cerr << "usage: start_bench PROGRAM_FOLDER PRIVATE_FOLDER [stay]\n";
         return 2;
     }
-    posix::PrepareProcess();
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
-    posix::SystemClock clock;
-    posix::SettingsFile settings(arguments[2]);
-    posix::SystemInstanceLock instanceLock(arguments[2]);
+    system::PrepareProcess();
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
+    system::SystemClock clock;
+    system::SettingsFile settings(arguments[2]);
+    system::SystemInstanceLock instanceLock(arguments[2]);
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     const FirstPaint firstPaint(count > 3);
     qt::QtProgramInfo programInfo(instanceLock, arguments[1]);

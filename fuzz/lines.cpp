@@ -2,7 +2,7 @@
 
 #include "fuzz/memory_platform.h"
 #include "fuzz/property.h"
-#include "platform/posix/streams.h"
+#include "platform/system/streams.h"
 #include "tools/file_helpers.h"
 
 #include <fcntl.h>
@@ -15,10 +15,10 @@ using fuzz::Require;
 namespace {
 
 Strings ReadInOnePiece(std::string_view bytes) {
-    posix::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
+    system::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
     Require(file.Write(bytes).error == 0 && lseek(file.Get(), 0, SEEK_SET) == 0,
             "there is memory for the text");
-    posix::DiskTextReader reader(std::move(file), bytes.size());
+    system::DiskTextReader reader(std::move(file), bytes.size());
     return ReadLines(reader);
 }
 
@@ -29,12 +29,12 @@ Strings ReadByteByByte(std::string_view bytes) {
     int ends[2];
     Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
     const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
-    posix::FileDescriptor out(ends[1]);
-    posix::FileDescriptor in(ends[0]);
+    system::FileDescriptor out(ends[1]);
+    system::FileDescriptor in(ends[0]);
     Require(capacity >= 1 << 20, "the pipe holds it");
     for (const char byte : bytes) Require(out.Write({&byte, 1}).error == 0, "a byte fits into the pipe");
     out.Close();
-    posix::DiskTextReader reader(std::move(in), bytes.size());
+    system::DiskTextReader reader(std::move(in), bytes.size());
     return ReadLines(reader);
 }
 

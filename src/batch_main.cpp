@@ -2,12 +2,12 @@
 
 #include "base/failure.h"
 #include "batch/step_player.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/process.h"
-#include "platform/posix/program_folder.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
+#include "platform/system/process.h"
+#include "platform/system/program_folder.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -56,7 +56,7 @@ std::optional<std::vector<Step>> ParseSteps(const Lines& texts) {
 std::optional<std::string> FindProgramFolder(const std::optional<std::string>& wanted,
                                              platform::FileSystem& fileSystem) {
     try {
-        const std::string folder = wanted ? *wanted : posix::ProgramFolder();
+        const std::string folder = wanted ? *wanted : system::ProgramFolder();
         std::error_code error;
         std::string realFolder = std::filesystem::canonical(folder, error).string();
         const bool isProgramFolder =
@@ -84,7 +84,7 @@ int PlaySteps(StepPlayer& player, const std::vector<Step>& steps, const Lines& t
 }  // namespace
 
 int main(int argc, char** argv) {
-    posix::PrepareProcess();
+    system::PrepareProcess();
     Lines texts(argv + 1, argv + argc);
     std::optional<std::string> wantedFolder;
     if (texts.size() >= 2 && texts[0] == "--folder") {
@@ -99,10 +99,10 @@ int main(int argc, char** argv) {
     const auto steps = ParseSteps(texts);
     if (!steps) return kNothingDone;
 
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
     const std::optional<std::string> folder = FindProgramFolder(wantedFolder, fileSystem);
     if (!folder) return kNothingDone;
     headless::HeadlessPlatform platform(*folder, Tell);

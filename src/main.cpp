@@ -1,14 +1,14 @@
-#include "platform/posix/clock.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/instance_lock.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/process.h"
-#include "platform/posix/program_folder.h"
-#include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/services/program_info.h"
+#include "platform/system/clock.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/instance_lock.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
+#include "platform/system/process.h"
+#include "platform/system/program_folder.h"
+#include "platform/system/settings_file.h"
 #include "program.h"
 
 #include <cstdlib>
@@ -23,7 +23,7 @@ namespace {
 /// Nothing if there is no folder to work in; the user knows why then.
 std::optional<std::string> FindProgramFolder(platform::MessageBox& messages) {
     try {
-        return posix::ProgramFolder();
+        return system::ProgramFolder();
     } catch (const Failure& failure) {
         std::cerr << "halvenmoor: " << failure.what() << '\n';
         messages.Show("Run-time error " + std::to_string(failure.Number()) + ":\r\n\r\n" + failure.what(),
@@ -36,14 +36,14 @@ std::optional<std::string> FindProgramFolder(platform::MessageBox& messages) {
 
 // The program takes no command line.
 int main(int, char** arguments) {
-    posix::PrepareProcess();
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
-    posix::SystemClock clock;
-    posix::SettingsFile settings;
-    posix::SystemInstanceLock instanceLock;
+    system::PrepareProcess();
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
+    system::SystemClock clock;
+    system::SettingsFile settings;
+    system::SystemInstanceLock instanceLock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     const std::optional<std::string> programFolder = FindProgramFolder(qt.messages);
     if (!programFolder) return EXIT_FAILURE;

@@ -1,9 +1,9 @@
 // What only a real disk has: buffers, links, devices, foreign names and the rest of the machine.
 
-#include "platform/posix/locale.h"
-#include "platform/posix/process.h"
-#include "platform/posix/settings_file.h"
-#include "platform/posix/streams.h"
+#include "platform/system/locale.h"
+#include "platform/system/process.h"
+#include "platform/system/settings_file.h"
+#include "platform/system/streams.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
 
@@ -30,7 +30,7 @@ protected:
 };
 
 TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
-    for (std::size_t length = posix::kBufferSize - 3; length <= posix::kBufferSize + 1; ++length) {
+    for (std::size_t length = system::kBufferSize - 3; length <= system::kBufferSize + 1; ++length) {
         const std::string line(length, 'x');
         for (const std::string lineEnd : {"\n", "\r\n"}) {
             folder.Put("a", line + lineEnd + "next" + lineEnd + line + "\r|" + lineEnd + "last\r");
@@ -40,7 +40,7 @@ TEST_F(DiskTest, LineEndsMayLieAnywhereAroundTheBordersOfTheBuffer) {
 }
 
 TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
-    const std::string longLine(5 * posix::kBufferSize + 7, 'x');
+    const std::string longLine(5 * system::kBufferSize + 7, 'x');
     folder.Put("a", "\xEF\xBB\xBF" + longLine + "\r\nshort\r\n" + longLine);
     EXPECT_TRUE(LinesOf("a") == (Strings{longLine, "short", longLine}));
 
@@ -52,7 +52,7 @@ TEST_F(DiskTest, LinesMayBeLongerThanTheBuffer) {
 }
 
 TEST_F(DiskTest, BytesCrossTheBordersOfTheBuffer) {
-    std::string bytes(2 * posix::kBufferSize + 10, '\0');
+    std::string bytes(2 * system::kBufferSize + 10, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i % 251);
     folder.Put("a", bytes);
     const auto reader = host.OpenBytes(folder / "a");
@@ -155,15 +155,15 @@ TEST_F(DiskTest, OptionsAreStoredBesideTheLinesOfOthers) {
     const Strings values = {"", "a b", "\xC3\x9C, \"x\\ ", "@1", "\0011\n"};
     for (std::size_t i = 0; i < values.size(); ++i) {
         const std::string name = {"abcde"[i]};
-        posix::SettingsFile(folder.Path()).SaveSetting("App", "S", name, values[i]);
-        EXPECT_EQ(posix::SettingsFile(folder.Path()).GetSetting("App", "S", name, "-"), values[i]);
+        system::SettingsFile(folder.Path()).SaveSetting("App", "S", name, values[i]);
+        EXPECT_EQ(system::SettingsFile(folder.Path()).GetSetting("App", "S", name, "-"), values[i]);
     }
     EXPECT_EQ(folder.Text("real"),
               "; a\r\n[App]\r\nS\\a=\r\nS\\z=\"1, \\xe9f\"\r\nS\\b=a b\n"
               "S\\c=\"\xC3\x9C, \\\"x\\\\ \"\nS\\d=@@1\nS\\e=\\x01\\x31\\n\n\n[Other]\nS\\b=2");
-    EXPECT_EQ(posix::SettingsFile(folder.Path()).GetSetting("App", "S", "z", ""), "1, \xE0\xBA\x9F");
+    EXPECT_EQ(system::SettingsFile(folder.Path()).GetSetting("App", "S", "z", ""), "1, \xE0\xBA\x9F");
     EXPECT_EQ(folder.Names().size(), 3u);
-    posix::SettingsFile(folder / "new").SaveSetting("App", "S", "a", "kept");
+    system::SettingsFile(folder / "new").SaveSetting("App", "S", "a", "kept");
     EXPECT_EQ(folder.Text("new/halvenmoor.ini"), "[App]\nS\\a=kept\n");
 }
 
@@ -171,7 +171,7 @@ TEST_F(DiskTest, OptionsHoldForThisRunWhereTheyAreInNoFile) {
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     for (const char* const target : {"pipe", "nowhere"}) {
         Link(target, "halvenmoor.ini");
-        posix::SettingsFile settings(folder.Path());
+        system::SettingsFile settings(folder.Path());
         settings.SaveSetting("App", "S", "a", "kept");
         EXPECT_EQ(settings.GetSetting("App", "S", "a", ""), "kept");
         EXPECT_EQ(folder.Names(), (Strings{"halvenmoor.ini", "pipe"})) << target;
@@ -183,7 +183,7 @@ TEST_F(DiskTest, OptionsHoldForThisRunWhereTheyAreInNoFile) {
 TEST(ProcessTest, HasStandardStreamsAndFailuresInPlaceOfSignals) {
     const auto lowestNumber = [] {
         for (const int standard : {STDIN_FILENO, STDERR_FILENO}) ::close(standard);
-        posix::PrepareProcess();
+        system::PrepareProcess();
         for (const int signal : {SIGPIPE, SIGXFSZ}) std::raise(signal);
         return ::open("/", O_RDONLY);
     };
@@ -194,7 +194,7 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
     const char* value = std::getenv("LC_ALL");
     const std::string before = value == nullptr ? "" : value;  // an empty one counts as none
     ASSERT_EQ(::setenv("LC_ALL", "ru_RU.NotInstalled", 1), 0);
-    const auto russian = posix::SystemLocale::FromEnvironment();
+    const auto russian = system::SystemLocale::FromEnvironment();
     ASSERT_EQ(::setenv("LC_ALL", before.c_str(), 1), 0);
     EXPECT_EQ(russian.CodePage().number, 1251);
     EXPECT_EQ(russian.DecimalSeparator(), ".");

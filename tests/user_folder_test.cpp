@@ -1,8 +1,8 @@
 // The program folder of a user who cannot write to that of the program.
 
-#include "platform/posix/user_folder.h"
+#include "platform/system/user_folder.h"
 
-#include "platform/posix/program_folder.h"
+#include "platform/system/program_folder.h"
 #include "tests/support/disk_program.h"
 
 #include <cstdlib>
@@ -35,7 +35,7 @@ protected:
     }
 
     void Complete(const std::string& data = "package") {
-        posix::CompleteUserFolder(disk / "home/own", disk / data);
+        system::CompleteUserFolder(disk / "home/own", disk / data);
     }
 
     Disk Own() {
@@ -122,34 +122,34 @@ TEST_F(DiskUserFolderTest, LiesAmongTheDocumentsElseInTheHomeFolder) {
     disk.AddFolder(R"(home/My "best" \ $ papers)");
     for (const auto& each : cases) {
         disk.Put("home/.config/user-dirs.dirs", each.userDirs);
-        EXPECT_EQ(posix::UserFolder(), disk / "home/" + each.folder) << each.userDirs;
+        EXPECT_EQ(system::UserFolder(), disk / "home/" + each.folder) << each.userDirs;
     }
     disk.Put("home/.config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + disk / "home/Papers" + "/\"\n");
-    EXPECT_EQ(posix::UserFolder(), disk / "home/Papers/Halvenmoor");
+    EXPECT_EQ(system::UserFolder(), disk / "home/Papers/Halvenmoor");
     disk.AddFolder("home/Halvenmoor");  // made before there was a folder for documents
-    EXPECT_EQ(posix::UserFolder(), disk / "home/Halvenmoor");
+    EXPECT_EQ(system::UserFolder(), disk / "home/Halvenmoor");
 
     ::setenv("HALVENMOOR_FOLDER", (disk / "home/elsewhere//").c_str(), 1);
-    EXPECT_EQ(posix::UserFolder(), disk / "home/elsewhere");
+    EXPECT_EQ(system::UserFolder(), disk / "home/elsewhere");
     ::unsetenv("HALVENMOOR_FOLDER");
     fs::remove_all(disk / "home");
-    EXPECT_THROW(posix::UserFolder(), Failure);
+    EXPECT_THROW(system::UserFolder(), Failure);
 }
 
 TEST_F(DiskUserFolderTest, IsOnlyForProgramsThatAreInAPackageOrClosedToWriting) {
-    EXPECT_EQ(posix::ProgramFolder(disk / "package"), disk / "package");
+    EXPECT_EQ(system::ProgramFolder(disk / "package"), disk / "package");
     disk.AddFolder("lib");
     fs::create_symlink("../package", disk / "lib/data");
-    EXPECT_EQ(posix::ProgramFolder(disk / "lib"), disk / "home/Halvenmoor");
+    EXPECT_EQ(system::ProgramFolder(disk / "lib"), disk / "home/Halvenmoor");
     EXPECT_EQ(disk.Text("home/Halvenmoor/lang/dansk.ini"), "danish");
     if (::geteuid() == 0) GTEST_SKIP() << "nothing is closed to root";
     ::setenv("HALVENMOOR_FOLDER", (disk / "home/other").c_str(), 1);
     fs::permissions(disk / "package", fs::perms::owner_read | fs::perms::owner_exec);
-    EXPECT_EQ(posix::ProgramFolder(disk / "package"), disk / "home/other");
+    EXPECT_EQ(system::ProgramFolder(disk / "package"), disk / "home/other");
     EXPECT_EQ(disk.Text("home/other/lang/dansk.ini"), "danish");
     fs::permissions(disk / "home", fs::perms::owner_read | fs::perms::owner_exec);
     ::setenv("HALVENMOOR_FOLDER", (disk / "home/third").c_str(), 1);
-    EXPECT_THROW(posix::ProgramFolder(disk / "package"), Failure);
+    EXPECT_THROW(system::ProgramFolder(disk / "package"), Failure);
     for (const char* closed : {"home", "package"}) fs::permissions(disk / closed, fs::perms::owner_all);
 }
 

@@ -6,11 +6,11 @@
 // a step that was refused. For each step it prints what the step asks for, then "ok" or "refused".
 
 #include "batch/step_player.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/process.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
+#include "platform/system/process.h"
 
 #include <iostream>
 #include <optional>
@@ -19,15 +19,15 @@
 using namespace halvenmoor;
 
 int main(int argc, char** argv) {
-    posix::PrepareProcess();
+    system::PrepareProcess();
     if (argc != 2) {
         std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
         return 2;
     }
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
     headless::HeadlessPlatform platform(argv[1], [](const std::string&) {});
     Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
     program.Start();

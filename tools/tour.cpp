@@ -5,15 +5,15 @@
 //     tour --display        only tells, by its exit status, whether a display answers
 
 #include "catalogue/frmMain.h"
-#include "platform/posix/clock.h"
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/instance_lock.h"
-#include "platform/posix/locale.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/settings_file.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/services/program_info.h"
+#include "platform/system/clock.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/instance_lock.h"
+#include "platform/system/locale.h"
+#include "platform/system/path_finder.h"
+#include "platform/system/settings_file.h"
 #include "program.h"
 
 #include <QAbstractItemView>
@@ -196,16 +196,16 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
         fs::create_directories(folder / used);
     }
 
-    const posix::SystemLocale locale = posix::SystemLocale::FromEnvironment();
-    posix::PathFinder finder(locale.CodePage());
-    posix::DiskFileSystem fileSystem(finder);
-    posix::DiskHostFiles hostFiles(finder);
-    posix::SystemClock clock;
+    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
+    system::PathFinder finder(locale.CodePage());
+    system::DiskFileSystem fileSystem(finder);
+    system::DiskHostFiles hostFiles(finder);
+    system::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qt::QtPlatform qt(programName, locale, hostFiles);
-    posix::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
+    system::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
     qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
-    posix::SettingsFile settings(fs::absolute(output / "options").string());
+    system::SettingsFile settings(fs::absolute(output / "options").string());
     Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
                      qt.browser, qt.theme, locale},
                     qt.toolkit);

@@ -3,9 +3,9 @@
 //
 // HALVENMOOR_KILLS says how often, 10 times unless it is set.
 
-#include "platform/posix/instance_lock.h"
-#include "platform/posix/settings_file.h"
 #include "platform/qt/services/instance_guard.h"
+#include "platform/system/instance_lock.h"
+#include "platform/system/settings_file.h"
 #include "tests/support/disk_program.h"
 
 #include <QCoreApplication>
@@ -114,13 +114,13 @@ TEST_F(KillTest, TheTargetIsAsFarAsItWasWritten) {
 
 TEST_F(KillTest, OptionsAreTheOldOnesOrTheNewOnes) {
     const auto save = [this](const char* demo, const char* language) {
-        posix::SettingsFile settings(folder.Path());
+        system::SettingsFile settings(folder.Path());
         settings.SaveSetting("App", "Settings", "DemoMode", demo);
         settings.SaveSetting("App", "Settings", "Language", language);
     };
     const auto areStored = [this](const char* demo, const char* language) {
         return Answer([&] {
-                   posix::SettingsFile settings(folder.Path());
+                   system::SettingsFile settings(folder.Path());
                    return settings.GetSetting("App", "Settings", "DemoMode", "") == demo &&
                           settings.GetSetting("App", "Settings", "Language", "") == language;
                }) == 1;
@@ -141,7 +141,7 @@ TEST_F(KillTest, TheNextInstanceIsTheFirst) {
         char name[] = "halvenmoor";
         char* arguments[] = {name, nullptr};
         const QCoreApplication application(count, arguments);
-        posix::SystemInstanceLock lock(folder.Path());
+        system::SystemInstanceLock lock(folder.Path());
         return qt::InstanceGuard(lock).IsFirst();
     };
     Sweep([] {}, [&] { isFirst(); },

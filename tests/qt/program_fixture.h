@@ -3,7 +3,7 @@
 #include "catalogue/frmMain.h"
 #include "platform/fakes/fakes.h"
 #include "platform/fakes/memory_files.h"
-#include "platform/posix/clock.h"
+#include "platform/system/clock.h"
 #include "src/program.h"
 #include "window_fixture.h"
 
@@ -61,7 +61,7 @@ protected:
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, CentreOfRow(view, row));
     }
 
-    posix::SystemClock realClock;
+    system::SystemClock realClock;
     QtToolkit windows{locale};
     Program program;
 };

@@ -1,5 +1,3 @@
-#include "platform/posix/host_files.h"
-#include "platform/posix/instance_lock.h"
 #include "platform/qt/services/application.h"
 #include "platform/qt/services/browser.h"
 #include "platform/qt/services/file_dialogs.h"
@@ -8,6 +6,8 @@
 #include "platform/qt/services/program_info.h"
 #include "platform/qt/services/theme.h"
 #include "platform/qt/services/translation.h"
+#include "platform/system/host_files.h"
+#include "platform/system/instance_lock.h"
 #include "tests/support/temporary_folder.h"
 #include "window_fixture.h"
 
@@ -90,8 +90,8 @@ protected:
     }
 
     TemporaryFolder folder;
-    posix::PathFinder finder{text::WindowsCodePage(1252)};
-    posix::DiskHostFiles files{finder};
+    system::PathFinder finder{text::WindowsCodePage(1252)};
+    system::DiskHostFiles files{finder};
     QtFileDialogs dialogs{files};
     platform::FileDialog request;
 };
@@ -140,7 +140,7 @@ TEST(Translation, HasQtsWordsInTheLanguagesOfTheProgram) {
 struct Instance {
     explicit Instance(const TemporaryFolder& folder) : lock(folder.Path()) {}
 
-    posix::SystemInstanceLock lock;
+    system::SystemInstanceLock lock;
     InstanceGuard guard{lock};
 };
 
@@ -180,7 +180,7 @@ TEST(InstanceGuard, NeedsAFolderThatIsItsUsersAlone) {
     folder.AddFolder("open");
     std::filesystem::permissions(folder / "open", std::filesystem::perms(0755));
     for (const char* const name : {"link", "open", "missing"}) {
-        posix::SystemInstanceLock lock(folder / name);
+        system::SystemInstanceLock lock(folder / name);
         testing::internal::CaptureStderr();
         EXPECT_TRUE(lock.IsFirst()) << name;
         EXPECT_TRUE(
@@ -191,8 +191,8 @@ TEST(InstanceGuard, NeedsAFolderThatIsItsUsersAlone) {
 
 TEST_F(Window, IsRaisedAndRestored) {
     const TemporaryFolder folder;
-    posix::SystemInstanceLock lock(folder.Path());
-    posix::SystemInstanceLock secondLock(folder.Path());
+    system::SystemInstanceLock lock(folder.Path());
+    system::SystemInstanceLock secondLock(folder.Path());
     QtProgramInfo first(lock, "");
     QtProgramInfo second(secondLock, "");
     EXPECT_FALSE(first.PreviousInstance());

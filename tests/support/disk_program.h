@@ -60,9 +60,9 @@ struct DiskProgram : fakes::Fakes {
         UserRenames(toolkit, Window(), entry, newName);
     }
 
-    posix::PathFinder finder{locale.CodePage()};
-    posix::DiskFileSystem fileSystem{finder};
-    posix::DiskHostFiles hostFiles{finder};
+    system::PathFinder finder{locale.CodePage()};
+    system::DiskFileSystem fileSystem{finder};
+    system::DiskHostFiles hostFiles{finder};
     Program program{With(fileSystem, hostFiles), toolkit};
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/posix/file_system.h"
-#include "platform/posix/host_files.h"
-#include "platform/posix/path_finder.h"
+#include "platform/system/file_system.h"
+#include "platform/system/host_files.h"
+#include "platform/system/path_finder.h"
 
 #include <algorithm>
 #include <csignal>
@@ -85,9 +85,9 @@ auto WithSizeLimit(rlim_t bytes, const auto& job) {
 /// The real disk, with a folder on it.
 struct FilesOnDisk {
     TemporaryFolder folder;
-    posix::PathFinder finder{text::WindowsCodePage(1252)};
-    posix::DiskFileSystem fileSystem{finder};
-    posix::DiskHostFiles hostFiles{finder};
+    system::PathFinder finder{text::WindowsCodePage(1252)};
+    system::DiskFileSystem fileSystem{finder};
+    system::DiskHostFiles hostFiles{finder};
 };
 
 }  // namespace halvenmoor

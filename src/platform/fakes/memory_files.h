@@ -53,7 +53,7 @@ private:
 
     void Record(std::string_view call, std::string_view path);
     std::string Find(std::string_view path) const;
-    /// As posix::PathFinder has it. Throws Failure(PathNotFound) when there is no folder for a new file.
+    /// As system::PathFinder has it. Throws Failure(PathNotFound) when there is no folder for a new file.
     std::string FindForWriting(std::string_view path) const;
     bool IsFile(std::string_view path) const;
     bool IsFolder(std::string_view path) const;

@@ -1,11 +1,11 @@
-#include "platform/posix/directory.h"
+#include "platform/system/directory.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 Directory::Directory(FileDescriptor folder) : stream_(::fdopendir(folder.Get())) {
     if (!stream_) throw SystemFailure(errno);
@@ -25,10 +25,10 @@ const dirent* Directory::Next() {
 
 Kind Directory::KindOf(const dirent& entry) const {
     const bool isKnown = entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN;
-    if (isKnown) return posix::KindOf(static_cast<mode_t>(DTTOIF(entry.d_type)));
+    if (isKnown) return system::KindOf(static_cast<mode_t>(DTTOIF(entry.d_type)));
     struct stat info {};
     const bool isThere = ::fstatat(::dirfd(stream_.get()), entry.d_name, &info, 0) == 0;
-    return isThere ? posix::KindOf(info.st_mode) : Kind::Nothing;
+    return isThere ? system::KindOf(info.st_mode) : Kind::Nothing;
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 std::string Variable(const char* name) {
     const char* const value = std::getenv(name);
@@ -15,4 +15,4 @@ std::string ConfigFolder() {
     return isAbsolute ? folder : Variable("HOME") + "/.config";
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// A variable of the environment, empty when it is not set.
 std::string Variable(const char* name);
@@ -10,4 +10,4 @@ std::string Variable(const char* name);
 /// The user's folder for options, as the environment names it.
 std::string ConfigFolder();
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

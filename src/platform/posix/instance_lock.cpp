@@ -1,4 +1,4 @@
-#include "platform/posix/instance_lock.h"
+#include "platform/system/instance_lock.h"
 
 #include <array>
 #include <cerrno>
@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 /// Whether the path is a folder, and no link, that belongs to this user and that nobody else can enter.
@@ -98,4 +98,4 @@ std::string SystemInstanceLock::UserFolder() {
     return folder;
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,4 +1,4 @@
-#include "platform/posix/locale.h"
+#include "platform/system/locale.h"
 
 #include "base/text/decode.h"
 
@@ -7,7 +7,7 @@
 #include <locale.h>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 /// The language that the environment sets for characters, by the rules of POSIX.
@@ -38,4 +38,4 @@ SystemLocale SystemLocale::FromEnvironment() {
     return SystemLocale(EnvironmentLanguage(), EnvironmentDecimalSeparator());
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,15 +1,15 @@
-#include "platform/posix/path_finder.h"
+#include "platform/system/path_finder.h"
 
 #include "base/failure.h"
 #include "base/text/compare.h"
-#include "platform/posix/directory.h"
-#include "platform/posix/system.h"
+#include "platform/system/directory.h"
+#include "platform/system/file.h"
 
 #include <climits>
 #include <ctime>
 #include <sys/stat.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 // File systems keep times in steps of up to this many seconds: a folder that was changed so shortly before
@@ -82,4 +82,4 @@ void PathFinder::Scan(const std::string& folder, Index& index) const {
     }
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,10 +1,10 @@
-#include "platform/posix/process.h"
+#include "platform/system/process.h"
 
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 void PrepareProcess() {
     // A file that is opened gets the lowest number that is free.
@@ -15,4 +15,4 @@ void PrepareProcess() {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,13 +1,13 @@
-#include "platform/posix/program_folder.h"
+#include "platform/system/program_folder.h"
 
-#include "platform/posix/system.h"
-#include "platform/posix/user_folder.h"
+#include "platform/system/file.h"
+#include "platform/system/user_folder.h"
 
 #include <filesystem>
 #include <system_error>
 #include <unistd.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 std::string ExecutableFolder() {
     std::error_code error;
@@ -24,4 +24,4 @@ std::string ProgramFolder(const std::string& executableFolder) {
     return folder;
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,8 +1,8 @@
-#include "platform/posix/user_folder.h"
+#include "platform/system/user_folder.h"
 
 #include "platform/posix/environment.h"
-#include "platform/posix/path_finder.h"
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
+#include "platform/system/path_finder.h"
 
 #include <array>
 #include <cerrno>
@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 namespace fs = std::filesystem;
@@ -158,4 +158,4 @@ void CompleteUserFolder(const std::string& folder, const std::string& data) {
     }
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,11 +1,11 @@
-#include "platform/posix/streams.h"
+#include "platform/system/streams.h"
 
 #include "base/failure.h"
 
 #include <algorithm>
 #include <cerrno>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -148,4 +148,4 @@ void DiskTextWriter::Flush() noexcept {
     if (error != 0) file_.CutTo(wholeSize_);
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +12,7 @@
 #include <string_view>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// What streams read and write at once, in bytes.
 inline constexpr std::size_t kBufferSize = 64 * 1024;
@@ -105,4 +105,4 @@ private:
     int error_ = 0;  // of the first write that failed; nothing is written after it
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

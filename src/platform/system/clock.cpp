@@ -1,8 +1,8 @@
-#include "platform/posix/clock.h"
+#include "platform/system/clock.h"
 
 #include <time.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 double SystemClock::TimeOfDay() {
     timespec now{};
@@ -13,4 +13,4 @@ double SystemClock::TimeOfDay() {
     return seconds + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

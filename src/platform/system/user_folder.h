@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// Where the program folder of this user is, without a separator at its end: as HALVENMOOR_FOLDER says, else
 /// "Halvenmoor" in the folder for documents or in the home folder, whichever has it already or can have it.
@@ -18,4 +18,4 @@ std::string DocumentsFolder(const std::string& userDirs, const std::string& home
 /// with the folder in its words; what has been added until then stays, and the next call adds the rest.
 void CompleteUserFolder(const std::string& folder, const std::string& data);
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

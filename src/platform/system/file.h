@@ -11,7 +11,7 @@
 #include <sys/types.h>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// The failure that an error number of the system stands for.
 Failure SystemFailure(int error);
@@ -98,4 +98,4 @@ FileDescriptor OpenFolder(const std::string& path);
 /// Opens an open folder once more, for a walk of its own. Throws Failure.
 FileDescriptor OpenFolder(const FileDescriptor& folder);
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,4 +1,4 @@
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 struct ErrorMeaning {
@@ -192,4 +192,4 @@ FileDescriptor OpenFolder(const FileDescriptor& folder) {
     return Open(folder.Get(), ".", O_RDONLY | O_DIRECTORY);
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

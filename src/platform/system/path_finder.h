@@ -7,7 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// Finds files and folders without regard to the letter case of their paths: part by part, the exact name
 /// first, then of the names that are equal ignoring case the one with the smallest bytes. The names of each
@@ -53,4 +53,4 @@ private:
     std::unordered_map<std::string, Index> indexes_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

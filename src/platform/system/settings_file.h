@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// The user's options in an INI file, stored at each change. The file is read at the start and just before it
 /// is stored, so that what others write into it stays. It is a regular file, or a link to one; where it is
@@ -35,4 +35,4 @@ private:
     std::map<Key, std::string> changes_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/posix/path_finder.h"
+#include "platform/system/path_finder.h"
 
 #include <memory>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// The file-system objects of the real disk. The finder must outlive them.
 class DiskFileSystem : public platform::FileSystem {
@@ -18,4 +18,4 @@ private:
     PathFinder& finder_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

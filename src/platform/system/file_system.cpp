@@ -1,8 +1,8 @@
-#include "platform/posix/file_system.h"
+#include "platform/system/file_system.h"
 
-#include "platform/posix/directory.h"
-#include "platform/posix/streams.h"
-#include "platform/posix/system.h"
+#include "platform/system/directory.h"
+#include "platform/system/file.h"
+#include "platform/system/streams.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 /// A folder by its descriptor, so that it stays the same one whatever happens to its path.
@@ -59,7 +59,7 @@ public:
     bool FolderExists(std::string_view path) override { return KindOf(finder_.Find(path)) == Kind::Folder; }
 
     bool IsSameFolder(std::string_view a, std::string_view b) override {
-        return posix::IsSameFolder(finder_.Find(a), finder_.Find(b));
+        return system::IsSameFolder(finder_.Find(a), finder_.Find(b));
     }
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
@@ -95,4 +95,4 @@ std::unique_ptr<platform::FileSystemObject> DiskFileSystem::CreateFileSystemObje
     return std::make_unique<DiskFileSystemObject>(finder_);
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,9 +1,9 @@
-#include "platform/posix/host_files.h"
+#include "platform/system/host_files.h"
 
 #include "base/text/compare.h"
-#include "platform/posix/directory.h"
-#include "platform/posix/streams.h"
-#include "platform/posix/system.h"
+#include "platform/system/directory.h"
+#include "platform/system/file.h"
+#include "platform/system/streams.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 void DiskHostFiles::Search(std::string_view folder, std::string_view extension,
                            const std::function<void(std::string_view)>& found) {
@@ -48,4 +48,4 @@ void DiskHostFiles::Rename(std::string_view oldPath, std::string_view newPath) {
     if (::rename(SystemPath(from), SystemPath(to)) != 0) throw SystemFailure(errno);
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

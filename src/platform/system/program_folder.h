@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// The folder of the running program, without a separator at its end, whatever bytes its name holds. Empty
 /// when the system does not tell.
@@ -14,4 +14,4 @@ std::string ExecutableFolder();
 /// words.
 std::string ProgramFolder(const std::string& executableFolder = ExecutableFolder());
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -2,7 +2,7 @@
 
 #include "platform/services.h"
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// The local time of day.
 class SystemClock : public platform::Clock {
@@ -10,4 +10,4 @@ public:
     double TimeOfDay() override;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

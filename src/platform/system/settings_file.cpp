@@ -1,8 +1,8 @@
-#include "platform/posix/settings_file.h"
+#include "platform/system/settings_file.h"
 
 #include "base/text/ini.h"
 #include "platform/posix/environment.h"
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -13,7 +13,7 @@
 #include <system_error>
 #include <unistd.h>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 namespace {
 
 /// The path of the file itself, behind all links. Nothing for a link to nowhere.
@@ -81,4 +81,4 @@ std::string SettingsFile::UserFolder() {
     return ConfigFolder() + "/halvenmoor";
 }
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/posix/path_finder.h"
+#include "platform/system/path_finder.h"
 
 #include <functional>
 #include <memory>
 #include <string_view>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// Search, reading by bytes and rename on the real disk. The finder must outlive it.
 class DiskHostFiles : public platform::HostFiles {
@@ -24,4 +24,4 @@ private:
     PathFinder& finder_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

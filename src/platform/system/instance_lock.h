@@ -1,14 +1,14 @@
 #pragma once
 
 #include "platform/instance_lock.h"
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// A lock on a file in a folder that only this user can enter. What the file holds, or who left it behind,
 /// does not matter.
@@ -40,4 +40,4 @@ private:
     std::optional<FileDescriptor> socket_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// Regional settings of a system whose own texts are UTF-8.
 class SystemLocale : public platform::Locale {
@@ -25,4 +25,4 @@ private:
     std::string decimalSeparator_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/posix/system.h"
+#include "platform/system/file.h"
 
 #include <dirent.h>
 #include <memory>
 
-namespace halvenmoor::posix {
+namespace halvenmoor::system {
 
 /// A walk over the entries of a folder.
 class Directory {
@@ -27,4 +27,4 @@ private:
     std::unique_ptr<DIR, Closer> stream_;
 };
 
-}  // namespace halvenmoor::posix
+}  // namespace halvenmoor::system
