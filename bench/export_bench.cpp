@@ -56,10 +56,10 @@ int main(int count, char** arguments) {
         std::cerr << "usage: export_bench PROGRAM_FOLDER\n";
         return 2;
     }
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     headless::HeadlessProgramInfo programInfo(arguments[1]);

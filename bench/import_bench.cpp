@@ -46,10 +46,10 @@ int main(int argc, char** argv) {
     }
     const QString sourceOption = std::string_view(argv[2]) == "ov2" ? "OptionSource(1)" : "OptionSource(2)";
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     qt::QtPlatform qt(argv[0], locale, hostFiles);
     headless::HeadlessProgramInfo programInfo(argv[1]);
     headless::SkippingClock clock;

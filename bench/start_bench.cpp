@@ -26,10 +26,10 @@ int main(int count, char** arguments) {
         return 2;
     }
     system::PrepareProcess();
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     system::SettingsFile settings(arguments[2]);
     system::SystemInstanceLock instanceLock(arguments[2]);

@@ -15,7 +15,7 @@ using fuzz::Require;
 namespace {
 
 Strings ReadInOnePiece(std::string_view bytes) {
-    system::FileDescriptor file(memfd_create("text", MFD_CLOEXEC));
+    system::File file(memfd_create("text", MFD_CLOEXEC));
     Require(file.Write(bytes).error == 0 && lseek(file.Get(), 0, SEEK_SET) == 0,
             "there is memory for the text");
     system::DiskTextReader reader(std::move(file), bytes.size());
@@ -29,8 +29,8 @@ Strings ReadByteByByte(std::string_view bytes) {
     int ends[2];
     Require(pipe2(ends, O_DIRECT | O_CLOEXEC) == 0, "there is a pipe");
     const int capacity = fcntl(ends[1], F_SETPIPE_SZ, 1 << 20);
-    system::FileDescriptor out(ends[1]);
-    system::FileDescriptor in(ends[0]);
+    system::File out(ends[1]);
+    system::File in(ends[0]);
     Require(capacity >= 1 << 20, "the pipe holds it");
     for (const char byte : bytes) Require(out.Write({&byte, 1}).error == 0, "a byte fits into the pipe");
     out.Close();

@@ -99,10 +99,10 @@ int main(int argc, char** argv) {
     const auto steps = ParseSteps(texts);
     if (!steps) return kNothingDone;
 
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     const std::optional<std::string> folder = FindProgramFolder(wantedFolder, fileSystem);
     if (!folder) return kNothingDone;
     headless::HeadlessPlatform platform(*folder, Tell);

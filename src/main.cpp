@@ -37,10 +37,10 @@ std::optional<std::string> FindProgramFolder(platform::MessageBox& messages) {
 // The program takes no command line.
 int main(int, char** arguments) {
     system::PrepareProcess();
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     system::SettingsFile settings;
     system::SystemInstanceLock instanceLock;

@@ -145,7 +145,7 @@ TEST_F(DiskTest, ScansAFolderAgainOnlyWhenItChanges) {
     std::filesystem::last_write_time(folder / "asc", changed);
     EXPECT_TRUE(object->FileExists(folder / "asc/z.asc")) << "in a folder that had not changed for long";
     std::filesystem::rename(folder / "asc/Z.ASC", folder / "asc/Z.Asc");
-    EXPECT_EQ(finder.Find(folder / "asc/z.asc"), folder / "asc/Z.Asc");
+    EXPECT_EQ(finder->Find(folder / "asc/z.asc"), folder / "asc/Z.Asc");
 }
 
 TEST_F(DiskTest, OptionsAreStoredBesideTheLinesOfOthers) {
@@ -194,7 +194,7 @@ TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {
     const char* value = std::getenv("LC_ALL");
     const std::string before = value == nullptr ? "" : value;  // an empty one counts as none
     ASSERT_EQ(::setenv("LC_ALL", "ru_RU.NotInstalled", 1), 0);
-    const auto russian = system::SystemLocale::FromEnvironment();
+    const auto russian = system::SystemLocale::OfUser();
     ASSERT_EQ(::setenv("LC_ALL", before.c_str(), 1), 0);
     EXPECT_EQ(russian.CodePage().number, 1251);
     EXPECT_EQ(russian.DecimalSeparator(), ".");

@@ -24,10 +24,10 @@ int main(int argc, char** argv) {
         std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
         return 2;
     }
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     headless::HeadlessPlatform platform(argv[1], [](const std::string&) {});
     Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
     program.Start();

@@ -196,10 +196,10 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
         fs::create_directories(folder / used);
     }
 
-    const system::SystemLocale locale = system::SystemLocale::FromEnvironment();
-    system::PathFinder finder(locale.CodePage());
-    system::DiskFileSystem fileSystem(finder);
-    system::DiskHostFiles hostFiles(finder);
+    const system::SystemLocale locale = system::SystemLocale::OfUser();
+    const auto finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem(*finder);
+    system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qt::QtPlatform qt(programName, locale, hostFiles);

@@ -123,8 +123,8 @@ TEST_F(Bounded, SettingsTakeNoStringForEachComma) {
     const std::string text = "[Type1]\n" + std::string(16 * kMegabyte, ',');
     folder.Put("Settings.ini", text);
     ExpectTakesAtMost(5 * text.size(), [this] {
-        system::PathFinder finder(text::WindowsCodePage(1252));
-        system::DiskFileSystem files(finder);
+        const auto finder = system::MakePathFinder(text::WindowsCodePage(1252));
+        system::DiskFileSystem files(*finder);
         const cSettingsClass read(files, folder / "Settings.ini");
         EXPECT_EQ(read.TypeFileNamePatterns()[1]->size(), kMaxPatterns + 1);
     });

@@ -90,8 +90,8 @@ protected:
     }
 
     TemporaryFolder folder;
-    system::PathFinder finder{text::WindowsCodePage(1252)};
-    system::DiskHostFiles files{finder};
+    std::unique_ptr<system::PathFinder> finder = system::MakePathFinder(text::WindowsCodePage(1252));
+    system::DiskHostFiles files{*finder};
     QtFileDialogs dialogs{files};
     platform::FileDialog request;
 };

@@ -60,9 +60,9 @@ struct DiskProgram : fakes::Fakes {
         UserRenames(toolkit, Window(), entry, newName);
     }
 
-    system::PathFinder finder{locale.CodePage()};
-    system::DiskFileSystem fileSystem{finder};
-    system::DiskHostFiles hostFiles{finder};
+    std::unique_ptr<system::PathFinder> finder = system::MakePathFinder(locale.CodePage());
+    system::DiskFileSystem fileSystem{*finder};
+    system::DiskHostFiles hostFiles{*finder};
     Program program{With(fileSystem, hostFiles), toolkit};
 };
 

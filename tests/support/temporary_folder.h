@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
@@ -85,9 +86,9 @@ auto WithSizeLimit(rlim_t bytes, const auto& job) {
 /// The real disk, with a folder on it.
 struct FilesOnDisk {
     TemporaryFolder folder;
-    system::PathFinder finder{text::WindowsCodePage(1252)};
-    system::DiskFileSystem fileSystem{finder};
-    system::DiskHostFiles hostFiles{finder};
+    std::unique_ptr<system::PathFinder> finder = system::MakePathFinder(text::WindowsCodePage(1252));
+    system::DiskFileSystem fileSystem{*finder};
+    system::DiskHostFiles hostFiles{*finder};
 };
 
 }  // namespace halvenmoor

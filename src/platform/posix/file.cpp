@@ -1,12 +1,17 @@
 #include "platform/system/file.h"
 
+#include "platform/posix/system_calls.h"
+#include "platform/system/directory.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <iterator>
+#include <stdio.h>  // renameat2
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace halvenmoor::system {
 namespace {
@@ -42,31 +47,31 @@ auto Uninterrupted(Call call) {
     return result;
 }
 
-FileDescriptor Open(int base, const std::string& path, int flags, int errorWhenMissing = ENOENT) {
+File Open(int base, const std::string& path, int flags, int errorWhenMissing = ENOENT) {
     constexpr mode_t kReadableAndWritable = 0666;  // less what the user's mask takes away
     constexpr int kAlways = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    FileDescriptor file(Uninterrupted(
+    File file(Uninterrupted(
         [&] { return ::openat(base, SystemPath(path), flags | kAlways, kReadableAndWritable); }));
     if (!file.IsOpen()) throw SystemFailure(errno == ENOENT ? errorWhenMissing : errno);
     return file;
 }
 
-FileDescriptor OpenRegular(int base, const std::string& path, int flags, int errorWhenMissing) {
-    FileDescriptor file = Open(base, path, flags, errorWhenMissing);
+File OpenRegular(int base, const std::string& path, int flags, int errorWhenMissing) {
+    File file = Open(base, path, flags, errorWhenMissing);
     struct stat info {};
-    if (::fstat(file.Get(), &info) != 0) throw SystemFailure(errno);
+    if (::fstat(DescriptorOf(file), &info) != 0) throw SystemFailure(errno);
     if (S_ISDIR(info.st_mode)) throw SystemFailure(EISDIR);
     if (!S_ISREG(info.st_mode)) throw SystemFailure(ENODEV);
     return file;
 }
 
-FileDescriptor OpenForWriting(int base, const std::string& path, WriteMode mode) {
+File OpenForWriting(int base, const std::string& path, WriteMode mode) {
     const bool isReplaced = mode == WriteMode::Replace;
-    FileDescriptor file = isReplaced ? OpenRegular(base, path, O_WRONLY | O_CREAT, ENOTDIR)
-                                     : OpenRegular(base, path, O_WRONLY | O_APPEND, ENOENT);
-    const bool isTaken = ::flock(file.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    File file = isReplaced ? OpenRegular(base, path, O_WRONLY | O_CREAT, ENOTDIR)
+                           : OpenRegular(base, path, O_WRONLY | O_APPEND, ENOENT);
+    const bool isTaken = ::flock(DescriptorOf(file), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     if (isTaken) throw SystemFailure(EACCES);
-    if (isReplaced && Uninterrupted([&] { return ::ftruncate(file.Get(), 0); }) != 0)
+    if (isReplaced && Uninterrupted([&] { return ::ftruncate(DescriptorOf(file), 0); }) != 0)
         throw SystemFailure(errno);
     return file;
 }
@@ -77,12 +82,18 @@ void ThrowIfNotSynced(int result) {
     if (result != 0 && isSupported) throw SystemFailure(errno);
 }
 
+/// The name, which must not lead out of its folder.
+std::string OwnName(std::string_view name) {
+    if (name.find('/') != std::string_view::npos) throw SystemFailure(ENOENT);
+    return std::string(name);
+}
+
 }  // namespace
 
 Failure SystemFailure(int error) {
     const auto* meaning = std::find_if(std::begin(kErrorMeanings), std::end(kErrorMeanings),
                                        [error](const ErrorMeaning& known) { return known.error == error; });
-    if (meaning == std::end(kErrorMeanings)) return {failure::FileAccess, "Device I/O error"};
+    if (meaning == std::end(kErrorMeanings)) return AccessFailure();
     return {meaning->number, meaning->description};
 }
 
@@ -108,88 +119,85 @@ bool IsSameFolder(const std::string& a, const std::string& b) {
     return S_ISDIR(infoA.st_mode) && infoA.st_dev == infoB.st_dev && infoA.st_ino == infoB.st_ino;
 }
 
-int FileDescriptor::Close() noexcept {
+int File::Close() noexcept {
     if (!IsOpen()) return 0;
     // An interrupted close has closed the file all the same.
-    return ::close(Release()) == 0 || errno == EINTR ? 0 : errno;
+    return ::close(static_cast<int>(Release())) == 0 || errno == EINTR ? 0 : errno;
 }
 
-std::uint64_t FileDescriptor::Size() const {
+std::uint64_t File::Size() const {
     struct stat info {};
-    if (::fstat(descriptor_, &info) != 0) throw SystemFailure(errno);
+    if (::fstat(DescriptorOf(*this), &info) != 0) throw SystemFailure(errno);
     return static_cast<std::uint64_t>(info.st_size);
 }
 
-std::size_t FileDescriptor::Read(std::span<char> buffer) const {
-    const auto count = Uninterrupted([&] { return ::read(descriptor_, buffer.data(), buffer.size()); });
+std::size_t File::Read(std::span<char> buffer) const {
+    const auto count =
+        Uninterrupted([&] { return ::read(DescriptorOf(*this), buffer.data(), buffer.size()); });
     if (count < 0) throw SystemFailure(errno);
     return static_cast<std::size_t>(count);
 }
 
-FileDescriptor::Written FileDescriptor::Write(std::string_view bytes) const noexcept {
+File::Written File::Write(std::string_view bytes) const noexcept {
     std::size_t done = 0;
     while (done < bytes.size()) {
         const std::string_view rest = bytes.substr(done);
-        const auto count = Uninterrupted([&] { return ::write(descriptor_, rest.data(), rest.size()); });
+        const auto count =
+            Uninterrupted([&] { return ::write(DescriptorOf(*this), rest.data(), rest.size()); });
         if (count <= 0) return {done, count < 0 ? errno : EIO};
         done += static_cast<std::size_t>(count);
     }
     return {done, 0};
 }
 
-void FileDescriptor::CutTo(std::uint64_t size) const noexcept {
+void File::CutTo(std::uint64_t size) const noexcept {
     struct stat info {};
-    if (::fstat(descriptor_, &info) != 0 || info.st_size <= static_cast<off_t>(size)) return;
-    static_cast<void>(Uninterrupted([&] { return ::ftruncate(descriptor_, static_cast<off_t>(size)); }));
+    if (::fstat(DescriptorOf(*this), &info) != 0 || info.st_size <= static_cast<off_t>(size)) return;
+    static_cast<void>(
+        Uninterrupted([&] { return ::ftruncate(DescriptorOf(*this), static_cast<off_t>(size)); }));
 }
 
-void FileDescriptor::Sync() const {
-    ThrowIfNotSynced(Uninterrupted([&] { return ::fsync(descriptor_); }));
+void File::Sync() const {
+    ThrowIfNotSynced(Uninterrupted([&] { return ::fsync(DescriptorOf(*this)); }));
 }
 
-void FileDescriptor::SyncFileSystem() const {
-    ThrowIfNotSynced(Uninterrupted([&] { return ::syncfs(descriptor_); }));
-}
-
-FileDescriptor OpenForReading(const std::string& path) {
+File OpenForReading(const std::string& path) {
     return OpenRegular(AT_FDCWD, path, O_RDONLY, ENOENT);
 }
 
-FileDescriptor OpenForWriting(const std::string& path, WriteMode mode) {
+File OpenForWriting(const std::string& path, WriteMode mode) {
     return OpenForWriting(AT_FDCWD, path, mode);
-}
-
-FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name) {
-    return OpenForWriting(folder.Get(), name, WriteMode::Replace);
-}
-
-std::optional<std::string> ReadSmallFile(const std::string& path) {
-    constexpr std::size_t kMaxBytes = 1024 * 1024;
-    try {
-        const FileDescriptor file = OpenForReading(path);
-        const std::uint64_t size = file.Size();
-        if (size > kMaxBytes) return std::nullopt;
-        std::string text(static_cast<std::size_t>(size), '\0');
-        std::size_t done = 0;
-        while (const std::size_t count = file.Read(std::span(text).subspan(done))) done += count;
-        text.resize(done);
-        return text;
-    } catch (const Failure& failure) {
-        return failure.Number() == failure::FileNotFound ? std::optional(std::string()) : std::nullopt;
-    }
 }
 
 void SyncEntry(const std::string& path) {
     const std::string folder = path.substr(0, path.rfind('/') + 1);
-    if (::access(SystemPath(folder), R_OK) == 0) OpenFolder(folder).Sync();
+    if (::access(SystemPath(folder), R_OK) == 0) OpenFolder(folder).Handle().Sync();
 }
 
-FileDescriptor OpenFolder(const std::string& path) {
-    return Open(AT_FDCWD, path, O_RDONLY | O_DIRECTORY, ENOTDIR);
+void Rename(const std::string& oldPath, const std::string& newPath) {
+    const char* const from = SystemPath(oldPath);
+    const char* const to = SystemPath(newPath);
+    if (::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) return;
+    const bool isSupported = errno != EINVAL && errno != ENOSYS;
+    if (isSupported) throw SystemFailure(errno);
+    if (EntryExists(newPath)) throw SystemFailure(EEXIST);
+    if (::rename(from, to) != 0) throw SystemFailure(errno);
 }
 
-FileDescriptor OpenFolder(const FileDescriptor& folder) {
-    return Open(folder.Get(), ".", O_RDONLY | O_DIRECTORY);
+OpenFolder::OpenFolder(std::string path)
+    : path_(std::move(path)), handle_(Open(AT_FDCWD, path_, O_RDONLY | O_DIRECTORY, ENOTDIR)) {
+}
+
+File OpenFolder::Create(std::string_view name) const {
+    return OpenForWriting(DescriptorOf(handle_), OwnName(name), WriteMode::Replace);
+}
+
+void OpenFolder::Delete(std::string_view name) const {
+    if (::unlinkat(DescriptorOf(handle_), SystemPath(OwnName(name)), 0) != 0) throw SystemFailure(errno);
+}
+
+void OpenFolder::SyncFiles() const {
+    ThrowIfNotSynced(Uninterrupted([&] { return ::syncfs(DescriptorOf(handle_)); }));
 }
 
 }  // namespace halvenmoor::system

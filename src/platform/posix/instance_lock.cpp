@@ -1,5 +1,7 @@
 #include "platform/system/instance_lock.h"
 
+#include "platform/posix/system_calls.h"
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -22,8 +24,8 @@ bool IsPrivateFolder(const std::string& path) {
 }
 
 /// A socket whose messages arrive whole, one by one.
-FileDescriptor MessageSocket() {
-    return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+File MessageSocket() {
+    return File(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
 /// A path that is too long is cut off, and there is no such socket.
@@ -59,7 +61,7 @@ std::optional<std::intptr_t> SystemInstanceLock::Listen() {
     ::unlink(address.sun_path);  // left behind by an instance that crashed
     socket_.emplace(MessageSocket());
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so the system wants it
-    if (::bind(socket_->Get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+    if (::bind(DescriptorOf(*socket_), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
         return socket_->Get();
     socket_.reset();
     return std::nullopt;
@@ -67,7 +69,7 @@ std::optional<std::intptr_t> SystemInstanceLock::Listen() {
 
 std::optional<std::string> SystemInstanceLock::Receive() {
     std::array<char, kMaxMessage> message;
-    const ssize_t size = ::recv(socket_->Get(), message.data(), message.size(), MSG_TRUNC);
+    const ssize_t size = ::recv(DescriptorOf(*socket_), message.data(), message.size(), MSG_TRUNC);
     if (size < 0) return std::nullopt;
     if (static_cast<std::size_t>(size) > message.size()) return "";
     return std::string(message.data(), static_cast<std::size_t>(size));
@@ -76,7 +78,7 @@ std::optional<std::string> SystemInstanceLock::Receive() {
 void SystemInstanceLock::Send(std::string_view message) {
     const sockaddr_un address = SocketAddress(SocketPath());
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so the system wants it
-    ::sendto(MessageSocket().Get(), message.data(), message.size(), 0,
+    ::sendto(DescriptorOf(MessageSocket()), message.data(), message.size(), 0,
              reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }
 
@@ -85,7 +87,7 @@ SystemInstanceLock::State SystemInstanceLock::Lock() {
     const std::string path = folder_ + "/halvenmoor.lock";  // the file stays, locked or not
     file_.emplace(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!file_->IsOpen()) return State::Impossible;
-    if (::flock(file_->Get(), LOCK_EX | LOCK_NB) == 0) return State::Held;
+    if (::flock(DescriptorOf(*file_), LOCK_EX | LOCK_NB) == 0) return State::Held;
     return errno == EWOULDBLOCK ? State::HeldByOther : State::Impossible;
 }
 

@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <langinfo.h>
 #include <locale.h>
-#include <utility>
 
 namespace halvenmoor::system {
 namespace {
@@ -29,13 +28,9 @@ std::string EnvironmentDecimalSeparator() {
 
 }  // namespace
 
-SystemLocale::SystemLocale(std::string_view languageTag, std::string decimalSeparator)
-    : page_(text::WindowsCodePage(text::WindowsCodePageForLanguage(languageTag))),
-      decimalSeparator_(std::move(decimalSeparator)) {
-}
-
-SystemLocale SystemLocale::FromEnvironment() {
-    return SystemLocale(EnvironmentLanguage(), EnvironmentDecimalSeparator());
+SystemLocale SystemLocale::OfUser() {
+    const int page = text::WindowsCodePageForLanguage(EnvironmentLanguage());
+    return {text::WindowsCodePage(page), EnvironmentDecimalSeparator()};
 }
 
 }  // namespace halvenmoor::system

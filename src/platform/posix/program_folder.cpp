@@ -1,5 +1,6 @@
 #include "platform/system/program_folder.h"
 
+#include "platform/posix/system_calls.h"
 #include "platform/system/file.h"
 #include "platform/system/user_folder.h"
 

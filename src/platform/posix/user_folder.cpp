@@ -1,6 +1,8 @@
 #include "platform/system/user_folder.h"
 
 #include "platform/posix/environment.h"
+#include "platform/posix/system_calls.h"
+#include "platform/system/directory.h"
 #include "platform/system/file.h"
 #include "platform/system/path_finder.h"
 
@@ -8,6 +10,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <iomanip>
+#include <memory>
 #include <sstream>
 #include <sys/file.h>
 #include <system_error>
@@ -33,8 +36,8 @@ Failure WithPath(const Failure& failure, const std::string& path) {
 
 /// The mode is that of a new file: the data of a package may be closed to writing.
 void CopyFile(const fs::path& from, const fs::path& to) {
-    const FileDescriptor source = OpenForReading(from);
-    FileDescriptor target = OpenForWriting(to, WriteMode::Replace);
+    const File source = OpenForReading(from);
+    File target = OpenForWriting(to, WriteMode::Replace);
     std::array<char, 65536> buffer{};
     while (const std::size_t count = source.Read(buffer)) {
         if (const int error = target.Write({buffer.data(), count}).error) throw SystemFailure(error);
@@ -62,8 +65,8 @@ public:
     void AddAll() {
         if (KindOf(folder_.parent_path()) != Kind::Folder) throw SystemFailure(ENOTDIR);
         if (!EntryExists(folder_)) fs::create_directory(folder_);
-        const FileDescriptor opened = OpenFolder(folder_);
-        ::flock(opened.Get(), LOCK_EX);  // another start may be at it as well
+        const OpenFolder opened(folder_);
+        ::flock(DescriptorOf(opened.Handle()), LOCK_EX);  // another start may be at it as well
         for (const char* name : kFolders) AddFolder(name);
         for (const char* part : kCopies) AddCopy(part);
         for (const char* part : kLinks) AddLink(part);
@@ -74,7 +77,7 @@ public:
 
 private:
     /// The path of a part as the program will find it, without regard to letter case.
-    fs::path PlaceOf(const std::string& part) { return finder_.FindForWriting((folder_ / part).string()); }
+    fs::path PlaceOf(const std::string& part) { return finder_->FindForWriting((folder_ / part).string()); }
 
     void AddFolder(const std::string& name) {
         if (const fs::path place = PlaceOf(name); !EntryExists(place)) fs::create_directory(place);
@@ -87,7 +90,7 @@ private:
         const fs::path unfinished = place.parent_path() / ".halvenmoor-unfinished";
         fs::remove_all(unfinished);  // of a start that did not get to its end
         Copy(data_ / part, unfinished);
-        OpenFolder(place.parent_path()).SyncFileSystem();
+        OpenFolder(place.parent_path()).SyncFiles();
         fs::rename(unfinished, place);
     }
 
@@ -103,7 +106,7 @@ private:
 
     fs::path folder_;
     fs::path data_;
-    PathFinder finder_{text::WindowsCodePage(1252)};
+    std::unique_ptr<PathFinder> finder_ = MakePathFinder(text::WindowsCodePage(1252));
 };
 
 /// Absolute, and without a separator at its end.

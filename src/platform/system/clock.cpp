@@ -1,16 +1,18 @@
 #include "platform/system/clock.h"
 
-#include <time.h>
+#include <chrono>
+#include <ctime>
 
 namespace halvenmoor::system {
 
 double SystemClock::TimeOfDay() {
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    tm local{};
-    ::localtime_r(&now.tv_sec, &local);
+    using std::chrono::system_clock;
+    const system_clock::time_point now = system_clock::now();
+    const std::time_t second = system_clock::to_time_t(now);
+    const std::tm local = *std::localtime(&second);  // the program has one thread that asks
     const int seconds = (local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec;
-    return seconds + static_cast<double>(now.tv_nsec) / 1e9;
+    const std::chrono::duration<double> fraction = now - system_clock::from_time_t(second);
+    return seconds + fraction.count();
 }
 
 }  // namespace halvenmoor::system

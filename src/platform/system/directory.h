@@ -2,29 +2,56 @@
 
 #include "platform/system/file.h"
 
-#include <dirent.h>
 #include <memory>
+#include <string>
+#include <string_view>
 
 namespace halvenmoor::system {
 
-/// A walk over the entries of a folder.
+/// A folder that is open: it stays the same one whatever happens to its path. Names are those of its entries
+/// and must not lead out of it.
+class OpenFolder {
+public:
+    /// Opens it, also through a link. Throws Failure.
+    explicit OpenFolder(std::string path);
+
+    const File& Handle() const { return handle_; }
+    /// As it was given. Windows keeps it from changing while the folder is open.
+    const std::string& Path() const { return path_; }
+
+    /// As OpenForWriting in the mode Replace. Throws Failure.
+    File Create(std::string_view name) const;
+    /// Deletes a file, even if it is read-only; a link is deleted as a link. Throws Failure.
+    void Delete(std::string_view name) const;
+    /// Returns when its files are on the medium. Throws Failure.
+    void SyncFiles() const;
+
+private:
+    std::string path_;
+    File handle_;
+};
+
+/// A walk over the entries of a folder, hidden ones too but neither "." nor "..".
 class Directory {
 public:
     /// Throws Failure.
-    explicit Directory(FileDescriptor folder);
+    explicit Directory(const OpenFolder& folder);
+    ~Directory();
 
-    /// The next entry, hidden ones too but neither "." nor "..", valid until the next call; null at the end.
-    /// Throws Failure.
-    const dirent* Next();
-    /// What the entry leads to, through links.
-    Kind KindOf(const dirent& entry) const;
+    /// Goes on to the next entry, the first one at first. False at the end. Throws Failure.
+    bool Next();
+
+    // Of the entry in hand:
+    std::string_view Name() const;  // valid until Next
+    /// Whether searches leave it out.
+    bool IsHidden() const;
+    /// What it leads to, through links.
+    Kind KindOfEntry() const;
 
 private:
-    struct Closer {
-        void operator()(DIR* stream) const noexcept { ::closedir(stream); }
-    };
+    struct Walk;
 
-    std::unique_ptr<DIR, Closer> stream_;
+    std::unique_ptr<Walk> walk_;
 };
 
 }  // namespace halvenmoor::system

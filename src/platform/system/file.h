@@ -8,7 +8,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 #include <utility>
 
 namespace halvenmoor::system {
@@ -16,10 +15,9 @@ namespace halvenmoor::system {
 /// The failure that an error number of the system stands for.
 Failure SystemFailure(int error);
 
-/// The path as system calls take it. One with a NUL would name another file and becomes empty, which every
-/// call refuses.
-inline const char* SystemPath(const std::string& path) {
-    return path.find('\0') == std::string::npos ? path.c_str() : "";
+/// The failure of a file that cannot be read or written, where the system has no number for why.
+inline Failure AccessFailure() {
+    return {failure::FileAccess, "Device I/O error"};
 }
 
 /// Whether there is an entry of this path; a link is not followed at the end.
@@ -28,7 +26,6 @@ bool EntryExists(const std::string& path);
 /// Only a regular file counts as a file.
 enum class Kind { Nothing, File, Folder, Other };
 
-Kind KindOf(mode_t mode);
 /// What the path leads to, through links.
 Kind KindOf(const std::string& path);
 
@@ -36,17 +33,21 @@ Kind KindOf(const std::string& path);
 bool IsSameFolder(const std::string& a, const std::string& b);
 
 /// An open file or folder.
-class FileDescriptor {
+class File {
 public:
-    /// Takes over the descriptor.
-    explicit FileDescriptor(int descriptor) noexcept : descriptor_(descriptor) {}
-    FileDescriptor(FileDescriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
-    ~FileDescriptor() { Close(); }
+    /// What the system knows it by: the descriptor, or on Windows the handle.
+    using Handle = std::intptr_t;
+    static constexpr Handle kNone = -1;
 
-    int Get() const noexcept { return descriptor_; }
-    int Release() noexcept { return std::exchange(descriptor_, -1); }
-    bool IsOpen() const noexcept { return descriptor_ >= 0; }
+    /// Takes over the handle.
+    explicit File(Handle handle) noexcept : handle_(handle) {}
+    File(File&& other) noexcept : handle_(other.Release()) {}
+    File& operator=(File&&) = delete;
+    ~File() { Close(); }
+
+    Handle Get() const noexcept { return handle_; }
+    Handle Release() noexcept { return std::exchange(handle_, kNone); }
+    bool IsOpen() const noexcept { return handle_ != kNone; }
 
     /// Returns the error number, 0 for success and for what is closed already.
     int Close() noexcept;
@@ -65,25 +66,21 @@ public:
     /// Returns when the file is on the medium, or at once where the file system knows no such call. Throws
     /// Failure.
     void Sync() const;
-    /// The same for all files of the file system that this file or folder is on.
-    void SyncFileSystem() const;
 
 private:
-    int descriptor_;
+    Handle handle_;
 };
 
 // Only regular files are opened, links to them too. To open anything else fails at once, without waiting.
 
 /// Throws Failure.
-FileDescriptor OpenForReading(const std::string& path);
+File OpenForReading(const std::string& path);
 
 enum class WriteMode { Replace, Append };
 
 /// Replace makes or empties the file, Append needs one. The file is locked before it is changed, where its
 /// file system has locks; one that is locked already is refused. Throws Failure.
-FileDescriptor OpenForWriting(const std::string& path, WriteMode mode);
-/// The same in an open folder, in the mode Replace.
-FileDescriptor OpenForWriting(const FileDescriptor& folder, const std::string& name);
+File OpenForWriting(const std::string& path, WriteMode mode);
 
 /// The bytes of a file, none for one that does not exist. Nothing for what cannot be read, is no regular file
 /// or has more than 1 MiB.
@@ -93,9 +90,7 @@ std::optional<std::string> ReadSmallFile(const std::string& path);
 /// Throws Failure.
 void SyncEntry(const std::string& path);
 
-/// Opens a folder, also through a link. Throws Failure.
-FileDescriptor OpenFolder(const std::string& path);
-/// Opens an open folder once more, for a walk of its own. Throws Failure.
-FileDescriptor OpenFolder(const FileDescriptor& folder);
+/// Gives an entry another path; fails where that is taken. Throws Failure.
+void Rename(const std::string& oldPath, const std::string& newPath);
 
 }  // namespace halvenmoor::system

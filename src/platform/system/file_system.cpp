@@ -5,49 +5,38 @@
 #include "platform/system/streams.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdint>
 #include <string>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
 namespace halvenmoor::system {
 namespace {
 
-/// A folder by its descriptor, so that it stays the same one whatever happens to its path.
 class DiskFolder : public platform::Folder {
 public:
-    explicit DiskFolder(FileDescriptor folder) : folder_(std::move(folder)) {}
+    explicit DiskFolder(std::string path) : folder_(std::move(path)) {}
 
     std::vector<std::string> Files() const override {
-        Directory directory(OpenFolder(folder_));
+        Directory directory(folder_);
         std::vector<std::string> names;
-        while (const dirent* entry = directory.Next()) {
-            if (directory.KindOf(*entry) != Kind::Folder) names.emplace_back(entry->d_name);
+        while (directory.Next()) {
+            if (directory.KindOfEntry() != Kind::Folder) names.emplace_back(directory.Name());
         }
         std::sort(names.begin(), names.end());
         return names;
     }
 
-    void Delete(std::string_view name) override {
-        if (::unlinkat(folder_.Get(), SystemPath(OwnName(name)), 0) != 0) throw SystemFailure(errno);
-    }
+    void Delete(std::string_view name) override { folder_.Delete(name); }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view name) override {
-        return std::make_unique<DiskTextWriter>(OpenForWriting(folder_, OwnName(name)));
+        return std::make_unique<DiskTextWriter>(folder_.Create(name));
     }
 
-    void Sync() const override { folder_.SyncFileSystem(); }
+    void Sync() const override { folder_.SyncFiles(); }
 
 private:
-    /// The name, which must not lead out of the folder.
-    static std::string OwnName(std::string_view name) {
-        if (name.find('/') != std::string_view::npos) throw SystemFailure(ENOENT);
-        return std::string(name);
-    }
-
-    FileDescriptor folder_;
+    OpenFolder folder_;
 };
 
 class DiskFileSystemObject : public platform::FileSystemObject {
@@ -63,7 +52,7 @@ public:
     }
 
     std::unique_ptr<platform::Folder> GetFolder(std::string_view path) override {
-        return std::make_unique<DiskFolder>(OpenFolder(finder_.Find(path)));
+        return std::make_unique<DiskFolder>(finder_.Find(path));
     }
 
     std::unique_ptr<platform::TextWriter> CreateTextFile(std::string_view path) override {
@@ -71,7 +60,7 @@ public:
     }
 
     std::unique_ptr<platform::TextReader> OpenTextFile(std::string_view path) override {
-        FileDescriptor file = OpenForReading(finder_.Find(path));
+        File file = OpenForReading(finder_.Find(path));
         const std::uint64_t size = file.Size();
         return std::make_unique<DiskTextReader>(std::move(file), size);
     }
@@ -82,7 +71,7 @@ public:
 
 private:
     static std::unique_ptr<platform::TextWriter> Writer(std::string path, WriteMode mode) {
-        FileDescriptor file = OpenForWriting(path, mode);
+        File file = OpenForWriting(path, mode);
         return std::make_unique<DiskTextWriter>(std::move(file), std::move(path));
     }
 

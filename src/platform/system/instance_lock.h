@@ -36,8 +36,8 @@ private:
 
     std::string folder_;
     State state_ = State::Unasked;
-    std::optional<FileDescriptor> file_;
-    std::optional<FileDescriptor> socket_;
+    std::optional<File> file_;
+    std::optional<File> socket_;
 };
 
 }  // namespace halvenmoor::system

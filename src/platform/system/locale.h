@@ -4,17 +4,20 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace halvenmoor::system {
 
-/// Regional settings of a system whose own texts are UTF-8.
+/// Regional settings. The program's own texts are UTF-8 in files, so that these are the same on each system.
 class SystemLocale : public platform::Locale {
 public:
-    /// A language such as "de_DE.UTF-8", and one character in UTF-8.
-    SystemLocale(std::string_view languageTag, std::string decimalSeparator);
+    /// The code page outlives the locale; the separator is one character in UTF-8.
+    SystemLocale(const text::CodePage& page, std::string decimalSeparator)
+        : page_(page), decimalSeparator_(std::move(decimalSeparator)) {}
 
-    /// The settings that the environment asks for; the locale of the C library is left alone.
-    static SystemLocale FromEnvironment();
+    /// The settings of the user: on Linux those that the environment asks for. The locale of the C library
+    /// is left alone.
+    static SystemLocale OfUser();
 
     const text::CodePage& CodePage() const override { return page_; }
     std::string DecimalSeparator() const override { return decimalSeparator_; }

@@ -24,10 +24,14 @@ public:
     void SaveSetting(std::string_view application, std::string_view section, std::string_view name,
                      std::string_view value) override;
 
-    /// In the user's folder for options, as the environment names it.
+    /// In the user's folder for options, as the system names it.
     static std::string UserFolder();
 
 private:
+    /// Puts a new file of this text into the place of the old one, behind all links, and makes the folder if
+    /// need be. If that fails, the old one stays as it was.
+    static void Store(const std::string& path, std::string_view text);
+
     using Key = std::pair<std::string, std::string>;  // the section and the key in the file
 
     std::string path_;

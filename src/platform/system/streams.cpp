@@ -3,7 +3,6 @@
 #include "base/failure.h"
 
 #include <algorithm>
-#include <cerrno>
 
 namespace halvenmoor::system {
 namespace {
@@ -12,13 +11,13 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-InputBuffer::InputBuffer(FileDescriptor file, std::uint64_t size)
+InputBuffer::InputBuffer(File file, std::uint64_t size)
     : file_(std::move(file)),
       capacity_(kBufferSize),
       buffer_(std::make_unique_for_overwrite<char[]>(kBufferSize)),
       unreadSize_(size) {
     // The size of a file that the system makes up at each read is 0.
-    if (size == 0 && file_.Read({buffer_.get(), 1}) != 0) throw SystemFailure(EIO);
+    if (size == 0 && file_.Read({buffer_.get(), 1}) != 0) throw AccessFailure();
 }
 
 bool InputBuffer::Fill() {
@@ -26,7 +25,7 @@ bool InputBuffer::Fill() {
     MakeSpace();
     const std::size_t wanted = std::min<std::uint64_t>(capacity_ - end_, unreadSize_);
     const std::size_t count = file_.Read({buffer_.get() + end_, wanted});
-    if (count == 0) throw SystemFailure(EIO);
+    if (count == 0) throw AccessFailure();
     unreadSize_ -= count;
     end_ += count;
     return true;
@@ -95,7 +94,7 @@ std::size_t DiskByteReader::Read(std::span<char> buffer) {
     return done;
 }
 
-DiskTextWriter::DiskTextWriter(FileDescriptor file, std::string path)
+DiskTextWriter::DiskTextWriter(File file, std::string path)
     : file_(std::move(file)),
       path_(std::move(path)),
       wholeSize_(file_.Size()),
@@ -105,7 +104,7 @@ DiskTextWriter::DiskTextWriter(FileDescriptor file, std::string path)
 void DiskTextWriter::WriteLine(std::initializer_list<std::string_view> parts) {
     constexpr std::string_view kLineEnd = "\r\n";
     ThrowIfFailed();
-    if (!file_.IsOpen()) throw SystemFailure(EBADF);
+    if (!file_.IsOpen()) throw AccessFailure();
     std::size_t lineSize = kLineEnd.size();
     for (const std::string_view part : parts) lineSize += part.size();
     if (lineSize > capacity_ - size_) Reserve(lineSize);

@@ -22,7 +22,7 @@ inline constexpr std::size_t kBufferSize = 64 * 1024;
 class InputBuffer {
 public:
     /// The size of the file in bytes. Throws Failure if that is 0, but the file is not empty.
-    InputBuffer(FileDescriptor file, std::uint64_t size);
+    InputBuffer(File file, std::uint64_t size);
 
     /// The bytes that are left of the file, read or not.
     std::uint64_t Remaining() const { return unreadSize_ + Unread().size(); }
@@ -40,7 +40,7 @@ public:
 private:
     void MakeSpace();
 
-    FileDescriptor file_;
+    File file_;
     std::size_t capacity_;
     std::unique_ptr<char[]> buffer_;
     std::size_t begin_ = 0;
@@ -51,7 +51,7 @@ private:
 class DiskTextReader : public platform::TextReader {
 public:
     /// The size of the file in bytes.
-    DiskTextReader(FileDescriptor file, std::uint64_t size) : input_(std::move(file), size) {}
+    DiskTextReader(File file, std::uint64_t size) : input_(std::move(file), size) {}
 
     bool AtEndOfStream() override;
     std::string_view ReadLine() override;
@@ -67,7 +67,7 @@ private:
 class DiskByteReader : public platform::ByteReader {
 public:
     /// The size of the file in bytes.
-    DiskByteReader(FileDescriptor file, std::uint64_t size) : input_(std::move(file), size) {}
+    DiskByteReader(File file, std::uint64_t size) : input_(std::move(file), size) {}
 
     std::size_t Read(std::span<char> buffer) override;
     std::uint64_t Remaining() const override { return input_.Remaining(); }
@@ -82,7 +82,7 @@ class DiskTextWriter : public platform::TextWriter {
 public:
     /// Lines are added behind the present bytes. Without the file's path, Sync passes over its entry in the
     /// folder.
-    explicit DiskTextWriter(FileDescriptor file, std::string path = {});
+    explicit DiskTextWriter(File file, std::string path = {});
     ~DiskTextWriter() override { Flush(); }
 
     void WriteLine(std::initializer_list<std::string_view> parts) override;
@@ -96,7 +96,7 @@ private:
         if (error_ != 0) throw SystemFailure(error_);
     }
 
-    FileDescriptor file_;
+    File file_;
     const std::string path_;
     std::uint64_t wholeSize_;
     std::size_t capacity_ = kBufferSize;
