@@ -15,12 +15,14 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <vector>
 
 using namespace halvenmoor;
 
 int main(int argc, char** argv) {
     system::PrepareProcess();
-    if (argc != 2) {
+    const std::vector<std::string> arguments = system::Arguments(argc, argv);
+    if (arguments.size() != 1) {
         std::cerr << "usage: journey PROGRAM_FOLDER < steps\n";
         return 2;
     }
@@ -28,7 +30,7 @@ int main(int argc, char** argv) {
     const auto finder = system::MakePathFinder(locale.CodePage());
     system::DiskFileSystem fileSystem(*finder);
     system::DiskHostFiles hostFiles(*finder);
-    headless::HeadlessPlatform platform(argv[1], [](const std::string&) {});
+    headless::HeadlessPlatform platform(arguments[0], [](const std::string&) {});
     Program program(platform.With(fileSystem, hostFiles, locale), platform.toolkit);
     program.Start();
     StepPlayer player(program, platform);

@@ -15,4 +15,8 @@ void PrepareProcess() {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
+std::vector<std::string> Arguments(int count, char** values) {
+    return {values + 1, values + count};
+}
+
 }  // namespace halvenmoor::system

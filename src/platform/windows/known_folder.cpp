@@ -1,0 +1,17 @@
+#include "platform/windows/known_folder.h"
+
+#include "platform/windows/paths.h"
+
+#include <memory>
+#include <shlobj.h>
+
+namespace halvenmoor::system {
+
+std::string FolderIn(const GUID& knownFolder) {
+    wchar_t* found = nullptr;
+    const bool isKnown = SUCCEEDED(::SHGetKnownFolderPath(knownFolder, 0, nullptr, &found));
+    const std::unique_ptr<wchar_t, decltype([](wchar_t* text) { ::CoTaskMemFree(text); })> path(found);
+    return (isKnown ? FromSystemPath(path.get()) : std::string()) + R"(\halvenmoor)";
+}
+
+}  // namespace halvenmoor::system
