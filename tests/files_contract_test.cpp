@@ -1,45 +1,10 @@
 // What files must do, on the disk and in its fake in memory alike.
 
-#include "platform/fakes/memory_files.h"
-#include "tests/support/temporary_folder.h"
-#include "tools/file_helpers.h"
-
-#include <array>
-#include <gtest/gtest.h>
+#include "tests/support/files_contract.h"
 
 namespace halvenmoor {
 namespace {
 
-struct RealFiles : FilesOnDisk {
-    std::string Root() const { return folder.Path(); }
-    void AddFolder(const std::string& name) { folder.AddFolder(name); }
-    void Put(const std::string& name, const std::string& bytes) { folder.Put(name, bytes); }
-    std::string Text(const std::string& name) const { return folder.Text(name); }
-};
-
-struct FilesInMemory {
-    fakes::MemoryFiles files;
-    platform::FileSystem& fileSystem = files;
-    platform::HostFiles& hostFiles = files;
-
-    std::string Root() const { return "/program"; }
-    void AddFolder(const std::string& name) { files.AddFolder(Root() + '/' + name); }
-    void Put(const std::string& name, const std::string& bytes) { files.Put(Root() + '/' + name, bytes); }
-    std::string Text(const std::string& name) const { return files.Text(Root() + '/' + name); }
-};
-
-template <class Files>
-class FilesContract : public testing::Test {
-protected:
-    std::string At(const std::string& name) const { return disk.Root() + '/' + name; }
-    Strings LinesOf(const std::string& name) { return ReadLines(disk.fileSystem, At(name)); }
-
-    Files disk;
-    std::unique_ptr<platform::FileSystemObject> object = disk.fileSystem.CreateFileSystemObject();
-    platform::HostFiles& host = disk.hostFiles;
-};
-
-using Implementations = testing::Types<RealFiles, FilesInMemory>;
 TYPED_TEST_SUITE(FilesContract, Implementations);
 
 TYPED_TEST(FilesContract, LinesEndAtCrLfOrLfOnly) {
@@ -106,58 +71,20 @@ TYPED_TEST(FilesContract, WritersEndLinesWithCrLf) {
     EXPECT_EQ(this->disk.Text("Target.txt"), "no line end now\r\n") << "without Close";
 }
 
-TYPED_TEST(FilesContract, WritesToTheFileThatIsFoundOrANewOneInTheFolderThatIsFound) {
-    this->disk.Put("ASC/old.asc", "old");
-    const auto write = [this](const std::string& name) {
-        this->object->CreateTextFile(this->At(name))->WriteLine(name);
-    };
-    EXPECT_EQ(this->host.FindFile(this->At("asc/OLD.asc")), this->At("ASC/old.asc"));
-    EXPECT_EQ(this->host.FindFile(this->At("asc")), std::nullopt) << "a folder";
-    write("asc/Old.asc");
-    this->disk.Put("ASC/OLD.asc", "exact");
-    write("asc/OLD.asc");
-    EXPECT_EQ(this->host.FindFile(this->At("asc/New.asc")), std::nullopt);
-    write("asc/New.asc");
-    EXPECT_EQ(this->object->GetFolder(this->At("asc"))->Files(), (Strings{"New.asc", "OLD.asc", "old.asc"}));
-    EXPECT_EQ(this->disk.Text("ASC/old.asc"), "asc/Old.asc\r\n");
-    EXPECT_EQ(this->disk.Text("ASC/OLD.asc"), "asc/OLD.asc\r\n");
-}
-
-TYPED_TEST(FilesContract, FindsIgnoringCaseTheExactNameFirst) {
-    this->disk.Put("Asc/M\xC3\xBCnchen 50.ASC", "utf-8");
-    this->disk.Put("Asc/K\xF6ln.asc", "code page");
-    this->disk.Put("Asc/b.asc", "b");
-    this->disk.Put("Asc/B.ASC", "B");
-    this->disk.Put("Asc/B.asc", "B.");
-    for (const std::string name : {"ccc", "CCC", "ccC"}) this->disk.Put("Asc/" + name, name);
-    const std::array<std::string, 2> found[] = {{"Asc/b.asc", "b"},
-                                                {"asc/b.asc", "b"},
-                                                {"asc/cCC", "CCC"},
-                                                {"ASC//b.Asc", "B"},
-                                                {"Asc/b.ASC/", "B"},
-                                                {"asc/M\xC3\x9CNCHEN 50.asc", "utf-8"},
-                                                {"asc/K\xC3\x96LN.asc", "code page"}};
-    for (const auto& [name, line] : found) EXPECT_EQ(this->LinesOf(name), Strings{line}) << name;
-    EXPECT_FALSE(this->object->FileExists(this->At("ASC/KOLN.asc")));
-
-    EXPECT_TRUE(this->object->FolderExists(this->At("asc/")));
-    EXPECT_FALSE(this->object->FileExists(this->At("asc")));
-    EXPECT_FALSE(this->object->FolderExists(this->At("asc/b.asc")));
-    EXPECT_FALSE(this->object->FileExists(this->At("asc/b.asc/c")));
-    EXPECT_FALSE(this->object->FileExists(this->At(std::string("asc/b.asc\0x", 11))));
-}
-
 TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
     this->disk.AddFolder("asc/folder.asc");
-    for (const char* name : {"asc/b.asc", "asc/C.txt", "asc/.hidden", "asc/\xE4", "asc/folder.asc/below"}) {
+    for (const char* name :
+         {"asc/b.asc", "asc/C.txt", "asc/read-only.asc", "asc/\xC3\xA4", "asc/folder.asc/below"}) {
         this->disk.Put(name, "");
     }
+    this->disk.MakeReadOnly("asc/read-only.asc");
     const auto folder = this->object->GetFolder(this->At("ASC"));
-    EXPECT_EQ(folder->Files(), (Strings{".hidden", "C.txt", "b.asc", "\xE4"}));
+    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "b.asc", "read-only.asc", "\xC3\xA4"}));
     folder->Delete("b.asc");
-    folder->Delete(".hidden");
-    folder->CreateTextFile("c.TXT");
-    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "c.TXT", "\xE4"}));
+    folder->Delete("read-only.asc");
+    folder->CreateTextFile("new.TXT");
+    folder->Sync();
+    EXPECT_EQ(folder->Files(), (Strings{"C.txt", "new.TXT", "\xC3\xA4"}));
     for (const char* name : {"b.asc", "folder.asc", "folder.asc/below", "..", ""}) {
         EXPECT_NE(FailureNumber([&] { folder->Delete(name); }), 0) << name;
     }
@@ -165,13 +92,39 @@ TYPED_TEST(FilesContract, AFolderHoldsEveryFileButNoFolder) {
     EXPECT_EQ(this->disk.Text("asc/folder.asc/below"), "");
 }
 
-TYPED_TEST(FilesContract, SearchLeavesOutHiddenNamesAndFolders) {
+TYPED_TEST(FilesContract, SearchLeavesOutHiddenFilesAndFolders) {
     this->disk.AddFolder("asc/folder.asc");
-    for (const char* name : {"asc/.asc", "asc/.hidden.asc", "asc/X.ASC", "asc/x.asc", "asc/y.txt",
-                             "asc/z.asc.old", "asc/asc", "asc/\xE4.Asc", "asc/folder.asc/below.asc"}) {
+    for (const char* name : {"asc/hidden.asc", "asc/X.ASC", "asc/y.txt", "asc/z.asc.old", "asc/asc",
+                             "asc/\xC3\xA4.Asc", "asc/folder.asc/below.asc"}) {
         this->disk.Put(name, "");
     }
-    EXPECT_EQ(Search(this->host, this->At("Asc/")), (Strings{"X.ASC", "x.asc", "\xE4.Asc"}));
+    const std::string hidden = this->disk.Hide("asc/hidden.asc");
+    EXPECT_EQ(Search(this->host, this->At("Asc/")), (Strings{"X.ASC", "\xC3\xA4.Asc"}));
+
+    const auto folder = this->object->GetFolder(this->At("asc"));
+    EXPECT_EQ(folder->Files().size(), 6u) << "with the hidden one";
+    this->object->CreateTextFile(hidden)->WriteLine("written");
+    EXPECT_EQ(ReadLines(this->disk.fileSystem, hidden), Strings{"written"});
+    folder->Delete(hidden.substr(hidden.rfind('/') + 1));
+    EXPECT_EQ(folder->Files().size(), 5u);
+}
+
+TYPED_TEST(FilesContract, NamesMayHoldAnyCharacterAndPathsMayBeLong) {
+    const std::string deep =
+        "asc/" + std::string(100, 'a') + '/' + std::string(100, 'b') + '/' + std::string(100, 'c');
+    this->disk.AddFolder(deep);
+    const std::string names[] = {"\xCE\xA9 \xE6\xBC\xA2\xE5\xAD\x97.asc", "\xF0\x9F\x98\x80.asc",
+                                 "a'%&#$~;,=+[]{}.asc"};
+    for (const std::string& name : names) {
+        const std::string path = deep + '/' + name;
+        this->object->CreateTextFile(this->At(path))->WriteLine(name);
+        EXPECT_EQ(Search(this->host, this->At(deep)), Strings{name});
+        EXPECT_EQ(this->LinesOf(path), Strings{name});
+        EXPECT_EQ(this->disk.Text(path), name + "\r\n");
+        this->host.Rename(this->At(path), this->At(deep + "/new " + name));
+        this->object->GetFolder(this->At(deep))->Delete("new " + name);
+    }
+    EXPECT_EQ(Search(this->host, this->At(deep)), Strings{});
 }
 
 TYPED_TEST(FilesContract, RenameNeverReplaces) {

@@ -72,7 +72,7 @@ TEST_F(NamesTest, TextsAreFoundInTheLanguageFile) {
 
 TEST_F(NamesTest, EveryLanguageThatComesWithTheProgramIsComplete) {
     for (const auto& entry : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-        SCOPED_TRACE(entry.path());
+        SCOPED_TRACE(FromStandard(entry.path()));
         std::string file = BytesOf(entry);
         program.memory.Put("/p/lang/test.ini", file);
         EXPECT_TRUE(text::IsValidUtf8(file));

@@ -37,7 +37,7 @@ class AllWindows : public ProgramWindows {
 protected:
     AllWindows() {
         for (const auto& file : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-            memory.Put("/p/lang/" + file.path().filename().string(), BytesOf(file));
+            memory.Put("/p/lang/" + FromStandard(file.path().filename()), BytesOf(file));
         }
         AddDemoFile("camera", "");
         program.Start();

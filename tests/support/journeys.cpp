@@ -46,7 +46,7 @@ void ExpectConsistentExport(JourneyProgram& program, const Outcome& whole, int m
     const auto lines = std::count(target.begin(), target.end(), '\n');
     const auto& counters = program.Exports().CamerasExported;
     EXPECT_EQ(std::accumulate(counters.begin(), counters.end(), 0),
-              std::max(lines - (mode == 3 ? 2 : 1), 0L));
+              std::max(lines - (mode == 3 ? 2 : 1), std::ptrdiff_t{0}));
 
     const bool hasResults = program.memory.Has("/p/Export Results.txt");
     if (!program.Window().ResultsValid) {

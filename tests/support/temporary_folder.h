@@ -3,6 +3,7 @@
 #include "platform/system/file_system.h"
 #include "platform/system/host_files.h"
 #include "platform/system/path_finder.h"
+#include "tests/support/system_files.h"
 
 #include <algorithm>
 #include <csignal>
@@ -10,8 +11,8 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <random>
 #include <stdexcept>
-#include <stdlib.h>
 #include <string>
 #include <sys/resource.h>
 #include <vector>
@@ -27,14 +28,18 @@ inline std::string BytesOf(const std::filesystem::path& path) {
 /// A fresh folder on the disk, deleted with all that is in it at the end.
 class TemporaryFolder {
 public:
-    TemporaryFolder() : path_((std::filesystem::temp_directory_path() / "halvenmoor-test-XXXXXX").string()) {
-        if (::mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder: " + path_);
+    TemporaryFolder() {
+        const std::string prefix = FromStandard(std::filesystem::temp_directory_path() / "halvenmoor-test-");
+        std::random_device random;
+        do {
+            path_ = prefix + std::to_string(random());
+        } while (!std::filesystem::create_directory(ToStandard(path_)));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
+        std::filesystem::remove_all(ToStandard(path_), ignored);
     }
 
     /// Without a separator at its end.
@@ -43,11 +48,13 @@ public:
     /// The full path of something in the folder.
     std::string operator/(const std::string& name) const { return path_ + '/' + name; }
 
-    void AddFolder(const std::string& name) const { std::filesystem::create_directories(*this / name); }
+    void AddFolder(const std::string& name) const {
+        std::filesystem::create_directories(ToStandard(*this / name));
+    }
 
     /// Makes or replaces a file, and makes the folders above it.
     void Put(const std::string& name, const std::string& bytes) const {
-        const std::filesystem::path path = *this / name;
+        const std::filesystem::path path = ToStandard(*this / name);
         std::filesystem::create_directories(path.parent_path());
         std::ofstream file(path, std::ios::binary);
         if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
@@ -58,13 +65,13 @@ public:
     /// The names of what is directly in it, sorted.
     std::vector<std::string> Names() const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_))
-            names.push_back(entry.path().filename());
+        for (const auto& entry : std::filesystem::directory_iterator(ToStandard(path_)))
+            names.push_back(FromStandard(entry.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }
 
-    std::string Text(const std::string& name) const { return BytesOf(*this / name); }
+    std::string Text(const std::string& name) const { return BytesOf(ToStandard(*this / name)); }
 
 private:
     std::string path_;
