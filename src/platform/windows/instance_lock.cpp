@@ -32,7 +32,9 @@ SystemInstanceLock::State SystemInstanceLock::Lock() {
     file_.emplace(MakeFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                          FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr)));
     if (file_->IsOpen()) return State::Held;
-    return ::GetLastError() == ERROR_SHARING_VIOLATION ? State::HeldByOther : State::Impossible;
+    if (::GetLastError() != ERROR_SHARING_VIOLATION) return State::Impossible;
+    ::AllowSetForegroundWindow(ASFW_ANY);  // else only this process could bring a window to the front
+    return State::HeldByOther;
 }
 
 std::string SystemInstanceLock::UserFolder() {
