@@ -1,9 +1,9 @@
 #include "platform/qt/services/file_dialogs.h"
 
+#include "platform/qt/windows/conversions.h"
 #include "platform/qt/windows/form_window.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -51,13 +51,13 @@ PathDialog::PathDialog(const platform::FileDialog& dialog, platform::HostFiles& 
     setWindowTitle(QString::fromStdString(dialog.title));
     setNameFilters(NameFilters(dialog.filter));
     setDefaultSuffix(QString::fromStdString(dialog.defaultExtension));
-    setDirectory(QFile::decodeName(dialog.folder.c_str()));
+    setDirectory(FromPath(dialog.folder));
     selectFile(QString::fromStdString(dialog.suggestedName));
 }
 
 std::optional<std::string> PathDialog::Ask() {
     if (exec() != Accepted || selectedFiles().isEmpty()) return std::nullopt;
-    return QFile::encodeName(selectedFiles().constFirst()).toStdString();
+    return ToPath(selectedFiles().constFirst());
 }
 
 void PathDialog::accept() {
@@ -73,9 +73,9 @@ void PathDialog::accept() {
 }
 
 bool PathDialog::MayBeWritten(const QString& path) {
-    const std::optional<std::string> file = files_.FindFile(QFile::encodeName(path).toStdString());
+    const std::optional<std::string> file = files_.FindFile(ToPath(path));
     if (!file) return true;
-    const QString name = QFileInfo(QFile::decodeName(file->c_str())).fileName();
+    const QString name = QFileInfo(FromPath(*file)).fileName();
     const QString question = tr("%1 already exists.\nDo you want to replace it?").arg(name);
     return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
                                 QMessageBox::No) == QMessageBox::Yes;

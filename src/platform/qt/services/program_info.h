@@ -16,7 +16,7 @@ public:
     bool PreviousInstance() override { return !guard_.IsFirst(); }
     void ActivatePreviousInstance() override { guard_.RaiseOther(); }
     std::string ProgramFolder() const override { return programFolder_; }
-    char Separator() const override { return '/'; }
+    char Separator() const override;
     platform::ProgramVersion Version() const override;
     platform::ScreenSize Screen() const override;
 

@@ -42,8 +42,9 @@ void Translation::SetLanguage(std::string_view name) {
                      [&](const Language& known) { return text::EqualIgnoringCase(known.name, name, page); });
     if (language == std::end(kLanguages)) return;
     const QString file = QStringLiteral("qtbase_") + language->locale;
-    if (translator_.load(file, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator_);
+    const bool isLoaded = translator_.load(file, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+                          translator_.load(file, QStringLiteral(":/translations"));
+    if (isLoaded) QCoreApplication::installTranslator(&translator_);
 }
 
 }  // namespace halvenmoor::qt

@@ -2,6 +2,7 @@
 
 #include "base/text/decode.h"
 
+#include <QDir>
 #include <cmath>
 
 namespace halvenmoor::qt {
@@ -46,6 +47,14 @@ QString WithoutShortcut(QString text) {
 QList<QKeySequence> ToKeys(const std::string& name) {
     if (name == "Enter") return {Qt::Key_Return, Qt::Key_Enter};
     return {QKeySequence(QString::fromStdString(name), QKeySequence::PortableText)};
+}
+
+std::string ToPath(const QString& path) {
+    return QDir::toNativeSeparators(path).toStdString();
+}
+
+QString FromPath(const std::string& path) {
+    return QString::fromStdString(path);
 }
 
 QFont ToFont(const forms::Font& font) {

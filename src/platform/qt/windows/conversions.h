@@ -26,6 +26,10 @@ QString ToText(std::string_view bytes, const text::CodePage& page);
 /// The same for one row of a list: characters that would break the line show as their signs.
 QString ToRow(std::string_view bytes, const text::CodePage& page);
 
+// Paths as the rest of the program has them, with the system's own separator.
+std::string ToPath(const QString& path);
+QString FromPath(const std::string& path);
+
 /// A text for a control that would take an & for the mark of a shortcut.
 QString WithoutShortcut(QString text);
 

@@ -56,6 +56,7 @@ FormWindow::~FormWindow() {
 
 void FormWindow::Show() {
     show();
+    activateWindow();  // Windows leaves that out for a tool window
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::Place, Qt::UniqueConnection);
 }
 
