@@ -43,11 +43,11 @@ int main(int, char** arguments) {
     system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     system::SettingsFile settings;
-    system::SystemInstanceLock instanceLock;
+    const auto instanceLock = system::MakeInstanceLock();
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     const std::optional<std::string> programFolder = FindProgramFolder(qt.messages);
     if (!programFolder) return EXIT_FAILURE;
-    qt::QtProgramInfo programInfo(instanceLock, *programFolder);
+    qt::QtProgramInfo programInfo(*instanceLock, *programFolder);
     Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
                      qt.browser, qt.theme, locale},
                     qt.toolkit);

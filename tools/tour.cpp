@@ -203,8 +203,8 @@ int Tour(char* programName, const fs::path& source, const fs::path& output) {
     system::SystemClock clock;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qt::QtPlatform qt(programName, locale, hostFiles);
-    system::SystemInstanceLock instanceLock(fs::absolute(runtime).string());
-    qt::QtProgramInfo programInfo(instanceLock, fs::absolute(folder).string());
+    const auto instanceLock = system::MakeInstanceLock(fs::absolute(runtime).string());
+    qt::QtProgramInfo programInfo(*instanceLock, fs::absolute(folder).string());
     system::SettingsFile settings(fs::absolute(output / "options").string());
     Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
                      qt.browser, qt.theme, locale},

@@ -141,8 +141,8 @@ TEST_F(KillTest, TheNextInstanceIsTheFirst) {
         char name[] = "halvenmoor";
         char* arguments[] = {name, nullptr};
         const QCoreApplication application(count, arguments);
-        system::SystemInstanceLock lock(folder.Path());
-        return qt::InstanceGuard(lock).IsFirst();
+        const auto lock = system::MakeInstanceLock(folder.Path());
+        return qt::InstanceGuard(*lock).IsFirst();
     };
     Sweep([] {}, [&] { isFirst(); },
           [&] {

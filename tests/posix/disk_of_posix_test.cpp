@@ -1,5 +1,6 @@
 // What only a disk of POSIX has: pipes, links, devices, folders that move while they are open.
 
+#include "platform/system/instance_lock.h"
 #include "platform/system/locale.h"
 #include "platform/system/process.h"
 #include "platform/system/settings_file.h"
@@ -119,6 +120,32 @@ TEST(ProcessTest, HasStandardStreamsAndFailuresInPlaceOfSignals) {
         return ::open("/", O_RDONLY);
     };
     EXPECT_EXIT(::_exit(lowestNumber() > STDERR_FILENO ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST(InstanceLock, NeedsAFolderThatIsItsUsersAlone) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory_symlink(folder.Path(), folder / "link");
+    folder.AddFolder("open");
+    std::filesystem::permissions(folder / "open", std::filesystem::perms(0755));
+    for (const char* const name : {"link", "open", "missing"}) {
+        const auto lock = system::MakeInstanceLock(folder / name);
+        testing::internal::CaptureStderr();
+        EXPECT_TRUE(lock->IsFirst()) << name;
+        EXPECT_TRUE(
+            testing::internal::GetCapturedStderr().starts_with("halvenmoor: no lock in " + folder / name));
+        EXPECT_EQ(lock->Listen(), std::nullopt) << name;
+    }
+}
+
+TEST(InstanceLock, SendsWithoutWaiting) {
+    const TemporaryFolder folder;
+    const auto first = system::MakeInstanceLock(folder.Path());
+    const auto second = system::MakeInstanceLock(folder.Path());
+    ASSERT_TRUE(first->IsFirst());
+    ASSERT_TRUE(first->Listen().has_value());
+    ASSERT_FALSE(second->IsFirst());
+    for (int i = 0; i < 5000; ++i) second->Send("one of more than fit");
+    EXPECT_EQ(first->Receive(), "one of more than fit");
 }
 
 TEST(DiskLocaleTest, FollowsTheEnvironmentAndNotTheCLibrary) {

@@ -12,6 +12,7 @@
 #include "window_fixture.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -138,10 +139,10 @@ TEST(Translation, HasQtsWordsInTheLanguagesOfTheProgram) {
 }
 
 struct Instance {
-    explicit Instance(const TemporaryFolder& folder) : lock(folder.Path()) {}
+    explicit Instance(const TemporaryFolder& folder) : lock(system::MakeInstanceLock(folder.Path())) {}
 
-    system::SystemInstanceLock lock;
-    InstanceGuard guard{lock};
+    std::unique_ptr<platform::InstanceLock> lock;
+    InstanceGuard guard{*lock};
 };
 
 TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
@@ -158,7 +159,7 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     const std::string tooLong = "raise " + std::string(platform::InstanceLock::kMaxMessage, 'x');
     const auto sendStrangeOnes = [&] {
         for (const std::string& message : {"stop"s, "raise"s, ""s, "\0raise "s, tooLong})
-            second.lock.Send(message);
+            second.lock->Send(message);
     };
     sendStrangeOnes();
     qputenv("XDG_ACTIVATION_TOKEN", "token-1");
@@ -167,40 +168,25 @@ TEST(InstanceGuard, LetsOneInstanceStayAndCallsItForward) {
     second.guard.RaiseOther();
     EXPECT_TRUE(QTest::qWaitFor([&tokens] { return tokens.size() == 2; }));
     EXPECT_EQ(tokens, (std::vector<std::string>{"token-1", ""}));
-    for (int i = 0; i < 1000; ++i) sendStrangeOnes();  // nobody takes them, and nobody waits for it
 
     first.reset();
     Instance(folder).guard.RaiseOther();
     EXPECT_TRUE(Instance(folder).guard.IsFirst()) << "a later start";
 }
 
-TEST(InstanceGuard, NeedsAFolderThatIsItsUsersAlone) {
-    const TemporaryFolder folder;
-    std::filesystem::create_directory_symlink(folder.Path(), folder / "link");
-    folder.AddFolder("open");
-    std::filesystem::permissions(folder / "open", std::filesystem::perms(0755));
-    for (const char* const name : {"link", "open", "missing"}) {
-        system::SystemInstanceLock lock(folder / name);
-        testing::internal::CaptureStderr();
-        EXPECT_TRUE(lock.IsFirst()) << name;
-        EXPECT_TRUE(
-            testing::internal::GetCapturedStderr().starts_with("halvenmoor: no lock in " + folder / name));
-        EXPECT_EQ(lock.Listen(), std::nullopt) << name;
-    }
-}
-
 TEST_F(Window, IsRaisedAndRestored) {
     const TemporaryFolder folder;
-    system::SystemInstanceLock lock(folder.Path());
-    system::SystemInstanceLock secondLock(folder.Path());
-    QtProgramInfo first(lock, "");
-    QtProgramInfo second(secondLock, "");
+    const auto lock = system::MakeInstanceLock(folder.Path());
+    const auto secondLock = system::MakeInstanceLock(folder.Path());
+    QtProgramInfo first(*lock, "");
+    QtProgramInfo second(*secondLock, "");
     EXPECT_FALSE(first.PreviousInstance());
     EXPECT_TRUE(second.PreviousInstance());
     Root().setWindowState(Qt::WindowMinimized);
     second.ActivatePreviousInstance();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Root().isMinimized(); }));
-    EXPECT_EQ(first.ProgramFolder(), QCoreApplication::applicationDirPath().toStdString());
+    EXPECT_EQ(first.ProgramFolder(),
+              QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString());
     EXPECT_EQ(first.Version().major, 3);
     EXPECT_GT(first.Screen().width, 0);
 }

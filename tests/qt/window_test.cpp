@@ -131,6 +131,7 @@ TEST_F(Window, DrawsOnTheCanvasAtOnce) {
     EXPECT_EQ(all.right, 98);
     EXPECT_EQ(all.bottom, 48);
     form.picture.SetBordered(false);
+    desktop.Yield();
     EXPECT_EQ(form.picture.GetCanvas()->ClientRect().right, 100);
 
     constexpr forms::Color kBlue = forms::Rgb(0, 0, 255);

@@ -34,6 +34,7 @@ public:
         do {
             path_ = prefix + std::to_string(random());
         } while (!std::filesystem::create_directory(ToStandard(path_)));
+        std::filesystem::permissions(ToStandard(path_), std::filesystem::perms::owner_all);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -46,7 +47,7 @@ public:
     const std::string& Path() const { return path_; }
 
     /// The full path of something in the folder.
-    std::string operator/(const std::string& name) const { return path_ + '/' + name; }
+    std::string operator/(const std::string& name) const { return path_ + kSeparator + name; }
 
     void AddFolder(const std::string& name) const {
         std::filesystem::create_directories(ToStandard(*this / name));
@@ -74,6 +75,8 @@ public:
     std::string Text(const std::string& name) const { return BytesOf(ToStandard(*this / name)); }
 
 private:
+    static constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+
     std::string path_;
 };
 

@@ -1,11 +1,15 @@
 #include "platform/system/instance_lock.h"
 
 #include "platform/posix/system_calls.h"
+#include "platform/system/file.h"
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <fcntl.h>
 #include <iostream>
+#include <optional>
+#include <string_view>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -36,16 +40,36 @@ sockaddr_un SocketAddress(const std::string& path) {
     return address;
 }
 
-}  // namespace
+class FileLock : public platform::InstanceLock {
+public:
+    explicit FileLock(std::string folder);
+    ~FileLock() override;
 
-SystemInstanceLock::SystemInstanceLock(std::string folder) : folder_(std::move(folder)) {
+    bool IsFirst() override;
+    std::optional<std::intptr_t> Listen() override;
+    std::optional<std::string> Receive() override;
+    void Send(std::string_view message) override;
+
+private:
+    enum class State { Unasked, Held, HeldByOther, Impossible };
+
+    State Lock();
+    std::string SocketPath() const { return folder_ + "/halvenmoor.socket"; }
+
+    std::string folder_;
+    State state_ = State::Unasked;
+    std::optional<File> file_;
+    std::optional<File> socket_;
+};
+
+FileLock::FileLock(std::string folder) : folder_(std::move(folder)) {
 }
 
-SystemInstanceLock::~SystemInstanceLock() {
+FileLock::~FileLock() {
     if (socket_) ::unlink(SocketPath().c_str());  // the lock is still held, so it is the own one
 }
 
-bool SystemInstanceLock::IsFirst() {
+bool FileLock::IsFirst() {
     if (state_ != State::Unasked) return state_ != State::HeldByOther;
     state_ = Lock();
     if (state_ == State::Impossible)
@@ -53,7 +77,7 @@ bool SystemInstanceLock::IsFirst() {
     return state_ != State::HeldByOther;
 }
 
-std::optional<std::intptr_t> SystemInstanceLock::Listen() {
+std::optional<std::intptr_t> FileLock::Listen() {
     if (state_ != State::Held) return std::nullopt;
     const std::string path = SocketPath();
     const sockaddr_un address = SocketAddress(path);
@@ -67,7 +91,7 @@ std::optional<std::intptr_t> SystemInstanceLock::Listen() {
     return std::nullopt;
 }
 
-std::optional<std::string> SystemInstanceLock::Receive() {
+std::optional<std::string> FileLock::Receive() {
     std::array<char, kMaxMessage> message;
     const ssize_t size = ::recv(DescriptorOf(*socket_), message.data(), message.size(), MSG_TRUNC);
     if (size < 0) return std::nullopt;
@@ -75,14 +99,14 @@ std::optional<std::string> SystemInstanceLock::Receive() {
     return std::string(message.data(), static_cast<std::size_t>(size));
 }
 
-void SystemInstanceLock::Send(std::string_view message) {
+void FileLock::Send(std::string_view message) {
     const sockaddr_un address = SocketAddress(SocketPath());
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so the system wants it
     ::sendto(DescriptorOf(MessageSocket()), message.data(), message.size(), 0,
              reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }
 
-SystemInstanceLock::State SystemInstanceLock::Lock() {
+FileLock::State FileLock::Lock() {
     if (!IsPrivateFolder(folder_)) return State::Impossible;
     const std::string path = folder_ + "/halvenmoor.lock";  // the file stays, locked or not
     file_.emplace(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
@@ -91,13 +115,19 @@ SystemInstanceLock::State SystemInstanceLock::Lock() {
     return errno == EWOULDBLOCK ? State::HeldByOther : State::Impossible;
 }
 
-std::string SystemInstanceLock::UserFolder() {
+}  // namespace
+
+std::string LockFolder() {
     const std::string user = std::to_string(::geteuid());
     std::string folder = "/run/user/" + user;
     if (IsPrivateFolder(folder)) return folder;
     folder = "/tmp/halvenmoor-" + user;
     ::mkdir(folder.c_str(), S_IRWXU);  // it may be there already
     return folder;
+}
+
+std::unique_ptr<platform::InstanceLock> MakeInstanceLock(std::string folder) {
+    return std::make_unique<FileLock>(std::move(folder));
 }
 
 }  // namespace halvenmoor::system

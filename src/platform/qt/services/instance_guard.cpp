@@ -1,6 +1,7 @@
 #include "platform/qt/services/instance_guard.h"
 
-#include <QSocketNotifier>
+#include "platform/qt/services/notifier.h"
+
 #include <cstdint>
 #include <optional>
 
@@ -17,8 +18,6 @@ constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
 InstanceGuard::InstanceGuard(platform::InstanceLock& lock) : lock_(lock) {
 }
 
-InstanceGuard::~InstanceGuard() = default;
-
 bool InstanceGuard::IsFirst() {
     const bool isFirst = lock_.IsFirst();
     if (isFirst && notifier_ == nullptr) Listen();
@@ -28,8 +27,7 @@ bool InstanceGuard::IsFirst() {
 void InstanceGuard::Listen() {
     const std::optional<std::intptr_t> ready = lock_.Listen();
     if (!ready) return;
-    notifier_ = std::make_unique<QSocketNotifier>(*ready, QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
+    notifier_ = NotifyWhenReady(*ready, [this] {
         if (const std::optional<std::string> message = lock_.Receive()) HandleMessage(*message);
     });
 }

@@ -2,12 +2,11 @@
 
 #include "platform/instance_lock.h"
 
+#include <QObject>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-
-class QSocketNotifier;
 
 namespace halvenmoor::qt {
 
@@ -17,7 +16,6 @@ class InstanceGuard {
 public:
     /// The lock must outlive it.
     explicit InstanceGuard(platform::InstanceLock& lock);
-    ~InstanceGuard();
 
     /// Whether no other instance was running. The first call decides for good.
     bool IsFirst();
@@ -33,7 +31,7 @@ private:
     void HandleMessage(std::string_view message) const;
 
     platform::InstanceLock& lock_;
-    std::unique_ptr<QSocketNotifier> notifier_;
+    std::unique_ptr<QObject> notifier_;
 };
 
 }  // namespace halvenmoor::qt
