@@ -109,6 +109,15 @@ TYPED_TEST(FilesContract, SearchLeavesOutHiddenFilesAndFolders) {
     EXPECT_EQ(folder->Files().size(), 5u);
 }
 
+TYPED_TEST(FilesContract, FindsAFileIgnoringCaseByItsTrueName) {
+    this->disk.Put("asc/M\xC3\xBCnchen 50.ASC", "old");
+    EXPECT_EQ(this->host.FindFile(this->At("asc/m\xC3\x9CNCHEN 50.asc")),
+              this->At("asc/M\xC3\xBCnchen 50.ASC"));
+    EXPECT_EQ(this->LinesOf("ASC/M\xC3\x9CNCHEN 50.asc"), Strings{"old"});
+    EXPECT_EQ(this->host.FindFile(this->At("asc/")), std::nullopt) << "a folder";
+    EXPECT_FALSE(this->object->FileExists(this->At("asc/none")));
+}
+
 TYPED_TEST(FilesContract, NamesMayHoldAnyCharacterAndPathsMayBeLong) {
     const std::string deep =
         "asc/" + std::string(100, 'a') + '/' + std::string(100, 'b') + '/' + std::string(100, 'c');

@@ -10,7 +10,7 @@ namespace halvenmoor::system {
 
 /// Tells where a path leads without regard to letter case, on a system that has regard to it: part by part,
 /// the exact name first, then of the names that are equal ignoring case the one with the smallest bytes.
-/// Where the system itself ignores the case, the paths are those that were given.
+/// Where the system itself ignores the case, only the name at the end is that of the disk.
 class PathFinder {
 public:
     virtual ~PathFinder() = default;
