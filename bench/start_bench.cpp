@@ -32,10 +32,10 @@ int main(int count, char** arguments) {
     system::DiskHostFiles hostFiles(*finder);
     system::SystemClock clock;
     system::SettingsFile settings(arguments[2]);
-    system::SystemInstanceLock instanceLock(arguments[2]);
+    const auto instanceLock = system::MakeInstanceLock(arguments[2]);
     qt::QtPlatform qt(arguments[0], locale, hostFiles);
     const FirstPaint firstPaint(count > 3);
-    qt::QtProgramInfo programInfo(instanceLock, arguments[1]);
+    qt::QtProgramInfo programInfo(*instanceLock, arguments[1]);
     Program program({fileSystem, hostFiles, programInfo, clock, settings, qt.messages, qt.fileDialogs,
                      qt.browser, qt.theme, locale},
                     qt.toolkit);

@@ -1,5 +1,6 @@
 // The whole program on a real disk that is full, closed to it, or not what it expects.
 
+#include "tests/posix/size_limit.h"
 #include "tests/support/disk_program.h"
 #include "tests/support/journeys.h"
 

@@ -4,14 +4,6 @@ namespace halvenmoor {
 
 namespace fs = std::filesystem;
 
-fs::path ToStandard(const std::string& path) {
-    return path;
-}
-
-std::string FromStandard(const fs::path& path) {
-    return path.native();
-}
-
 std::string Hide(const std::string& path) {
     const fs::path hidden = fs::path(path).parent_path() / ('.' + fs::path(path).filename().native());
     fs::rename(path, hidden);

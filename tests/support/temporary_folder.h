@@ -6,7 +6,6 @@
 #include "tests/support/system_files.h"
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -14,7 +13,6 @@
 #include <random>
 #include <stdexcept>
 #include <string>
-#include <sys/resource.h>
 #include <vector>
 
 namespace halvenmoor {
@@ -79,19 +77,6 @@ private:
 
     std::string path_;
 };
-
-/// Does the job while files grow no larger than this: on a disk that is full there.
-auto WithSizeLimit(rlim_t bytes, const auto& job) {
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{bytes, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    const auto result = job();
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    return result;
-}
 
 /// The real disk, with a folder on it.
 struct FilesOnDisk {

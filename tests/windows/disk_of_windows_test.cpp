@@ -1,5 +1,7 @@
 // What only a disk of Windows has: names that lead to devices, units that are no UTF-16, attributes.
 
+#include "platform/system/program_folder.h"
+#include "platform/system/user_folder.h"
 #include "platform/windows/paths.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/file_helpers.h"
@@ -70,6 +72,21 @@ TEST(PathsTest, EachRowOfUnitsHasBytesOfItsOwn) {
     for (const char* const bytes :
          {"\x80", "\xC0\x80", "\xE0\x80\x80", "\xC3", "\xF4\x90\x80\x80", "\xFF", "\xC3(", "\xE4.asc"})
         EXPECT_EQ(system::ToWide(bytes), std::nullopt) << testing::PrintToString(bytes);
+}
+
+TEST_F(DiskOfWindows, TheFolderOfAUserGetsCopiesOfWhatIsAbsent) {
+    folder.Put("program/Settings.ini", "new");
+    folder.Put("program/lang/\xCE\xB5\xCE\xBB.ini", "greek");
+    folder.Put("program/demo/asc_demo/a_50.asc", "a");
+    folder.Put("own/settings.INI", "changed");
+    for (int i = 0; i < 2; ++i) system::CompleteUserFolder(folder / "own", folder / "program");
+    EXPECT_EQ(folder.Text("own/Settings.ini"), "changed");
+    EXPECT_EQ(folder.Text("own/lang/\xCE\xB5\xCE\xBB.ini"), "greek");
+    EXPECT_EQ(folder.Text("own/demo/asc_demo/a_50.asc"), "a");
+    EXPECT_EQ(Search(host, folder / "own/import/txt"), Strings{});
+    EXPECT_EQ(system::ProgramFolder(folder / "program"), folder / "program");
+    EXPECT_EQ(FailureNumber([&] { system::CompleteUserFolder(folder / "no/own", folder / "program"); }),
+              failure::PathNotFound);
 }
 
 TEST_F(DiskOfWindows, SystemFilesAreHiddenAndReadOnlyOnesStay) {

@@ -6,14 +6,6 @@
 
 namespace halvenmoor {
 
-std::filesystem::path ToStandard(const std::string& path) {
-    return system::SystemPath(path);
-}
-
-std::string FromStandard(const std::filesystem::path& path) {
-    return system::FromSystemPath(path.native());
-}
-
 std::string Hide(const std::string& path) {
     ::SetFileAttributesW(system::SystemPath(path).c_str(), FILE_ATTRIBUTE_HIDDEN);
     return path;

@@ -196,6 +196,12 @@ void OpenFolder::Delete(std::string_view name) const {
     if (::unlinkat(DescriptorOf(handle_), SystemPath(OwnName(name)), 0) != 0) throw SystemFailure(errno);
 }
 
+File OpenFolder::WaitForLock() const {
+    File again = Open(DescriptorOf(handle_), ".", O_RDONLY | O_DIRECTORY);
+    ::flock(DescriptorOf(again), LOCK_EX);
+    return again;
+}
+
 void OpenFolder::SyncFiles() const {
     ThrowIfNotSynced(Uninterrupted([&] { return ::syncfs(DescriptorOf(handle_)); }));
 }

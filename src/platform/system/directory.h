@@ -23,6 +23,8 @@ public:
     File Create(std::string_view name) const;
     /// Deletes a file, even if it is read-only; a link is deleted as a link. Throws Failure.
     void Delete(std::string_view name) const;
+    /// Waits until no other process has locked it, and locks it for as long as the result lives.
+    File WaitForLock() const;
     /// Returns when its files are on the medium. Throws Failure.
     void SyncFiles() const;
 

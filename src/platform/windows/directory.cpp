@@ -62,6 +62,19 @@ void OpenFolder::Delete(std::string_view name) const {
     throw failure;
 }
 
+// Folders take no locks, so a file that is shared for nothing stands for it.
+File OpenFolder::WaitForLock() const {
+    const std::wstring path = SystemPath(PathIn(*this, ".halvenmoor-lock"));
+    while (true) {
+        File lock = MakeFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                           FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+        if (lock.IsOpen()) return lock;
+        if (::GetLastError() != ERROR_SHARING_VIOLATION) throw LastFailure();
+        constexpr DWORD kMilliseconds = 20;
+        ::Sleep(kMilliseconds);
+    }
+}
+
 void OpenFolder::SyncFiles() const {
     Directory directory(*this);
     while (directory.Next()) {

@@ -94,7 +94,7 @@ void FileLock::Send(std::string_view message) {
 }  // namespace
 
 std::string LockFolder() {
-    return FolderIn(FOLDERID_LocalAppData);
+    return KnownFolder(FOLDERID_LocalAppData) + R"(\halvenmoor)";
 }
 
 std::unique_ptr<platform::InstanceLock> MakeInstanceLock(std::string folder) {

@@ -7,11 +7,11 @@
 
 namespace halvenmoor::system {
 
-std::string FolderIn(const GUID& knownFolder) {
+std::string KnownFolder(const GUID& knownFolder) {
     wchar_t* found = nullptr;
     const bool isKnown = SUCCEEDED(::SHGetKnownFolderPath(knownFolder, 0, nullptr, &found));
     const std::unique_ptr<wchar_t, decltype([](wchar_t* text) { ::CoTaskMemFree(text); })> path(found);
-    return (isKnown ? FromSystemPath(path.get()) : std::string()) + R"(\halvenmoor)";
+    return isKnown ? FromSystemPath(path.get()) : std::string();
 }
 
 }  // namespace halvenmoor::system

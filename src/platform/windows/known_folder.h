@@ -5,7 +5,7 @@
 
 namespace halvenmoor::system {
 
-/// The program's own folder in one of the known folders of the user; it need not exist.
-std::string FolderIn(const GUID& knownFolder);
+/// The path of one of the folders that Windows has for the user, empty if it does not tell.
+std::string KnownFolder(const GUID& knownFolder);
 
 }  // namespace halvenmoor::system

@@ -51,7 +51,7 @@ void SettingsFile::Store(const std::string& path, std::string_view text) {
 }
 
 std::string SettingsFile::UserFolder() {
-    return FolderIn(FOLDERID_RoamingAppData);
+    return KnownFolder(FOLDERID_RoamingAppData) + R"(\halvenmoor)";
 }
 
 }  // namespace halvenmoor::system
