@@ -129,8 +129,9 @@ TEST(Translation, HasQtsWordsInTheLanguagesOfTheProgram) {
     Translation translation;
     std::vector<std::string> english;
     for (const auto& entry : std::filesystem::directory_iterator(HALVENMOOR_DATA "/lang")) {
-        translation.SetLanguage(entry.path().stem().string());
-        if (QFileDialog::tr("Look in:") == "Look in:") english.push_back(entry.path().stem().string());
+        const std::string name = FromStandard(entry.path().stem());
+        translation.SetLanguage(name);
+        if (QFileDialog::tr("Look in:") == "Look in:") english.push_back(name);
     }
     std::sort(english.begin(), english.end());
     EXPECT_EQ(english, (std::vector<std::string>{"română", "slovenščina", "svenska", "ελληνικά"}));
