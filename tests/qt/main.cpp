@@ -13,11 +13,12 @@ namespace {
 constexpr QLatin1String kExpected[] = {QLatin1String("This plugin does not support raise()"),
                                        QLatin1String("This plugin does not support propagateSizeHints()")};
 
-// How that begins which Wine lacks, and Windows has: stock icons, and the drawing of captions at other
-// scales.
+// How that begins which Wine lacks, and Windows has: stock icons, captions at other scales, and off-screen a
+// folder of fonts.
 constexpr QLatin1String kExpectedOfWine[] = {
     QLatin1String("EnableNonClientDpiScaling() failed"),
     QLatin1String("SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) failed"),
+    QLatin1String("QFontDatabase: Cannot find font directory"),
     QLatin1String("QPixmap::fromWinHICON(), failed to GetIconInfo()")};
 
 bool IsExpected(const QString& message) {
