@@ -8,13 +8,12 @@
 #include "platform/system/path_finder.h"
 #include "platform/system/process.h"
 #include "platform/system/program_folder.h"
+#include "platform/system/standard_path.h"
 
 #include <cstdio>
-#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
-#include <system_error>
 #include <vector>
 
 using namespace halvenmoor;
@@ -57,11 +56,8 @@ std::optional<std::string> FindProgramFolder(const std::optional<std::string>& w
                                              platform::FileSystem& fileSystem) {
     try {
         const std::string folder = wanted ? *wanted : system::ProgramFolder();
-        std::error_code error;
-        std::string realFolder = std::filesystem::canonical(folder, error).string();
-        const bool isProgramFolder =
-            !error && fileSystem.CreateFileSystemObject()->FileExists(realFolder + "/Settings.ini");
-        if (isProgramFolder) return realFolder;
+        if (fileSystem.CreateFileSystemObject()->FileExists(folder + "/Settings.ini"))
+            return system::WithoutLinks(folder);
         Tell("no program folder: " + folder);
     } catch (const Failure& failure) {
         Tell(std::string("no program folder: ") + failure.what());
@@ -85,7 +81,7 @@ int PlaySteps(StepPlayer& player, const std::vector<Step>& steps, const Lines& t
 
 int main(int argc, char** argv) {
     system::PrepareProcess();
-    Lines texts(argv + 1, argv + argc);
+    Lines texts = system::Arguments(argc, argv);
     std::optional<std::string> wantedFolder;
     if (texts.size() >= 2 && texts[0] == "--folder") {
         wantedFolder = texts[1];

@@ -6,6 +6,7 @@
 #include "platform/headless/list_actions.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <iostream>
 #include <numeric>
 #include <utility>
@@ -101,7 +102,7 @@ std::size_t StepPlayer::SortedFiles() {
 
 /// A relative path starts at the program folder.
 std::string StepPlayer::TargetPath(const std::string& path) const {
-    if (path.empty() || path.front() == '/') return path;
+    if (path.empty() || std::filesystem::path(path).is_absolute()) return path;
     return platform_.programInfo.ProgramFolder() + "/" + path;
 }
 

@@ -61,14 +61,6 @@ bool IsOutdatedLink(const std::string& path, const std::string& part) {
            FromStandard(fs::read_symlink(ToStandard(path))).ends_with('/' + part);
 }
 
-/// The path without links, or as it is where the standard library does not manage that, as on Windows.
-std::string WithoutLinks(const std::string& path) {
-    if (!EntryExists(path)) throw Failure(failure::FileNotFound, "File not found");
-    std::error_code error;
-    const fs::path real = fs::canonical(ToStandard(path), error);
-    return error ? path : FromStandard(real);
-}
-
 class Completion {
 public:
     Completion(std::string folder, std::string data) : folder_(std::move(folder)), data_(std::move(data)) {}
@@ -100,7 +92,8 @@ private:
         const std::string source = Join(data_, part);
         if (EntryExists(place) || !EntryExists(source)) return;
         const std::string unfinished = Join(ParentOf(place), ".halvenmoor-unfinished");
-        if (EntryExists(unfinished)) fs::remove_all(ToStandard(unfinished));  // of a start that did not get to its end
+        if (EntryExists(unfinished))
+            fs::remove_all(ToStandard(unfinished));  // of a start that did not get to its end
         Copy(source, unfinished);
         OpenFolder(ParentOf(place)).SyncFiles();
         fs::rename(ToStandard(unfinished), ToStandard(place));
