@@ -1,13 +1,14 @@
 #include "platform/qt/services/browser.h"
 
+#include "platform/qt/windows/conversions.h"
+
 #include <QDesktopServices>
-#include <QFile>
 #include <QUrl>
 
 namespace halvenmoor::qt {
 
 void QtBrowser::Open(const std::string& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(path.c_str())));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(FromPath(path)));
 }
 
 }  // namespace halvenmoor::qt
