@@ -25,6 +25,6 @@ set(CPACK_PACKAGE_FILE_NAME halvenmoor-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_P
 set(CPACK_STRIP_FILES ON)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/repack.cmake)
 find_program(DPKG_SHLIBDEPS dpkg-shlibdeps)
-if(DPKG_SHLIBDEPS AND NOT WIN32)
+if(DPKG_SHLIBDEPS)
   include(debian/package.cmake)
 endif()

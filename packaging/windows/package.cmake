@@ -1,21 +1,48 @@
-# What the program has on Windows beside what it has everywhere.
-set(windows_icon ${CMAKE_CURRENT_BINARY_DIR}/halvenmoor.ico)
-foreach(size 16 24 32 48 64 128 256)
-  set(file ${CMAKE_CURRENT_BINARY_DIR}/icon/${size}.png)
-  render_picture(${icon} ${file} ${size} ${size})
-  list(APPEND windows_sizes ${file})
-endforeach()
-set(windows_arguments ${windows_sizes})
-list(TRANSFORM windows_arguments REPLACE "^.*/256.png$" "--raw=\\0") # as PNG: the largest takes too much as it is
-add_custom_command(
-  OUTPUT ${windows_icon}
-  COMMAND icotool --create --output=${windows_icon} ${windows_arguments}
-  DEPENDS ${windows_sizes}
-  VERBATIM)
-add_custom_target(windows_icon DEPENDS ${windows_icon})
+# What the program folder and the program have on Windows beside what they have everywhere, and the packages for it.
 
-# Icon, version and manifest stand in the program file itself.
-configure_file(windows/halvenmoor.rc.in halvenmoor.rc @ONLY)
-configure_file(windows/halvenmoor.manifest.in halvenmoor.manifest @ONLY)
-target_sources(halvenmoor PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/halvenmoor.rc)
-add_dependencies(halvenmoor windows_icon)
+# The icon; the largest size goes in as PNG, which is much smaller.
+set(icon_file ${CMAKE_CURRENT_BINARY_DIR}/halvenmoor.ico)
+foreach(size 16 24 32 48 64 128)
+  render_picture(${icon} ${CMAKE_CURRENT_BINARY_DIR}/icon/${size}.png ${size} ${size})
+  list(APPEND small_icons ${CMAKE_CURRENT_BINARY_DIR}/icon/${size}.png)
+endforeach()
+set(large_icon ${CMAKE_CURRENT_BINARY_DIR}/icon/256.png)
+render_picture(${icon} ${large_icon} 256 256)
+find_program(ICOTOOL icotool REQUIRED) # in Debian's package icoutils
+add_custom_command(
+  OUTPUT ${icon_file}
+  COMMAND ${ICOTOOL} --create --output=${icon_file} ${small_icons} --raw=${large_icon}
+  DEPENDS ${small_icons} ${large_icon}
+  VERBATIM)
+add_custom_target(windows_icon DEPENDS ${icon_file})
+
+# add_resources(PROGRAM DESCRIPTION): icon, version and manifest, which Windows reads from the program itself.
+set(manifest ${CMAKE_CURRENT_SOURCE_DIR}/windows/halvenmoor.manifest)
+string(REPLACE . , VERSION_NUMBERS ${PROJECT_VERSION}.0.0)
+function(add_resources program DESCRIPTION)
+  set(PROGRAM ${program})
+  set(resources ${CMAKE_CURRENT_BINARY_DIR}/${program}.rc)
+  configure_file(windows/resources.rc.in ${resources} @ONLY)
+  target_sources(${program} PRIVATE ${resources})
+  set_source_files_properties(${resources} TARGET_DIRECTORY ${program} PROPERTIES OBJECT_DEPENDS
+                                                                                 "${icon_file};${manifest}")
+  add_dependencies(${program} windows_icon)
+endfunction()
+add_resources(halvenmoor "Halvenmoor")
+add_resources(halvenmoor-batch "Halvenmoor without a window")
+
+configure_file(windows/README.txt ${companions}/README.txt NEWLINE_STYLE CRLF)
+
+# The licences of what is linked into the program, from the Debian packages that it is built with.
+set(licences ${companions}/licences)
+if(EXISTS /usr/share/doc/qt6-base-dev/copyright)
+  configure_file(windows/licences.txt.in ${licences}/README.txt NEWLINE_STYLE CRLF)
+  configure_file(/usr/share/doc/qt6-base-dev/copyright ${licences}/Qt.txt COPYONLY)
+  configure_file(/usr/share/doc/mingw-w64-x86-64-dev/copyright ${licences}/mingw-w64.txt COPYONLY)
+  configure_file(/usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright ${licences}/GCC.txt COPYONLY)
+  foreach(licence GPL-3 LGPL-3)
+    configure_file(/usr/share/common-licenses/${licence} ${licences}/${licence}.txt COPYONLY)
+  endforeach()
+else()
+  message(STATUS "The licences of Qt and the compiler are not there, so do not hand on what cpack makes.")
+endif()
