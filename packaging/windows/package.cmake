@@ -46,3 +46,11 @@ if(EXISTS /usr/share/doc/qt6-base-dev/copyright)
 else()
   message(STATUS "The licences of Qt and the compiler are not there, so do not hand on what cpack makes.")
 endif()
+
+# cpack makes an archive and a setup program of the installed program folder.
+set(CPACK_GENERATOR External)
+set(CPACK_EXTERNAL_ENABLE_STAGING ON)
+set(CPACK_EXTERNAL_PACKAGE_SCRIPT ${CMAKE_CURRENT_SOURCE_DIR}/windows/pack.cmake)
+set(CPACK_PACKAGE_FILE_NAME halvenmoor-${PROJECT_VERSION})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_HALVENMOOR_ICON ${icon_file})
