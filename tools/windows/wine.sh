@@ -10,6 +10,8 @@ begin_wine() {
     end_wine
     trap end_wine EXIT
     timeout 180 wineboot -i </dev/null >/dev/null 2>&1
+    # The oldest Windows that Qt knows.
+    timeout 60 wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f </dev/null >/dev/null 2>&1
     # Windows without a screen; nothing but pictures is missing.
     timeout 60 wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f </dev/null >/dev/null 2>&1
     timeout 60 wineserver -k || true
