@@ -86,6 +86,7 @@ FunctionEnd
 
 Section
     !insertmacro EnsureClosed halvenmoor.exe
+    !insertmacro EnsureClosed halvenmoor-batch.exe
 
     ; An older version goes first, with what the user has not changed of it.
     InitPluginsDir
@@ -147,6 +148,7 @@ FunctionEnd
 
 Section Uninstall
     !insertmacro EnsureClosed halvenmoor.exe
+    !insertmacro EnsureClosed halvenmoor-batch.exe
     InitPluginsDir
     !insertmacro RemoveProgramFiles
     !insertmacro RemoveUserFiles
