@@ -42,5 +42,5 @@ SCREEN_READER_PACKAGES="at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xvfb" # fo
 # The compiler for Windows; Qt's tools that run while building are those of Debian's Qt.
 WINDOWS_BUILD_PACKAGES="g++-mingw-w64-x86-64-posix cmake ninja-build qt6-base-dev qt6-base-dev-tools libgtest-dev librsvg2-bin
     icoutils qt6-l10n-tools qt6-translations-l10n python3 $MANUAL_PACKAGES"
-WINDOWS_PACKING_PACKAGES=nsis
+WINDOWS_PACKING_PACKAGES="advancecomp nsis"
 WINE_PACKAGES="wine wine64 fonts-wine"
