@@ -32,6 +32,7 @@ VIAddVersionKey LegalCopyright "MIT licence"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${NSISDIR}/Contrib/Graphics/Wizard/nsis3-grey.bmp"
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Your camera files and exports will be in this folder, too."
 !define MUI_FINISHPAGE_RUN "$INSTDIR\halvenmoor.exe"
 !define MUI_UNCONFIRMPAGE_TEXT_TOP "Halvenmoor will be removed. Files that you have made or changed stay where they are."
