@@ -68,8 +68,8 @@ TEST(QtBrowser, OpensTheFileWhateverItsName) {
     QTextBrowser desktop;
     QDesktopServices::setUrlHandler("file", &desktop, "setSource");
     const TemporaryFolder folder;
-    folder.Put("a #1%20?.html", "words");
-    QtBrowser().Open(folder.Path() + "/a #1%20?.html");
+    folder.Put("a #1%20é.html", "words");
+    QtBrowser().Open(folder.Path() + "/a #1%20é.html");
     QDesktopServices::unsetUrlHandler("file");
     EXPECT_EQ(desktop.toPlainText(), "words");
 }
