@@ -15,8 +15,9 @@ using fuzz::Require;
 namespace {
 
 Strings ReadInOnePiece(std::string_view bytes) {
-    system::File file(memfd_create("text", MFD_CLOEXEC));
-    Require(file.Write(bytes).error == 0 && lseek(file.Get(), 0, SEEK_SET) == 0,
+    const int descriptor = memfd_create("text", MFD_CLOEXEC);
+    system::File file(descriptor);
+    Require(file.Write(bytes).error == 0 && lseek(descriptor, 0, SEEK_SET) == 0,
             "there is memory for the text");
     system::DiskTextReader reader(std::move(file), bytes.size());
     return ReadLines(reader);

@@ -11,7 +11,7 @@ namespace halvenmoor::system {
 
 struct Directory::Walk {
     struct Closer {
-        void operator()(DIR* stream) const noexcept { ::closedir(stream); }
+        void operator()(DIR* opened) const noexcept { ::closedir(opened); }
     };
 
     std::unique_ptr<DIR, Closer> stream;
