@@ -1,5 +1,5 @@
-; The setup program. It is for one user and asks for no administrator, and neither it nor the uninstaller ever replaces or
-; deletes a file that the user has made or changed. The macros of ${FILES} list the files (list_files.py).
+; The setup program. It is for one user and asks for no administrator. Neither it nor the uninstaller replaces or deletes
+; a file that the user has made or changed; only programs, manual and licences are always those of setup. The macros of ${FILES} list the files (list_files.py).
 ;
 ; Both are silent with /S. They end with 2 where they cannot do it, as while the program runs.
 
@@ -9,6 +9,7 @@ ManifestSupportedOS Win10
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
 SetDateSave off
+AllowSkipFiles off
 
 Name Halvenmoor
 OutFile "${SETUP}"
@@ -89,6 +90,15 @@ Section
     !insertmacro EnsureClosed halvenmoor.exe
     !insertmacro EnsureClosed halvenmoor-batch.exe
 
+    ${DirState} "$INSTDIR" $0
+    ${If} $0 = 1 ; it has files, and none of them come from here
+    ${AndIfNot} ${FileExists} "$INSTDIR\demo\*.*"
+    ${AndIfNot} ${FileExists} "$INSTDIR\asc\*.*"
+        MessageBox MB_OK|MB_ICONSTOP "There are other files in $INSTDIR. Please choose a folder of its own." /SD IDOK
+        SetErrorLevel 2
+        Quit
+    ${EndIf}
+
     ; An older version goes first, with what the user has not changed of it.
     InitPluginsDir
     ${If} ${FileExists} "$INSTDIR\uninstall.exe"
@@ -128,8 +138,12 @@ Function un.RemoveIfUnchanged
     ${IfNot} ${FileExists} "$0"
         Return
     ${EndIf}
+    ClearErrors
     FileOpen $1 "$0" r
     FileOpen $2 "$PLUGINSDIR\original" r
+    ${If} ${Errors} ; what cannot be read is not known to be unchanged
+        Return
+    ${EndIf}
     ${Do}
         FileReadByte $1 $3
         FileReadByte $2 $4 ; empty at the end

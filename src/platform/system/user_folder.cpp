@@ -21,7 +21,7 @@ constexpr const char* kFolders[] = {
     "demo", "demo/asc", "demo/txt_demo", "demo/import", "demo/import/ov2", "demo/import/txt"};
 // What the user may change. The demonstration files come together, so a renamed one stays renamed.
 constexpr const char* kCopies[] = {"Settings.ini", "demo/asc_demo"};
-// What comes anew with each version, besides the languages.
+// What each version has anew, besides the languages. Copies, where links cannot be made, stay as they are.
 constexpr const char* kLinks[] = {"manual.html", "manual", "translating.md"};
 
 /// The mode is that of a new file: the data of a package may be closed to writing.
@@ -96,7 +96,7 @@ private:
             fs::remove_all(ToStandard(unfinished));  // of a start that did not get to its end
         Copy(source, unfinished);
         OpenFolder(ParentOf(place)).SyncFiles();
-        fs::rename(ToStandard(unfinished), ToStandard(place));
+        Rename(unfinished, place);  // fails if another file took the place meanwhile
     }
 
     void AddLink(const std::string& part) {

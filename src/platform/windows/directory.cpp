@@ -62,12 +62,13 @@ void OpenFolder::Delete(std::string_view name) const {
     throw failure;
 }
 
-// Folders take no locks, so a file that is shared for nothing stands for it.
+// Folders take no locks, so a file that is shared for nothing stands for it. It stays: one that is about to
+// be deleted could not be opened.
 File OpenFolder::WaitForLock() const {
     const std::wstring path = SystemPath(PathIn(*this, ".halvenmoor-lock"));
     while (true) {
         File lock = MakeFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                                           FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+                                           FILE_ATTRIBUTE_HIDDEN, nullptr));
         if (lock.IsOpen()) return lock;
         if (::GetLastError() != ERROR_SHARING_VIOLATION) throw LastFailure();
         constexpr DWORD kMilliseconds = 20;

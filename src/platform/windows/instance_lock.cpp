@@ -54,10 +54,10 @@ bool FileLock::IsFirst() {
 
 FileLock::State FileLock::Lock() {
     ::CreateDirectoryW(SystemPath(folder_).c_str(), nullptr);  // it may be there already
-    // Nobody else can open a file that is shared for nothing. It goes with the process.
+    // Nobody else can open a file that is shared for nothing until the process has ended. The file stays.
     const std::wstring path = SystemPath(folder_ + R"(\halvenmoor.lock)");
-    file_.emplace(MakeFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                                         FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr)));
+    file_.emplace(MakeFile(
+        ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
     if (file_->IsOpen()) return State::Held;
     return ::GetLastError() == ERROR_SHARING_VIOLATION ? State::HeldByOther : State::Impossible;
 }

@@ -9,7 +9,7 @@ namespace halvenmoor::system {
 
 std::string KnownFolder(const GUID& knownFolder) {
     wchar_t* found = nullptr;
-    const bool isKnown = SUCCEEDED(::SHGetKnownFolderPath(knownFolder, 0, nullptr, &found));
+    const bool isKnown = SUCCEEDED(::SHGetKnownFolderPath(knownFolder, KF_FLAG_DONT_VERIFY, nullptr, &found));
     const std::unique_ptr<wchar_t, decltype([](wchar_t* text) { ::CoTaskMemFree(text); })> path(found);
     return isKnown ? FromSystemPath(path.get()) : std::string();
 }

@@ -11,7 +11,10 @@ namespace {
 class TrueNameFinder : public PathFinder {
 public:
     std::string Find(std::string_view path) override {
+        const std::string_view given = path;
         while (path.ends_with('/') || path.ends_with('\\')) path.remove_suffix(1);
+        const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+        if (name.empty() || name == "." || name == ".." || name.ends_with(':')) return std::string(given);
         WIN32_FIND_DATAW entry{};
         const HANDLE search = ::FindFirstFileExW(SystemPath(path).c_str(), FindExInfoBasic, &entry,
                                                  FindExSearchNameMatch, nullptr, 0);

@@ -24,7 +24,9 @@ std::string ProgramFolder(const std::string& executableFolder) {
     // To add a file is what the system lets a user do or not, whatever the attributes of the folder say.
     const File folder = MakeFile(::CreateFileW(SystemPath(executableFolder).c_str(), FILE_ADD_FILE, kShareAll,
                                                nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    if (folder.IsOpen() || ::GetLastError() != ERROR_ACCESS_DENIED) return executableFolder;
+    if (folder.IsOpen()) return executableFolder;
+    const DWORD error = ::GetLastError();
+    if (error != ERROR_ACCESS_DENIED && error != ERROR_WRITE_PROTECT) return executableFolder;
     std::string own = UserFolder();
     CompleteUserFolder(own, executableFolder);
     return own;

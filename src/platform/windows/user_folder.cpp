@@ -9,8 +9,10 @@ namespace halvenmoor::system {
 
 std::string UserFolder() {
     const wchar_t* const wanted = ::_wgetenv(L"HALVENMOOR_FOLDER");
-    return wanted != nullptr && *wanted != L'\0' ? FromWide(wanted)
-                                                 : KnownFolder(FOLDERID_Documents) + R"(\Halvenmoor)";
+    if (wanted == nullptr || *wanted == L'\0') return KnownFolder(FOLDERID_Documents) + R"(\Halvenmoor)";
+    const std::string folder = FromWide(wanted);
+    const std::string absolute = FromSystemPath(SystemPath(folder));
+    return absolute.empty() ? folder : absolute;
 }
 
 }  // namespace halvenmoor::system
