@@ -31,7 +31,10 @@ void Tell(const std::string& line) {
 
 Lines ReadStandardInput() {
     Lines lines;
-    for (std::string line; std::getline(std::cin, line);) lines.push_back(line);
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line.ends_with('\r')) line.pop_back();  // of an editor on Windows
+        lines.push_back(line);
+    }
     return lines;
 }
 

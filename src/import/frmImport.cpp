@@ -115,7 +115,7 @@ void frmImport::StartImport() {
     ButtonFinish.SetEnabled(true);
     ButtonFinish.SetFocus();
     SetCancelButton(&ButtonFinish);
-    Owner().Announce(EndWords());
+    if (IsOpen()) Owner().Announce(EndWords());
 }
 
 void frmImport::RunImport() {

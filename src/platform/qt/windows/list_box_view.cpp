@@ -122,7 +122,8 @@ bool ListBoxWidget::viewportEvent(QEvent* event) {
     if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) {
         const auto& mouse = static_cast<const QMouseEvent&>(*event);
         clickPending_ = mouse.button() == Qt::LeftButton && indexAt(mouse.position().toPoint()).isValid();
-        doubleClickPending_ = clickPending_ && type == QEvent::MouseButtonDblClick;
+        doubleClickPending_ =
+            clickPending_ && type == QEvent::MouseButtonDblClick && mouse.modifiers() == Qt::NoModifier;
     }
     if (type == QEvent::ToolTip) {
         ShowWholeText(static_cast<const QHelpEvent&>(*event));

@@ -78,7 +78,7 @@ private:
     bool selectionChanged_ = false;
     /// The mouse went down on a row and the list has not heard of it yet.
     bool clickPending_ = false;
-    /// The same for the second click of a double click.
+    /// The mouse went down for the second click of a double click; its release opens what that opens.
     bool doubleClickPending_ = false;
     /// A drag from another list is over this one and would be taken.
     bool isTarget_ = false;

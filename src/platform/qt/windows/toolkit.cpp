@@ -1,6 +1,7 @@
 #include "platform/qt/windows/toolkit.h"
 
 #include "platform/qt/windows/accessibility.h"
+#include "platform/qt/windows/conversions.h"
 #include "platform/qt/windows/form_window.h"
 
 #include <QClipboard>
@@ -66,12 +67,12 @@ bool QtToolkit::YieldIsDue() const {
 }
 
 void QtToolkit::Copy(const std::string& text) {
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    QGuiApplication::clipboard()->setText(ToText(text, page_));
 }
 
 void QtToolkit::Announce(const std::string& text) {
-    QTimer::singleShot(kBeforeAnnouncement, qApp, [text] {
-        if (QWidget* const window = TopWindow()) AnnounceIn(*window, QString::fromStdString(text));
+    QTimer::singleShot(kBeforeAnnouncement, qApp, [words = ToText(text, page_)] {
+        if (QWidget* const window = TopWindow()) AnnounceIn(*window, words);
     });
 }
 
