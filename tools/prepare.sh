@@ -40,7 +40,7 @@ QT_PACKAGES="qt6-base-dev qt6-translations-l10n librsvg2-bin libgl-dev fonts-dej
 MANUAL_PACKAGES="cmark-gfm" # for manual.html in the program folder; everything else goes without
 SCREEN_READER_PACKAGES="at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xvfb" # for tests that read the windows
 # The compiler for Windows; Qt's tools that run while building are those of Debian's Qt.
-WINDOWS_BUILD_PACKAGES="g++-mingw-w64-x86-64-posix cmake ninja-build qt6-base-dev qt6-base-dev-tools libgtest-dev librsvg2-bin
+WINDOWS_BUILD_PACKAGES="g++-mingw-w64-x86-64-posix xz-utils cmake ninja-build qt6-base-dev qt6-base-dev-tools libgtest-dev librsvg2-bin
     icoutils qt6-l10n-tools qt6-translations-l10n python3 $MANUAL_PACKAGES"
 WINDOWS_PACKING_PACKAGES="advancecomp nsis"
 WINE_PACKAGES="wine wine64 fonts-wine"
