@@ -121,7 +121,7 @@ StepResult StepPlayer::Export(int mode, const std::string& path) {
     return Failed(anyFile ? "nothing was written" : "no file to export, nothing was written");
 }
 
-/// What an export leaves out without a word in its windows.
+/// What an export left out although its windows show that it reached its end.
 StepResult StepPlayer::AfterExport(std::size_t sortedFiles) {
     const modExport& exports = program_.Exports();
     const std::size_t missing = sortedFiles - exports.ExportFileTable.size();

@@ -1,7 +1,6 @@
 #include "platform/qt/windows/toolkit.h"
 
 #include "platform/qt/windows/accessibility.h"
-#include "platform/qt/windows/conversions.h"
 #include "platform/qt/windows/form_window.h"
 
 #include <QClipboard>
@@ -67,11 +66,11 @@ bool QtToolkit::YieldIsDue() const {
 }
 
 void QtToolkit::Copy(const std::string& text) {
-    QGuiApplication::clipboard()->setText(ToText(text, page_));
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
 void QtToolkit::Announce(const std::string& text) {
-    QTimer::singleShot(kBeforeAnnouncement, qApp, [words = ToText(text, page_)] {
+    QTimer::singleShot(kBeforeAnnouncement, qApp, [words = QString::fromStdString(text)] {
         if (QWidget* const window = TopWindow()) AnnounceIn(*window, words);
     });
 }
